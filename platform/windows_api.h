@@ -1,0 +1,399 @@
+// The one door between the game and the machine; OpenGL, through <GL/gl.h>, is the other.
+//
+// The game is written as a small Windows program. This header declares exactly the functions,
+// types and constants of that system which the game calls, by their real names and with their real
+// values, and says what the game expects of each. Who provides them is decided by the linker:
+// platform/sdl for play, tests/fakes for the tests. Nothing here is thread-safe; every call is made
+// from the thread that runs WinMain.
+#pragma once
+
+#include <cstdint>
+
+#define WINAPI
+#define CALLBACK
+
+using BOOL = int; // FALSE or TRUE; the game tests for zero and not zero
+using BYTE = std::uint8_t;
+using WORD = std::uint16_t;
+using SHORT = std::int16_t;
+using DWORD = std::uint32_t;
+using UINT = std::uint32_t;
+using LONG = std::int32_t;
+using LONGLONG = std::int64_t;
+using UINT_PTR = std::uintptr_t;
+using DWORD_PTR = std::uintptr_t;
+using WPARAM = std::uintptr_t;
+using LPARAM = std::intptr_t;
+using LRESULT = std::intptr_t;
+using ATOM = WORD;
+using MCIDEVICEID = UINT;
+using MCIERROR = DWORD;
+
+inline constexpr BOOL FALSE = 0;
+inline constexpr BOOL TRUE = 1;
+
+// Handles are opaque; a null handle means "none".
+using HANDLE = void*;
+using HLOCAL = void*;
+using HWND = struct WindowHandle*;
+using HDC = struct DeviceContextHandle*;
+using HGLRC = struct GlContextHandle*;
+using HINSTANCE = struct InstanceHandle*;
+using HMODULE = HINSTANCE;
+using HICON = struct IconHandle*;
+using HCURSOR = HICON;
+using HBRUSH = struct BrushHandle*;
+using HMENU = struct MenuHandle*;
+
+using WNDPROC = LRESULT(CALLBACK*)(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+using TIMERPROC = void(CALLBACK*)(HWND window, UINT message, UINT_PTR timer, DWORD time);
+
+// Entry
+
+// The game's entry: the provider calls it once and ends the process with what it returns.
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, char* commandLine, int showMode);
+
+inline constexpr int SW_SHOW = 5; // the show mode a start by the player carries
+
+// Windows and messages
+
+inline constexpr UINT WM_CREATE = 1;
+inline constexpr UINT WM_DESTROY = 2;
+inline constexpr UINT WM_SETFOCUS = 7;
+inline constexpr UINT WM_KILLFOCUS = 8;
+inline constexpr UINT WM_PAINT = 15;
+inline constexpr UINT WM_CLOSE = 16;
+inline constexpr UINT WM_QUIT = 18;
+inline constexpr UINT WM_KEYDOWN = 256;
+inline constexpr UINT WM_TIMER = 275;
+inline constexpr UINT MM_MCINOTIFY = 953;
+inline constexpr UINT WM_USER = 1024; // private messages of a program start here
+
+inline constexpr DWORD WS_POPUP = 0x80000000;
+inline constexpr DWORD WS_CLIPSIBLINGS = 0x04000000;
+inline constexpr int CW_USEDEFAULT = static_cast<int>(0x80000000);
+inline constexpr int COLOR_WINDOW = 5;
+inline constexpr UINT PM_REMOVE = 1;
+
+struct WNDCLASSA {
+    UINT style;
+    WNDPROC lpfnWndProc;
+    int cbClsExtra;
+    int cbWndExtra;
+    HINSTANCE hInstance;
+    HICON hIcon;
+    HCURSOR hCursor;
+    HBRUSH hbrBackground;
+    const char* lpszMenuName;
+    const char* lpszClassName;
+};
+
+struct POINT {
+    LONG x;
+    LONG y;
+};
+
+struct MSG {
+    HWND hwnd;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    DWORD time;
+    POINT pt;
+};
+
+struct RECT {
+    LONG left;
+    LONG top;
+    LONG right;
+    LONG bottom;
+};
+
+struct PAINTSTRUCT {
+    HDC hdc;
+    BOOL fErase;
+    RECT rcPaint;
+    BOOL fRestore;
+    BOOL fIncUpdate;
+    BYTE rgbReserved[32];
+};
+
+// The standard cursors are named by a number in a pointer.
+inline const char* const IDC_ARROW = reinterpret_cast<const char*>(static_cast<UINT_PTR>(32512));
+
+// The icon of that name in the program's resources, or null when there is none.
+HICON WINAPI LoadIconA(HINSTANCE instance, const char* name);
+
+// The cursor of that name; `instance` is null for the standard ones.
+HCURSOR WINAPI LoadCursorA(HINSTANCE instance, const char* name);
+
+// Registers the one window class of the game. Returns an identifier, 0 on failure.
+ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass);
+
+// Creates the window and, before it returns, sends it WM_CREATE. Returns null on failure.
+// Position and size are in pixels of the 640 x 480 display.
+HWND WINAPI CreateWindowExA(DWORD extendedStyle, const char* className, const char* title,
+                            DWORD style, int x, int y, int width, int height, HWND parent,
+                            HMENU menu, HINSTANCE instance, void* parameter);
+
+// Shows the window. Returns whether it was visible before.
+BOOL WINAPI ShowWindow(HWND window, int showMode);
+
+// Sends WM_PAINT at once when the window waits to be painted.
+BOOL WINAPI UpdateWindow(HWND window);
+
+// Counts up (TRUE) or down (FALSE); the mouse cursor is seen while the count, which starts at 0 and
+// is returned, is 0 or more.
+int WINAPI ShowCursor(BOOL show);
+
+// Takes the next message without waiting: posted messages first, the quit message once no other is
+// left of them, then input, then WM_PAINT, then timers. Returns FALSE when there is none.
+BOOL WINAPI PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
+
+// Offers a key message for translation to characters, which the game does not read.
+BOOL WINAPI TranslateMessage(const MSG* message);
+
+// Hands the message to the window procedure and returns what that returned.
+LRESULT WINAPI DispatchMessageA(const MSG* message);
+
+// Puts a message at the end of the queue. Returns FALSE when it has no room.
+BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Makes the queue give WM_QUIT, with the code as its wParam, once the posted messages are taken.
+void WINAPI PostQuitMessage(int exitCode);
+
+// What a message does when the game does nothing with it. A provider sees to it that close requests
+// reach the game as WM_CLOSE.
+LRESULT WINAPI DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Begins and ends the answer to WM_PAINT; the window no longer waits to be painted.
+HDC WINAPI BeginPaint(HWND window, PAINTSTRUCT* paint);
+BOOL WINAPI EndPaint(HWND window, const PAINTSTRUCT* paint);
+
+// Sends WM_TIMER with the timer's number every `period` milliseconds. Returns 0 on failure.
+UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback);
+
+// The window of the game that has the keyboard focus, or null.
+HWND WINAPI GetFocus();
+
+// Keyboard
+
+inline constexpr int VK_RETURN = 13;
+inline constexpr int VK_SHIFT = 16;
+inline constexpr int VK_ESCAPE = 27;
+inline constexpr int VK_SPACE = 32;
+inline constexpr int VK_LEFT = 37;
+inline constexpr int VK_UP = 38;
+inline constexpr int VK_RIGHT = 39;
+inline constexpr int VK_DOWN = 40;
+inline constexpr int VK_F1 = 112;
+inline constexpr int VK_F2 = 113;
+inline constexpr int VK_F3 = 114;
+inline constexpr int VK_F4 = 115;
+inline constexpr int VK_F5 = 116;
+inline constexpr int VK_F6 = 117;
+inline constexpr int VK_F12 = 123;
+
+// The state of a key now: the most significant bit is set while it is held.
+SHORT WINAPI GetAsyncKeyState(int key);
+
+// Message boxes
+
+inline constexpr UINT MB_OK = 0x00;
+inline constexpr UINT MB_ICONHAND = 0x10;
+inline constexpr UINT MB_ICONINFORMATION = 0x40;
+
+// Shows a box with a text, a caption and a button, and waits until the player closes it. The owner
+// may be null. The result (the button) is not used by the game.
+int WINAPI MessageBoxA(HWND owner, const char* text, const char* caption, UINT type);
+
+// Display settings
+
+inline constexpr DWORD DM_BITSPERPEL = 0x00040000;
+inline constexpr DWORD DM_PELSWIDTH = 0x00080000;
+inline constexpr DWORD DM_PELSHEIGHT = 0x00100000;
+
+inline constexpr LONG DISP_CHANGE_SUCCESSFUL = 0;
+inline constexpr LONG DISP_CHANGE_RESTART = 1;
+inline constexpr LONG DISP_CHANGE_FAILED = -1;
+inline constexpr LONG DISP_CHANGE_BADMODE = -2;
+
+// A display mode; of the system's record the game uses these fields only.
+struct DEVMODEA {
+    WORD dmSize;        // bytes of this record
+    DWORD dmFields;     // which of the fields below are given, a set of DM_ bits
+    DWORD dmBitsPerPel; // bits per pixel
+    DWORD dmPelsWidth;  // pixels
+    DWORD dmPelsHeight; // pixels
+};
+
+// Writes the mode with that index, 0, 1, 2, ..., of the display (null: the primary one). Returns
+// FALSE, leaving the record as it is, when there is no mode with that index.
+BOOL WINAPI EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode);
+
+// Switches the primary display to the mode; null gives the player's own desktop back. Returns a
+// DISP_CHANGE_ value.
+LONG WINAPI ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags);
+
+// Pixel format, buffers and the binding of OpenGL
+
+inline constexpr DWORD PFD_DOUBLEBUFFER = 0x01;
+inline constexpr DWORD PFD_SUPPORT_OPENGL = 0x20;
+inline constexpr DWORD PFD_NEED_PALETTE = 0x80;
+inline constexpr BYTE PFD_TYPE_RGBA = 0;
+inline constexpr BYTE PFD_MAIN_PLANE = 0;
+
+struct PIXELFORMATDESCRIPTOR {
+    WORD nSize;
+    WORD nVersion;
+    DWORD dwFlags;
+    BYTE iPixelType;
+    BYTE cColorBits;
+    BYTE cRedBits;
+    BYTE cRedShift;
+    BYTE cGreenBits;
+    BYTE cGreenShift;
+    BYTE cBlueBits;
+    BYTE cBlueShift;
+    BYTE cAlphaBits;
+    BYTE cAlphaShift;
+    BYTE cAccumBits;
+    BYTE cAccumRedBits;
+    BYTE cAccumGreenBits;
+    BYTE cAccumBlueBits;
+    BYTE cAccumAlphaBits;
+    BYTE cDepthBits;
+    BYTE cStencilBits;
+    BYTE cAuxBuffers;
+    BYTE iLayerType;
+    BYTE bReserved;
+    DWORD dwLayerMask;
+    DWORD dwVisibleMask;
+    DWORD dwDamageMask;
+};
+static_assert(sizeof(PIXELFORMATDESCRIPTOR) == 40);
+
+// The window's drawing surface: 640 x 480 pixels in 16-bit colour, with a 16-bit depth buffer, and
+// the initial viewport over all of it.
+HDC WINAPI GetDC(HWND window);
+int WINAPI ReleaseDC(HWND window, HDC deviceContext);
+
+// The number, from 1, of the format nearest to the one described; 0 on failure (GetLastError).
+int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wanted);
+
+// Describes the format with that number in `size` bytes. Returns 0 on failure.
+int WINAPI DescribePixelFormat(HDC deviceContext, int format, UINT size,
+                               PIXELFORMATDESCRIPTOR* description);
+
+// Gives the surface that format. Returns FALSE on failure (GetLastError).
+BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCRIPTOR* wanted);
+
+// Shows what was drawn. The surface's contents are undefined to the game afterwards.
+BOOL WINAPI SwapBuffers(HDC deviceContext);
+
+// Makes an OpenGL context on the surface, null on failure; binds it to this thread; deletes it.
+HGLRC WINAPI wglCreateContext(HDC deviceContext);
+BOOL WINAPI wglMakeCurrent(HDC deviceContext, HGLRC context);
+BOOL WINAPI wglDeleteContext(HGLRC context);
+
+// Sound
+
+inline constexpr DWORD SND_ASYNC = 0x00001;
+inline constexpr DWORD SND_FILENAME = 0x20000;
+
+// Starts a WAVE file and returns at once; a sound that still plays is cut off. Returns FALSE when
+// it cannot be played, which the game does not mind.
+BOOL WINAPI PlaySoundA(const char* fileName, HMODULE module, DWORD flags);
+
+// Sounds a beep of the system; a type that it does not know gives the default one.
+BOOL WINAPI MessageBeep(UINT type);
+
+// The MIDI sequencer
+
+inline constexpr UINT MCI_OPEN = 0x0803;
+inline constexpr UINT MCI_CLOSE = 0x0804;
+inline constexpr UINT MCI_PLAY = 0x0806;
+inline constexpr UINT MCI_STATUS = 0x0814;
+
+inline constexpr DWORD_PTR MCI_NOTIFY = 0x0001;
+inline constexpr DWORD_PTR MCI_STATUS_ITEM = 0x0100;
+inline constexpr DWORD_PTR MCI_OPEN_ELEMENT = 0x0200;
+inline constexpr DWORD_PTR MCI_OPEN_TYPE = 0x2000;
+inline constexpr DWORD MCI_SEQ_STATUS_PORT = 0x4003;
+inline constexpr WPARAM MCI_NOTIFY_SUCCESSFUL = 1;
+
+struct MCI_OPEN_PARMSA {
+    DWORD_PTR dwCallback;
+    MCIDEVICEID wDeviceID;        // out: the device that was opened
+    const char* lpstrDeviceType;  // "sequencer"
+    const char* lpstrElementName; // the MIDI file
+    const char* lpstrAlias;
+};
+
+struct MCI_STATUS_PARMS {
+    DWORD_PTR dwCallback;
+    DWORD_PTR dwReturn; // out
+    DWORD dwItem;
+    DWORD dwTrack;
+};
+
+struct MCI_PLAY_PARMS {
+    DWORD_PTR dwCallback; // the window to notify
+    DWORD dwFrom;
+    DWORD dwTo;
+};
+
+// Commands a media device; `parameters` is the address of the record that belongs to the command.
+// Returns 0 or an error code. MCI_PLAY with MCI_NOTIFY posts MM_MCINOTIFY to the window when the
+// piece has ended by itself; closing it reports nothing.
+MCIERROR WINAPI mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags,
+                                DWORD_PTR parameters);
+
+// Clock
+
+union LARGE_INTEGER {
+    LONGLONG QuadPart;
+};
+
+// Counts per second, and the count now. The count never stands still between two calls.
+BOOL WINAPI QueryPerformanceFrequency(LARGE_INTEGER* frequency);
+BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* counter);
+
+// Files
+
+inline constexpr DWORD GENERIC_READ = 0x80000000;
+inline constexpr DWORD OPEN_EXISTING = 3;
+inline constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
+inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(~static_cast<UINT_PTR>(0));
+
+struct SECURITY_ATTRIBUTES;
+struct OVERLAPPED;
+
+// Opens a file for reading. Returns INVALID_HANDLE_VALUE on failure.
+HANDLE WINAPI CreateFileA(const char* fileName, DWORD access, DWORD share,
+                          SECURITY_ATTRIBUTES* security, DWORD creation, DWORD attributes,
+                          HANDLE templateFile);
+
+// Reads up to `wanted` bytes. Returns TRUE at the end of the file too, with fewer or no bytes got.
+BOOL WINAPI ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED* overlapped);
+BOOL WINAPI CloseHandle(HANDLE file);
+
+// Errors in the system's words
+
+inline constexpr DWORD FORMAT_MESSAGE_ALLOCATE_BUFFER = 0x0100;
+inline constexpr DWORD FORMAT_MESSAGE_FROM_SYSTEM = 0x1000;
+inline constexpr WORD LANG_NEUTRAL = 0;
+inline constexpr WORD SUBLANG_DEFAULT = 1;
+
+constexpr DWORD MAKELANGID(WORD language, WORD subLanguage) {
+    return static_cast<DWORD>(subLanguage) << 10 | language;
+}
+
+// The code of the last failure on this thread.
+DWORD WINAPI GetLastError();
+
+// With the two flags above: stores the address of a new text for the error, at `*(char**)buffer`,
+// and returns its length, 0 on failure. LocalFree releases the text and returns null.
+DWORD WINAPI FormatMessageA(DWORD flags, const void* source, DWORD error, DWORD language,
+                            char* buffer, DWORD size, void* arguments);
+HLOCAL WINAPI LocalFree(HLOCAL memory);
