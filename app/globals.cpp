@@ -1,0 +1,25 @@
+// The program-wide objects, defined in one file so that they are constructed in this order, before
+// the entry runs, and torn down in reverse after it has returned. Each is declared, and explained,
+// in its own header.
+#include "app/game.h"
+#include "data/best_times.h"
+#include "data/font.h"
+#include "data/level.h"
+#include "sim/camera.h"
+#include "sim/marble.h"
+#include "sim/simulation.h"
+#include "sim/view_frame.h"
+
+GameRecord Game;
+BestTimes bestTimes;
+
+ViewFrame viewFrame;
+Level level;
+Marble marble;
+Font font;
+Vector3 steeringForce;
+Vector3 cameraPosition;
+
+float cameraAngleX = 0.0F;
+float cameraAngleY = 0.0F;
+float cameraAngleZ = 0.0F;

@@ -1,0 +1,40 @@
+// The ten best runs: a table, the file that keeps it, and the end of a run that changes it.
+//
+// A run's result is the sum of its level times. "highScore.dat" in the working directory holds ten
+// records on one line, each a time, a blank, a name and a blank.
+#pragma once
+
+#include "data/tokens.h"
+
+inline constexpr const char* bestTimesFile = "highScore.dat";
+
+inline constexpr int bestTimesShown = 10; // the kept table, best first
+inline constexpr int candidateSlot = 10;  // takes a finished run's total before the sort
+
+inline constexpr const char* candidateName = "_"; // stands until the player has typed a name
+
+struct BestTimeEntry {
+    float time;               // seconds
+    char name[tokenCapacity]; // zero-terminated, without white space
+};
+
+struct BestTimes {
+    BestTimeEntry slots[bestTimesShown + 1];
+};
+
+extern BestTimes bestTimes;
+
+// Fills the table from the file or, where that is missing or short, after a message with defaults:
+// the total of a run in which no level was finished. Always true. Needs Game.levelCount.
+bool loadBestTimes();
+
+// Writes the table to its file; false when that fails. The old file stays until the new one is
+// complete.
+bool saveBestTimes();
+
+// 1 when the first entry's time is greater than the second's, otherwise -1; never 0.
+int compareBestTimes(const BestTimeEntry& first, const BestTimeEntry& second);
+
+// Ends a run: sorts its total into the table, behind entries of the same time. When it is among the
+// ten best, Game.newBestEntry is its place, the name entry begins, and true comes back.
+bool finishRun();

@@ -1,0 +1,67 @@
+// The bitmap font that draws all text of the game.
+//
+// Glyphs are rectangles of one picture, a mip chain of 256 x 256 pixels and down; the metrics file
+// tells the rectangle of each character. Positions are pixels of the 640 x 480 screen, origin top
+// left, y growing downwards. Set scale, position and colour, then draw: the pen moves on.
+#pragma once
+
+#include <cstdint>
+
+inline constexpr const char* fontBaseName = "graphics/font/font";
+inline constexpr const char* fontMetricsFile = "graphics/font/font.dat";
+
+inline constexpr int fontLevels = 9;        // mip levels 256 x 256 down to 1 x 1
+inline constexpr int fontSize = 256;        // pixels a side of level 0
+inline constexpr unsigned fontTexture = 10; // the OpenGL name of the font's texture
+
+// The text sizes of the game. The line spacing is the height of "!", 33 pixels, times the scale.
+inline constexpr float normalText = 1.0F;
+inline constexpr float smallText = 0.3939394F; // 13/33: lines 13 pixels apart
+inline constexpr int smallLine = 13;           // pixels
+
+// The one font; as a global it starts zeroed, so that characters without metrics have no size.
+struct Font {
+    // Pixels of the glyphs in the picture, by character code, rows counted from its top.
+    float glyphLeft[256];
+    float glyphRight[256];
+    float glyphTop[256];
+    float glyphBottom[256];
+
+    std::uint8_t imageLevels[fontLevels][fontSize * fontSize * 3]; // grey, red byte counts
+    std::int32_t firstChar; // the drawable range of character codes; -1 until loaded
+    std::int32_t lastChar;
+    bool loaded;      // text is drawn only once this is set
+    float lineStartX; // where a line break takes the pen
+    float penX;       // left edge of the next character
+    float penY;       // top edge of the line
+    float scale;      // screen pixels per glyph pixel
+    float colour[4];  // red, green, blue, alpha, each 0..1
+
+    Font();
+
+    // Reads the chain, makes the texture, and reads the metrics: first and last drawable code,
+    // then records of a character and the left, top, right and bottom of its glyph. The metrics
+    // file must end directly after the last number. On failure false comes back, for a missing
+    // picture after a message box that names it.
+    bool load(const char* baseName, const char* metricsName);
+
+    void setScale(float newScale);
+    void setPosition(float x, float y);
+    void setColour(float red, float green, float blue, float alpha);
+
+    // Draws a text at the pen and advances it. A line break goes one line down, to the x of the
+    // last setPosition; a character outside the drawable range, such as the blank, leaves a gap of
+    // 10 pixels times the scale. Draws nothing before the font is loaded.
+    void drawText(const char* text);
+
+    // Draws a number: with 0 decimals truncated towards zero, otherwise rounded to so many digits.
+    void drawNumber(float value, int decimals);
+
+    // How far drawText would advance the pen; for a text of several lines, by the longest.
+    float textWidth(const char* text) const;
+
+    // Draws one glyph with its top left corner at (x, y).
+    void drawGlyph(char code, float x, float y) const;
+};
+
+extern Font font;

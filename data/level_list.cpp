@@ -1,0 +1,43 @@
+#include "data/level_list.h"
+
+#include <cstddef>
+#include <new>
+
+#include "app/game.h"
+#include "data/tokens.h"
+
+namespace {
+
+static_assert(LEVEL_NAME_CAPACITY == tokenCapacity);
+
+// A count beyond this is a slip of the author's, not a list; nothing is allocated for it.
+constexpr std::int32_t mostLevels = 100'000;
+
+bool allocateList(std::int32_t count) {
+    const auto n = static_cast<std::size_t>(count);
+    Game.levelTimes.reset(new (std::nothrow) float[n]);
+    if (!Game.levelTimes) return false;
+    Game.levelFiles.reset(new (std::nothrow) std::unique_ptr<char[]>[n]);
+    return Game.levelFiles != nullptr;
+}
+
+bool readLevelName(TokenReader& reader, std::unique_ptr<char[]>& name) {
+    name.reset(new (std::nothrow) char[LEVEL_NAME_CAPACITY]);
+    return name && reader.readToken(*reinterpret_cast<char(*)[tokenCapacity]>(name.get()));
+}
+
+} // namespace
+
+bool loadLevelList() {
+    TokenReader reader;
+    if (!reader.open(levelListFile)) return false;
+    Game.levelCount = 0;
+    reader.readInteger(Game.levelCount);
+    if (Game.levelCount <= 0 || Game.levelCount > mostLevels) return false;
+    if (!allocateList(Game.levelCount)) return false;
+    for (std::int32_t i = 0; i < Game.levelCount; ++i) {
+        Game.levelTimes[i] = levelTime;
+        if (!readLevelName(reader, Game.levelFiles[i])) return false;
+    }
+    return reader.atEnd();
+}

@@ -1,0 +1,105 @@
+#include "data/tokens.h"
+
+#include <charconv>
+#include <cstring>
+#include <iomanip>
+#include <limits>
+#include <string>
+#include <system_error>
+
+namespace {
+
+// Steps over a sign; whether it was a minus.
+bool takeSign(const char*& text) {
+    const bool negative = *text == '-';
+    if (negative || *text == '+') ++text;
+    return negative;
+}
+
+// Steps over the prefix that tells the base of an integer.
+int takeBase(const char*& text) {
+    if (text[0] != '0' || text[1] == '\0') return 10;
+    if (text[1] == 'x' || text[1] == 'X') {
+        text += 2;
+        return 16;
+    }
+    ++text;
+    return 8;
+}
+
+// All of the token as an integer of 33 bits or fewer.
+bool parseInteger(const char* token, std::int64_t& value) {
+    const bool negative = takeSign(token);
+    const int base = takeBase(token);
+    const char* end = token + std::strlen(token);
+    std::uint32_t magnitude = 0;
+    const auto [stop, error] = std::from_chars(token, end, magnitude, base);
+    if (error != std::errc() || stop != end) return false;
+    value = negative ? -static_cast<std::int64_t>(magnitude) : magnitude;
+    return true;
+}
+
+// Narrower than the library's parser, which would take "inf", "nan" and a second sign.
+bool parseFloat(const char* token, float& value) {
+    const bool negative = takeSign(token);
+    if (std::strspn(token, "0123456789.") == 0) return false;
+    const char* end = token + std::strlen(token);
+    double magnitude = 0.0;
+    const auto [stop, error] = std::from_chars(token, end, magnitude);
+    if (error != std::errc() || stop != end) return false;
+    if (magnitude > std::numeric_limits<float>::max()) return false;
+    value = static_cast<float>(negative ? -magnitude : magnitude);
+    return true;
+}
+
+// Reads one token as an integer of type T.
+template <typename T>
+bool readIntegerAs(TokenReader& reader, T& value) {
+    char token[tokenCapacity];
+    std::int64_t wide = 0;
+    if (!reader.readToken(token)) return false;
+    if (!parseInteger(token, wide) || wide < std::numeric_limits<T>::min() ||
+        wide > std::numeric_limits<T>::max()) {
+        reader.stream.setstate(std::ios::failbit);
+        return false;
+    }
+    value = static_cast<T>(wide);
+    return true;
+}
+
+} // namespace
+
+bool TokenReader::open(const char* fileName) {
+    stream.open(fileName, std::ios::in | std::ios::binary);
+    return stream.is_open();
+}
+
+bool TokenReader::readToken(char (&token)[tokenCapacity]) {
+    stream >> std::setw(tokenCapacity) >> token;
+    if (!stream.good()) return !stream.fail();
+    // Looking at what follows also notices the end of the file behind a token of full length.
+    const int next = stream.peek();
+    if (next == EOF || std::strchr(" \t\n\v\f\r", next) != nullptr) return true;
+    stream.setstate(std::ios::failbit);
+    return false;
+}
+
+bool TokenReader::readCharacter(char& character) {
+    return static_cast<bool>(stream >> character);
+}
+
+bool TokenReader::readInteger(std::int32_t& value) {
+    return readIntegerAs(*this, value);
+}
+
+bool TokenReader::readUnsigned(std::uint32_t& value) {
+    return readIntegerAs(*this, value);
+}
+
+bool TokenReader::readFloat(float& value) {
+    char token[tokenCapacity];
+    if (!readToken(token)) return false;
+    if (parseFloat(token, value)) return true;
+    stream.setstate(std::ios::failbit);
+    return false;
+}

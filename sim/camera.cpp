@@ -1,0 +1,49 @@
+#include "sim/camera.h"
+
+#include <cmath>
+
+#include "app/game.h"
+#include "data/level.h"
+#include "sim/marble.h"
+#include "sim/view_frame.h"
+
+namespace {
+
+constexpr Vector3 behindAndAbove(0.0F, -400.0F, -350.0F);
+constexpr float clearance = 270.0F; // world units from the ground up to the camera's goal
+constexpr float longestStep = 0.1F; // seconds
+
+// Where the ground under the goal is looked at: below it, ahead, right and left.
+constexpr float probes[][2] = {{0.0F, 0.0F}, {0.0F, 150.0F}, {75.0F, 0.0F}, {-75.0F, 0.0F}};
+
+Vector3 cameraGoal() {
+    Vector3 goal = marble.getPosition() + behindAndAbove;
+    for (const auto& probe : probes) {
+        const float highest = level.heightAt(goal.x + probe[0], goal.y + probe[1]) - clearance;
+        if (highest < goal.z) goal.z = highest;
+    }
+    return goal;
+}
+
+void approach(float& angle, float goal, float share) {
+    angle += (goal - angle) * share;
+}
+
+} // namespace
+
+void updateCamera() {
+    const Vector3 goal = cameraGoal();
+
+    const Vector3 d = cameraPosition - marble.getPosition();
+    const float pitchGoal = -std::atan(d.y / d.z);
+    const float sideGoal = -std::atan(d.x / d.z);
+
+    const float dt = Game.frameTime <= longestStep ? Game.frameTime : longestStep;
+    const float share = (10.0F - Game.cameraLag) * dt;
+
+    cameraPosition += (goal - cameraPosition) * share;
+    approach(cameraAngleX, pitchGoal, share);
+    approach(cameraAngleY, sideGoal, share);
+    approach(cameraAngleZ, sideGoal, share);
+    viewFrame.set(cameraPosition, cameraAngleX, cameraAngleY, cameraAngleZ);
+}

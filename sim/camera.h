@@ -1,0 +1,16 @@
+// The camera: follows the marble from behind and above, with the lag that the player sets.
+#pragma once
+
+#include "sim/vector.h"
+
+// The eye in world units; each level start puts it far behind the marble, from where it glides in.
+extern Vector3 cameraPosition;
+
+// The view's angles in radians; never reset.
+extern float cameraAngleX;
+extern float cameraAngleY;
+extern float cameraAngleZ;
+
+// Moves the camera towards its goal by the share of the gap that Game.cameraLag and Game.frameTime
+// allow, and writes viewFrame. Called once a tick, after updateSimulation.
+void updateCamera();

@@ -1,0 +1,76 @@
+#include <cmath>
+
+#include "data/level.h"
+
+namespace {
+
+// Lengths go into the formulas in spacings of the ground mesh and come back in world units.
+constexpr double toSpacings = 0.03333333333333333;
+constexpr double toUnits = 30.0;
+
+constexpr double catchRadiusInWidths = 1.5;
+constexpr float nearHole = 250.0F; // world units from a hole's centre
+
+constexpr Vector3 straightDown(0.0F, 0.0F, 1.0F);
+
+float spacings(float units) {
+    return static_cast<float>(units * toSpacings);
+}
+
+} // namespace
+
+float Level::heightAt(float x, float y) const {
+    const float xs = spacings(x);
+    const float ys = spacings(y);
+    double sum = 0.0;
+    for (std::int32_t i = 0; i < holeCount; ++i) {
+        const Hole& hole = holes[i];
+        const float w = spacings(hole.width);
+        const double dx = xs - hole.x * toSpacings;
+        const float dy = static_cast<float>(ys - hole.y * toSpacings);
+        const double r =
+            std::sqrt(dx * dx + static_cast<double>(dy) * dy + static_cast<double>(w) * w);
+        sum += static_cast<double>(w) * hole.depth / r;
+    }
+    return static_cast<float>(sum);
+}
+
+float Level::holeAt(float x, float y) const {
+    const float xs = spacings(x);
+    const float ys = spacings(y);
+    float nearest = 100000.0F;
+    for (std::int32_t i = 0; i < holeCount; ++i) {
+        const Hole& hole = holes[i];
+        if (!(hole.depth > 0.0F)) continue;
+        const float w = spacings(hole.width);
+        const double dx = xs - hole.x * toSpacings;
+        const float dy = static_cast<float>(ys - hole.y * toSpacings);
+        const double d = std::sqrt(dx * dx + static_cast<double>(dy) * dy);
+        if (d * toUnits < nearest) nearest = static_cast<float>(d * toUnits);
+        if (d <= catchRadiusInWidths * w) return static_cast<float>(w * toUnits);
+    }
+    return nearest < nearHole ? -1.0F : 0.0F;
+}
+
+Vector3 Level::normalAt(float x, float y) const {
+    const Vector3 here(x, y, heightAt(x, y));
+    const Vector3 ahead(x, y + 1.0F, heightAt(x, y + 1.0F));
+    const Vector3 left(x - 1.0F, y, heightAt(x - 1.0F, y));
+    return cross(here - left, here - ahead).unit();
+}
+
+Vector3 Level::downhillAt(float x, float y) const {
+    return (normalAt(x, y) + straightDown).unit();
+}
+
+Vector3 Level::tangentXAt(float x, float y) const {
+    const Vector3 here(x, y, heightAt(x, y));
+    const Vector3 right(x + 1.0F, y, heightAt(x + 1.0F, y));
+    return (right - here).unit();
+}
+
+Vector3 Level::tangentYAt(float x, float y) const {
+    const Vector3 here(x, y, heightAt(x, y));
+    const Vector3 ahead(x, y + 1.0F, heightAt(x, y + 1.0F));
+    return (ahead - here).unit();
+}

@@ -1,0 +1,44 @@
+// The marble: the only moving body of the game.
+#pragma once
+
+#include "sim/vector.h"
+
+struct Level;
+struct ViewFrame;
+
+// The one marble. Its constructor sets nothing; as a global it starts at zero, and each level start
+// places it and gives it its colour.
+struct Marble {
+    Vector3 velocity; // the position advances by velocity * 210 a second
+    Vector3 position; // its point of contact: z is always the ground's height
+    float power;      // drive: scales the steering force, and the top speed is a tenth of it
+    float colour[3];  // red, green, blue, each 0..255
+
+    void setVelocity(const Vector3& v) { velocity = v; }
+    void setPosition(const Vector3& p) { position = p; }
+    Vector3 getPosition() const { return position; }
+    void setPower(float p) { power = p; }
+    float getPower() const { return power; }
+    void setColour(float red, float green, float blue) {
+        colour[0] = red;
+        colour[1] = green;
+        colour[2] = blue;
+    }
+
+    // Rolls over the ground for dt seconds (above 0: the step divides by it) under the steering
+    // force, gravity along the slope, and drag; the speed is limited by the power.
+    void step(const Level& ground, const Vector3& force, float dt);
+
+    // Draws it as a shaded disc that faces the viewer, faintly where a hill hides it, and with
+    // `normalMode` the arrows of the ground's normal and slope (render/marble.cpp). Belongs right
+    // after Level::drawGround, whose fog and depth it uses.
+    void draw(const ViewFrame& view, const Level& ground, bool normalMode) const;
+};
+
+// World units from the ground to the marble's centre, along the normal: its radius.
+inline constexpr float marbleRadius = 20.0F;
+
+// The world point that is the marble's centre when it touches the ground at `contact`.
+Vector3 marbleCentre(const Level& ground, const Vector3& contact);
+
+extern Marble marble;

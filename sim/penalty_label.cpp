@@ -1,0 +1,51 @@
+#include "sim/penalty_label.h"
+
+#include "app/game.h"
+#include "data/font.h"
+#include "data/level.h"
+#include "sim/marble.h"
+#include "sim/projection.h"
+
+namespace {
+
+constexpr const char* labelText = "-5";
+constexpr float secondsTaken = 4.0F;
+
+// Where the clock is drawn: the end of the flight, screen pixels.
+constexpr float clockX = 280.0F;
+
+// The flight starts a little beyond the marble and reaches it after a tenth of a second.
+constexpr float flightPerFade = 1.6666666F; // share of the way left, per second of life left
+
+struct ScreenPoint {
+    float x; // pixels from the left
+    float y; // pixels from the bottom
+};
+
+ScreenPoint marbleOnScreen() {
+    const Vector3 q = toView(viewFrame, marbleCentre(level, marble.getPosition()));
+    const auto nx = static_cast<float>(q.x * focalLength / q.z * ndcPerPixelX);
+    const auto ny = static_cast<float>(q.y * focalLength / q.z * ndcPerPixelY);
+    return {(nx + 1.0F) * 320.0F, (ny + 1.0F) * 240.0F};
+}
+
+} // namespace
+
+void drawPenaltyLabel() {
+    if (!Game.penaltyPending) return;
+
+    const ScreenPoint start = marbleOnScreen();
+    font.setScale(1.0F - Game.penaltyFade);
+    font.setColour(1.0F, 0.0F, 0.0F, 1.0F);
+    const float f = flightPerFade * Game.penaltyFade;
+    // The y counted from the bottom serves as one counted from the top: while the marble is near
+    // the middle of the screen the label starts close to it, mirrored at the centre line.
+    font.setPosition(start.x * f + clockX * (1.0F - f), start.y * f);
+    font.drawText(labelText);
+
+    Game.penaltyFade -= Game.frameTime;
+    if (Game.penaltyFade > 0.0F) return;
+    Game.clock -= secondsTaken;
+    Game.penaltyFade = fullPenaltyFade;
+    Game.penaltyPending = 0;
+}
