@@ -36,6 +36,7 @@ inline constexpr int screenHeight = 480; // pixels
 struct GameRecord {
     // Screens and menu
     Screen screen = Screen::Title;
+    Screen drawnScreen = {};   // the screen of the last frame; none yet
     std::uint8_t menuOpen = 0; // flag: the menu is shown over the screen
     std::int32_t menuItem = 1; // the selected item, a MenuItem (app/keyboard.h)
     std::uint8_t paused = 0;   // flag: ticks only draw

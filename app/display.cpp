@@ -1,0 +1,134 @@
+#include "app/display.h"
+
+#include <GL/gl.h>
+
+#include "app/game.h"
+#include "data/best_times.h"
+#include "data/font.h"
+#include "data/level_list.h"
+
+namespace {
+
+constexpr DWORD colourBits = 16;
+constexpr BYTE depthBits = 16;
+
+constexpr const char* initError = "Initialization Error";
+
+bool isGameMode(const DEVMODEA& mode) {
+    return mode.dmBitsPerPel == colourBits && mode.dmPelsWidth == screenWidth &&
+           mode.dmPelsHeight == screenHeight;
+}
+
+// Looks through the display's modes for the game's own.
+bool findGameMode(DEVMODEA& mode) {
+    for (DWORD index = 0;; ++index) {
+        const bool exists = EnumDisplaySettingsA(nullptr, index, &mode) != FALSE;
+        if (isGameMode(mode)) return true;
+        if (!exists) return false;
+    }
+}
+
+// Asks for nothing but size and colours, leaving the rest of the mode to the display.
+LONG switchBySize(DEVMODEA& mode) {
+    mode.dmBitsPerPel = colourBits;
+    mode.dmPelsWidth = screenWidth;
+    mode.dmPelsHeight = screenHeight;
+    mode.dmFields = DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT;
+    return ChangeDisplaySettingsA(&mode, 0);
+}
+
+bool refuseDisplay(const char* text, const char* caption) {
+    MessageBoxA(GetFocus(), text, caption, MB_OK | MB_ICONHAND);
+    return false;
+}
+
+bool refuseDisplay(LONG result) {
+    switch (result) {
+    case DISP_CHANGE_RESTART:
+        return refuseDisplay(
+            "You must change your desktop to 16bit color (Hicolor) and then restart",
+            "Win95/non-16bit color Init Error");
+    case DISP_CHANGE_BADMODE:
+        return refuseDisplay("The video mode 640x480x65536 is not supported", initError);
+    case DISP_CHANGE_FAILED:
+        return refuseDisplay("Hardware failed to change to 640x480x65536", initError);
+    default: return false;
+    }
+}
+
+PIXELFORMATDESCRIPTOR wantedFormat() {
+    PIXELFORMATDESCRIPTOR format = {};
+    format.nSize = sizeof format;
+    format.nVersion = 1;
+    format.dwFlags = PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
+    format.iPixelType = PFD_TYPE_RGBA;
+    format.cColorBits = colourBits;
+    format.cDepthBits = depthBits;
+    format.iLayerType = PFD_MAIN_PLANE;
+    return format;
+}
+
+bool needsPalette(HDC deviceContext, int format) {
+    PIXELFORMATDESCRIPTOR description = {};
+    DescribePixelFormat(deviceContext, format, sizeof description, &description);
+    return (description.dwFlags & PFD_NEED_PALETTE) != 0;
+}
+
+// Tells the last failure in the system's own words.
+bool refuseWithLastError(const char* caption) {
+    char* text = nullptr;
+    FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM, nullptr,
+                   GetLastError(), MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT),
+                   reinterpret_cast<char*>(&text), 0, nullptr);
+    MessageBoxA(nullptr, text, caption, MB_OK | MB_ICONINFORMATION);
+    LocalFree(text);
+    return false;
+}
+
+bool refuseStart(HWND owner, const char* text) {
+    MessageBoxA(owner, text, "Error", MB_OK);
+    return false;
+}
+
+void setStartState() {
+    glClearDepth(0.0); // the ground is drawn with inverse depths: nearer is greater
+    glHint(GL_FOG_HINT, GL_FASTEST);
+}
+
+} // namespace
+
+bool switchDisplayMode() {
+    DEVMODEA mode = {};
+    mode.dmSize = sizeof mode;
+    if (!findGameMode(mode)) {
+        return refuseDisplay("640x480x65536 (16-bit color/Hicolor) is not supported", initError);
+    }
+    if (ChangeDisplaySettingsA(&mode, 0) == DISP_CHANGE_SUCCESSFUL) return true;
+    const LONG result = switchBySize(mode);
+    return result == DISP_CHANGE_SUCCESSFUL || refuseDisplay(result);
+}
+
+bool setupPixelFormat(HDC deviceContext) {
+    const PIXELFORMATDESCRIPTOR wanted = wantedFormat();
+    const int format = ChoosePixelFormat(deviceContext, &wanted);
+    if (format == 0) return refuseWithLastError("ChoosePixelFormat failed GetLastError");
+    if (needsPalette(deviceContext, format)) return refuseStart(nullptr, "Needs palette");
+    if (!SetPixelFormat(deviceContext, format, &wanted)) {
+        return refuseWithLastError("SetPixelFormat failed GetLastError");
+    }
+    return true;
+}
+
+bool initGraphicsAndData(HWND window) {
+    Game.deviceContext = GetDC(window);
+    if (!setupPixelFormat(Game.deviceContext)) PostQuitMessage(0);
+    Game.glContext = wglCreateContext(Game.deviceContext);
+    wglMakeCurrent(Game.deviceContext, Game.glContext);
+    if (!loadLevelList()) return refuseStart(window, "could not initialize map data");
+    if (!loadBestTimes()) return refuseStart(window, "could not initialize high score data");
+    if (!font.load(fontBaseName, fontMetricsFile)) {
+        return refuseStart(nullptr, "could not initialize fonts");
+    }
+    setStartState();
+    return true;
+}

@@ -1,0 +1,216 @@
+#include "app/screens.h"
+
+#include <algorithm>
+
+#include <GL/gl.h>
+
+#include "app/game.h"
+#include "app/keyboard.h"
+#include "data/bitmap.h"
+#include "data/font.h"
+
+namespace {
+
+struct Picture {
+    const char* fileName;
+    const char* failure; // the message when it cannot be read
+};
+
+constexpr Picture titlePicture = {"graphics/title.bmp", "could not load.bmp title"};
+constexpr Picture backPicture = {"graphics/back.bmp", "could not load back.bmp"};
+
+constexpr float statisticsScale = smallText;
+constexpr float turboTextScale = 0.5F;
+
+constexpr float bannerStartScale = 3.0F;
+constexpr float bannerEndScale = 0.1F;  // no longer drawn below it
+constexpr float bannerShrinking = 4.0F; // share of the scale lost in a second
+
+struct Colour {
+    float red;
+    float green;
+    float blue;
+};
+
+constexpr Colour white = {1.0F, 1.0F, 1.0F};
+constexpr Colour blue = {0.0F, 0.0F, 1.0F};
+constexpr Colour grey = {0.5F, 0.5F, 0.5F};
+
+void setTextColour(Colour colour) {
+    font.setColour(colour.red, colour.green, colour.blue, 1.0F);
+}
+
+void readPicture(const Picture& picture, std::uint8_t& pending, std::uint8_t* pixels) {
+    if (readBitmap(picture.fileName, screenWidth, screenHeight, pixels)) {
+        pending = 0;
+    } else {
+        MessageBoxA(Game.window, picture.failure, "Error", MB_OK);
+    }
+}
+
+// No raster position is ever set: the picture starts in the lower left corner.
+void putPicture(const std::uint8_t* pixels) {
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_BLEND);
+    glDisable(GL_FOG);
+    glDisable(GL_TEXTURE_2D);
+    glDrawPixels(screenWidth, screenHeight, GL_RGB, GL_UNSIGNED_BYTE, pixels);
+}
+
+void drawPicture(const Picture& picture, bool entered, std::uint8_t& pending,
+                 std::uint8_t* pixels) {
+    if (pending && entered) readPicture(picture, pending, pixels);
+    if (!pending) putPicture(pixels);
+}
+
+// A rectangle between two NDC points, corner by corner.
+void putRectangle(float left, float first, float right, float second) {
+    glVertex2f(left, first);
+    glVertex2f(right, first);
+    glVertex2f(right, second);
+    glVertex2f(left, second);
+}
+
+void drawGaugeFrame() {
+    glColor3f(1.0F, 1.0F, 1.0F);
+    glBegin(GL_LINE_LOOP);
+    putRectangle(0.7F, -0.9F, 0.99F, -0.99F);
+    glEnd();
+}
+
+void drawGaugeBar() {
+    const double t = Game.turbo;
+    const double spent = 1.0 - 0.2 * t;
+    constexpr double right = 0.986875; // one pixel inside the frame
+    const double left = spent * right + 0.140625 * t;
+    glColor3f(static_cast<float>(spent), static_cast<float>(0.2 * t), 0.0F);
+    glBegin(GL_QUADS);
+    putRectangle(static_cast<float>(left), -0.9F, static_cast<float>(right), -0.986875F);
+    glEnd();
+}
+
+void drawStatistics() {
+    font.setScale(statisticsScale);
+    font.setPosition(0.0F, 0.0F);
+    setTextColour(white);
+    font.drawText("FPS: ");
+    font.drawNumber(static_cast<float>(Game.fps), 0);
+    font.drawText("\nPPS: ");
+    font.drawNumber(static_cast<float>(Game.pps), 0);
+}
+
+// At the goal the clock stops for the eye, while it runs on towards the next level.
+float shownClock() {
+    if (Game.levelDone) return levelTime - Game.levelTimes[Game.levelNumber - 1];
+    return std::clamp(Game.clock, 0.0F, levelTime);
+}
+
+void drawClock() {
+    font.setScale(normalText);
+    font.setPosition(280.0F, 0.0F);
+    const float v = shownClock();
+    const auto f = static_cast<float>(v * 0.022222222222222223); // share of the time left
+    font.setColour(1.0F - f, f, 0.0F, 1.0F);
+    font.drawNumber(v, 2);
+}
+
+void setItemColour(std::int32_t item, Colour notSelected) {
+    setTextColour(item == Game.menuItem ? white : notSelected);
+}
+
+void drawItem(std::int32_t item, const char* text) {
+    setItemColour(item, blue);
+    font.drawText(text);
+}
+
+void drawSwitch(std::int32_t item, const char* name, std::uint8_t on, Colour notSelected = blue) {
+    setItemColour(item, notSelected);
+    font.drawText(name);
+    font.drawText(on ? ": ON\n" : ": OFF\n");
+}
+
+void drawMainPage() {
+    font.setPosition(220.0F, 160.0F);
+    drawItem(MenuItem::NewGame, "NeW Game\n");
+    drawItem(MenuItem::HighScore, "HIGHSCORE\n");
+    drawItem(MenuItem::Options, "Options\n");
+    drawItem(MenuItem::Quit, "Quit");
+}
+
+void drawOptionsPage() {
+    font.setPosition(185.0F, 120.0F);
+    drawSwitch(MenuItem::Statistics, "Statistics", Game.showStatistics);
+    drawSwitch(MenuItem::Fog, "Fog", Game.fogOn);
+    drawSwitch(MenuItem::FarSight, "Far Sight", Game.farSight, Game.fogOn ? grey : blue);
+    drawSwitch(MenuItem::Normal, "Normal", Game.normalMode);
+    drawItem(MenuItem::CameraLag, "Camera Lag: ");
+    font.drawNumber(Game.cameraLag, 0);
+    font.drawText("\n");
+    drawSwitch(MenuItem::Midi, "MIDI", Game.midiOn);
+    drawItem(MenuItem::Done, "Done");
+}
+
+} // namespace
+
+void drawTitlePicture(bool entered) {
+    drawPicture(titlePicture, entered, Game.titlePending, Game.titlePicture);
+}
+
+void drawBackPicture(bool entered) {
+    drawPicture(backPicture, entered, Game.backPending, Game.backPicture);
+}
+
+void drawShade() {
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_TEXTURE_2D);
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    glBegin(GL_QUADS);
+    glColor4f(0.0F, 0.0F, 0.0F, 0.5F);
+    putRectangle(-1.0F, -1.0F, 1.0F, 1.0F);
+    glEnd();
+}
+
+void drawTurboGauge() {
+    font.setScale(turboTextScale);
+    setTextColour(white);
+    font.setPosition(475.0F, 460.0F);
+    font.drawText("Turbo");
+
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_TEXTURE_2D);
+    glDisable(GL_BLEND);
+    glDisable(GL_FOG);
+    glDisable(GL_DEPTH_TEST);
+    drawGaugeFrame();
+    if (Game.turbo > 0.0F) drawGaugeBar();
+}
+
+void drawStatsAndClock() {
+    if (Game.showStatistics) drawStatistics();
+    drawClock();
+}
+
+void drawBanner() {
+    if (Game.levelNumber != Game.bannerLevel) Game.bannerScale = bannerStartScale;
+    Game.bannerLevel = Game.levelNumber;
+    if (Game.bannerScale < bannerEndScale) return;
+
+    font.setScale(Game.bannerScale);
+    font.setPosition(320.0F - 0.5F * font.textWidth("Level 1"), 205.0F);
+    setTextColour(white);
+    font.drawText("Level ");
+    font.drawNumber(static_cast<float>(Game.levelNumber), 0);
+    if (!Game.paused) Game.bannerScale -= Game.frameTime * Game.bannerScale * bannerShrinking;
+}
+
+void drawMenu() {
+    font.setScale(normalText);
+    if (Game.menuItem < MenuItem::Statistics) {
+        drawMainPage();
+    } else {
+        drawOptionsPage();
+    }
+}

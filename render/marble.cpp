@@ -1,0 +1,217 @@
+#include "render/marble.h"
+
+#include <cmath>
+
+#include <GL/gl.h>
+
+#include "data/level.h"
+#include "sim/marble.h"
+#include "sim/projection.h"
+
+namespace {
+
+constexpr float segmentAngle = 0.39269912F;              // a sixteenth of a full turn
+constexpr float fullTurn = 6.283185958862305F;           // 2 pi as a float
+constexpr double aspect = 1.333333;                      // NDC are so much taller than wide
+constexpr float centrePerColour = 0.003921568859368563F; // from 0..255 to 0..1
+constexpr float rimPerColour = 0.0003921568568330258F;   // the rim is a tenth as bright
+constexpr float solid = 1.0F;
+constexpr float ghostly = 0.3F;
+
+// The disc as it lies on the screen: NDC, with the inverse depth as third coordinate. Its centre
+// is a radius nearer to the eye than its rim.
+struct Disc {
+    Vector3 centre;
+    float radius;   // in NDC x
+    float rimDepth; // inverse depth of the rim
+    float centreColour[3];
+    float rimColour[3];
+};
+
+Disc discOf(const Marble& rolling, const ViewFrame& view, const Level& ground) {
+    const Vector3 q = toView(view, marbleCentre(ground, rolling.getPosition()));
+    Disc disc = {};
+    disc.centre.set(static_cast<float>(q.x * focalLength / q.z * ndcPerPixelX),
+                    static_cast<float>(q.y * focalLength / q.z * ndcPerPixelY),
+                    static_cast<float>(1.0 / (static_cast<double>(q.z) - marbleRadius)));
+    disc.radius = static_cast<float>(static_cast<double>(marbleRadius) / q.z);
+    disc.rimDepth = static_cast<float>(1.0 / q.z);
+    for (int i = 0; i < 3; ++i) {
+        disc.centreColour[i] = rolling.colour[i] * centrePerColour;
+        disc.rimColour[i] = rolling.colour[i] * rimPerColour;
+    }
+    return disc;
+}
+
+Vector3 rimPoint(const Disc& disc, float angle, double tallness) {
+    const double x = std::cos(static_cast<double>(angle)) * disc.radius;
+    const double y = std::sin(static_cast<double>(angle)) * disc.radius * tallness;
+    return {static_cast<float>(disc.centre.x + x), static_cast<float>(disc.centre.y + y),
+            disc.rimDepth};
+}
+
+void setColour(const float (&colour)[3], float alpha) {
+    glColor4f(colour[0], colour[1], colour[2], alpha);
+}
+
+void putPoint(const Vector3& p) {
+    glVertex3f(p.x, p.y, p.z);
+}
+
+// Calls draw with both rim points of each of the 16 segments.
+template <typename Draw>
+void forEachSegment(const Disc& disc, double tallness, Draw draw) {
+    for (float angle = 0.0F; angle < fullTurn;) {
+        const float next = angle + segmentAngle;
+        draw(rimPoint(disc, angle, tallness), rimPoint(disc, next, tallness));
+        angle = next;
+    }
+}
+
+void drawDisc(const Disc& disc, float alpha) {
+    forEachSegment(disc, aspect, [&](const Vector3& a, const Vector3& b) {
+        glBegin(GL_TRIANGLES);
+        setColour(disc.centreColour, alpha);
+        putPoint(disc.centre);
+        setColour(disc.rimColour, alpha);
+        putPoint(b);
+        setColour(disc.rimColour, alpha);
+        putPoint(a);
+        glEnd();
+    });
+}
+
+// Each segment is drawn three times over itself, which makes the outline denser.
+void drawOutline(const Disc& disc) {
+    forEachSegment(disc, static_cast<float>(aspect), [&](const Vector3& a, const Vector3& b) {
+        glBegin(GL_LINES);
+        for (int pass = 0; pass < 3; ++pass) {
+            setColour(disc.rimColour, ghostly);
+            putPoint(b);
+            setColour(disc.rimColour, ghostly);
+            putPoint(a);
+        }
+        glEnd();
+    });
+}
+
+void setSolidState() {
+    glEnable(GL_DEPTH_TEST);
+    glDisable(GL_TEXTURE_2D);
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_BLEND);
+}
+
+// Without the depth test what follows is seen through hills.
+void setGhostState() {
+    glDisable(GL_DEPTH_TEST);
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+}
+
+void setOutlineState() {
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    glEnable(GL_LINE_SMOOTH);
+    glHint(GL_LINE_SMOOTH_HINT, GL_NICEST);
+    glLineWidth(1.0F);
+}
+
+constexpr float arrowLength = 100.0F; // world units
+constexpr float shaftShare = 0.9F;    // of the arrow; the head takes the rest
+constexpr float barbLength = 10.0F;   // pixels
+constexpr float halfTurn = 3.1416F;   // radians
+constexpr float barbAngle = 0.3927F;  // radians either side of the shaft
+constexpr float headLift = 0.0001F;   // inverse depth by which the head covers the shaft
+constexpr float ndcPerArrowX = 0.003125F;
+constexpr float ndcPerArrowY = 0.004166667F;
+
+// x and y in pixels from the bottom left, z the depth.
+Vector3 onScreen(const ViewFrame& view, const Vector3& point) {
+    const Vector3 q = toView(view, point);
+    return {static_cast<float>(q.x * focalLength / q.z + 320.0),
+            static_cast<float>(q.y * focalLength / q.z + 240.0), q.z};
+}
+
+void putPixel(float x, float y, float inverseDepth) {
+    glVertex3f(x * ndcPerArrowX - 1.0F, y * ndcPerArrowY - 1.0F, inverseDepth);
+}
+
+// The end of a head's side: a pixel point as far from the tip as a barb is long.
+Vector3 barbEnd(const Vector3& tip, double angle) {
+    return {static_cast<float>(tip.x + barbLength * std::cos(angle)),
+            static_cast<float>(tip.y + barbLength * std::sin(angle)), tip.z};
+}
+
+void setArrowState() {
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_TEXTURE_2D);
+    glDisable(GL_FOG);
+    glEnable(GL_LINE_SMOOTH);
+    glEnable(GL_DEPTH_TEST);
+    glHint(GL_LINE_SMOOTH_HINT, GL_NICEST);
+    glLineWidth(1.5F);
+    glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+    glColor4f(1.0F, 1.0F, 0.0F, 1.0F);
+}
+
+void drawShaft(const Vector3& from, const Vector3& to) {
+    const Vector3 end = from + (to - from) * shaftShare;
+    glBegin(GL_LINES);
+    putPixel(from.x, from.y, 1.0F / from.z);
+    putPixel(end.x, end.y, 1.0F / end.z);
+    glEnd();
+}
+
+void drawHead(const Vector3& from, const Vector3& tip) {
+    const double theta = std::atan2(tip.y - from.y, tip.x - from.x);
+    const Vector3 first = barbEnd(tip, theta + halfTurn - barbAngle);
+    const Vector3 second = barbEnd(tip, theta + halfTurn + barbAngle);
+    const float depth = 1.0F / tip.z + headLift;
+
+    glDisable(GL_BLEND);
+    glBegin(GL_TRIANGLES);
+    putPixel(tip.x, tip.y, depth);
+    putPixel(second.x, second.y, depth);
+    putPixel(first.x, first.y, depth);
+    glEnd();
+    glEnable(GL_BLEND);
+    glBegin(GL_LINES);
+    putPixel(tip.x, tip.y, depth);
+    putPixel(second.x, second.y, depth);
+    putPixel(first.x, first.y, depth);
+    putPixel(tip.x, tip.y, depth);
+    glEnd();
+}
+
+void drawNormalArrow(const ViewFrame& view, const Level& ground, const Vector3& centre) {
+    const Vector3 tip = centre + ground.normalAt(centre.x, centre.y) * arrowLength;
+    drawArrow(onScreen(view, centre), onScreen(view, tip));
+}
+
+void drawSlopeArrow(const ViewFrame& view, const Level& ground, const Vector3& centre) {
+    const Vector3 tip = centre + ground.downhillAt(centre.x, centre.y) * arrowLength;
+    drawArrow(onScreen(view, centre), onScreen(view, tip));
+}
+
+} // namespace
+
+void Marble::draw(const ViewFrame& view, const Level& ground, bool normalMode) const {
+    const Disc disc = discOf(*this, view, ground);
+    setSolidState();
+    drawDisc(disc, solid);
+    setGhostState();
+    drawDisc(disc, ghostly);
+    setOutlineState();
+    drawOutline(disc);
+    if (!normalMode) return;
+    const Vector3 centre = marbleCentre(ground, getPosition());
+    drawNormalArrow(view, ground, centre);
+    drawSlopeArrow(view, ground, centre);
+}
+
+void drawArrow(const Vector3& from, const Vector3& to) {
+    setArrowState();
+    drawShaft(from, to);
+    drawHead(from, to);
+}
