@@ -1,0 +1,166 @@
+// Level files: what they set, when they are refused and with which words, and what then remains.
+#include <GL/gl.h>
+
+#include "fakes/play.h"
+
+namespace {
+
+struct LevelFile : Story {
+    LevelFile() { writeMipChain("ground", groundTextureSize, groundTextureLevels); }
+
+    static bool load(const std::string& text) {
+        writeFile("a.map", text);
+        return level.load("a.map", marble);
+    }
+};
+
+} // namespace
+
+TEST_F(LevelFile, FillsTheLevelAndColoursTheMarble) {
+    ASSERT_TRUE(load("marblecolor= 0x00FF10 holecount= 2 fogcolor= 0xFF8000 texturefile= ground\n"
+                     ".data 1.5 -2e1\n+3 .25\n\n10 20 30 -40 .end"));
+    EXPECT_EQ(level.getFogColourCode(), 0xFF8000U);
+    EXPECT_FLOAT_EQ(level.fogColour[0], 1);
+    EXPECT_FLOAT_EQ(level.fogColour[1], 128 / 255.0F);
+    EXPECT_FLOAT_EQ(level.fogColour[2], 0);
+    EXPECT_FLOAT_EQ(level.fogColour[3], 1);
+    EXPECT_EQ(level.marbleColourCode, 0x00FF10U);
+    EXPECT_EQ(marble.colour[0], 0);
+    EXPECT_EQ(marble.colour[1], 255);
+    EXPECT_EQ(marble.colour[2], 16);
+    ASSERT_EQ(level.holeCount, 2);
+    EXPECT_EQ(level.holes[0].x, 1.5F);
+    EXPECT_EQ(level.holes[0].y, -20);
+    EXPECT_EQ(level.holes[0].width, 3);
+    EXPECT_EQ(level.holes[0].depth, 0.25F);
+    EXPECT_EQ(level.holes[1].depth, -40);
+
+    ASSERT_TRUE(load("fogcolor= 010")); // octal; the marble keeps its colour, the holes are gone
+    EXPECT_FLOAT_EQ(level.fogColour[2], 8 / 255.0F);
+    EXPECT_EQ(level.fogColour[0] + level.fogColour[1], 0);
+    EXPECT_EQ(marble.colour[1], 255);
+    EXPECT_EQ(level.holeCount, 0);
+    ASSERT_TRUE(load("marblecolor= 1"));
+    EXPECT_EQ(level.getFogColourCode(), 8U);
+}
+
+TEST_F(LevelFile, BuildsTheMeshOverTheHoles) {
+    ASSERT_TRUE(load("holecount= 1 .data 0 0 30 100 .end"));
+    const auto expectVertex = [](int column, int row, float x, float y, double s, double t) {
+        const int i = row * 50 + column;
+        EXPECT_EQ(level.groundPoints[i].x, x);
+        EXPECT_EQ(level.groundPoints[i].y, y);
+        EXPECT_EQ(level.groundPoints[i].z, level.heightAt(x, y));
+        EXPECT_EQ(level.groundTexCoords[i].x, s);
+        EXPECT_EQ(level.groundTexCoords[i].y, t);
+    };
+    expectVertex(0, 0, -750, -6000, -4.6875, -50);
+    expectVertex(25, 200, 0, 0, 0, 0);
+    expectVertex(49, 399, 720, 5970, 4.5, 49.75);
+    EXPECT_NEAR(level.groundPoints[200 * 50 + 25].z, 100, 1e-4);
+}
+
+TEST_F(LevelFile, MakesTheGroundTexture) {
+    ASSERT_TRUE(load("texturefile= ground"));
+    GlCalls expected = {
+        {"glAreTexturesResident", 1, 1},
+        {"glEnable", GL_TEXTURE_2D},
+        {"glBindTexture", GL_TEXTURE_2D, 1},
+        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_REPEAT},
+        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_REPEAT},
+        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR},
+        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR}};
+    for (int k = 0; k < 8; ++k) {
+        expected.emplace_back("glTexImage2D", GL_TEXTURE_2D, k, 3, 128 >> k, 128 >> k, 0, GL_RGB,
+                              GL_UNSIGNED_BYTE, k + 1);
+    }
+    EXPECT_EQ(drawn(), expected);
+
+    machine.drawn.clear();
+    machine.textureIsResident = true;
+    ASSERT_TRUE(load("texturefile= ground texturefile= ground"));
+    EXPECT_EQ(count(drawn(), {"glDeleteTextures", 1, 1}), 2);
+    EXPECT_EQ(count(drawn(), "glTexImage2D"), 16);
+}
+
+TEST_F(LevelFile, SaysWhyItIsRefused) {
+    const std::string unknown = "a.map contains a unknown token";
+    const struct {
+        std::string text, message;
+    } cases[] = {
+        {"holecount=0 .data .end", unknown + "holecount=0"},
+        {"FogColor= 1", unknown + "FogColor="},
+        {"fogcolor= 1 2", unknown + "2"},
+        {"texturefile= ground texturefile= no", "no_0.bmp"},
+        {"holecount= 1 .data 1 2 3 4", "expected .end"},
+        {"holecount= 1 .data 1 2 3 4 .END", "expected .end"},
+        {"holecount= 1 .data 1 2 3 4 5 .end", "expected .end"},
+        {"holecount= -1 .data .end", "out of memory"},
+        {"holecount= -2147483648 .data .end", "out of memory"},
+        {"holecount= 2147483647 .data .end", "out of memory"},
+    };
+    for (const auto& c : cases) {
+        machine.lines.clear();
+        EXPECT_FALSE(load(c.text)) << c.text;
+        EXPECT_EQ(boxes(), Lines{c.message + " | error | nobody"}) << c.text;
+    }
+    machine.lines.clear();
+    EXPECT_FALSE(level.load("maps/no.map", marble));
+    EXPECT_EQ(boxes(), Lines{"maps/no.mapfile not found | error | nobody"});
+    std::filesystem::remove("ground_7.bmp");
+    EXPECT_FALSE(load("texturefile= ground"));
+    EXPECT_EQ(boxes().back(), "ground_7.bmp | error | nobody");
+}
+
+TEST_F(LevelFile, EndsDirectlyAfterItsLastToken) {
+    for (const char* text : {"holecount= 0 .data .end", ".data .end", "fogcolor= 4294967295",
+                             "fogcolor= 0XfF", "holecount= 1"}) {
+        EXPECT_TRUE(load(text)) << text;
+    }
+    for (const char* text :
+         {"", " \n", "holecount= 0 .data .end\n", "holecount= 0 .data .end ", "fogcolor= 1\n",
+          "fogcolor=", "fogcolor= ", "fogcolor= 08", "fogcolor= 0x", "fogcolor= red marblecolor= 1",
+          "texturefile=", "holecount= 4294967296 .data .end", "marblecolor= 4294967296"}) {
+        EXPECT_FALSE(load(text)) << text;
+    }
+    EXPECT_EQ(boxes(), Lines{});
+}
+
+TEST_F(LevelFile, RefusesNumbersThatAreNone) {
+    for (const char* hole : {"1 2 3 x", "1 2 nan 4", "1 2 3 inf", "1 2 3 1e99", "1 2 3 --4"}) {
+        EXPECT_FALSE(load("holecount= 1 .data " + std::string(hole) + " .end")) << hole;
+    }
+}
+
+TEST_F(LevelFile, RefusesTokensThatAreTooLong) {
+    for (const std::size_t length : {250U, 255U, 256U, 5000U}) {
+        EXPECT_FALSE(load("texturefile= " + std::string(length, 'b'))) << length;
+        EXPECT_FALSE(load(std::string(length, 'k') + " 1")) << length;
+    }
+    const std::string base = "deep/" + std::string(244, 'b');
+    writeMipChain(base, 128, 1);
+    EXPECT_FALSE(load("texturefile= " + base));
+    EXPECT_EQ(boxes().back(), base + "_1.bmp | error | nobody");
+}
+
+TEST_F(LevelFile, KeepsWhatItReadBeforeAFailure) {
+    ASSERT_TRUE(load("holecount= 1 .data 1 2 3 4 .end"));
+    machine.drawn.clear();
+    EXPECT_FALSE(load("fogcolor= 0x0000FF texturefile= ground what"));
+    EXPECT_EQ(level.getFogColourCode(), 255U);
+    EXPECT_EQ(count(drawn(), "glTexImage2D"), 8);
+    EXPECT_EQ(level.holeCount, 0);
+    EXPECT_TRUE(!level.holes && !level.groundPoints && !level.groundScreen);
+    EXPECT_EQ(level.heightAt(1, 2), 0);
+}
+
+TEST_F(LevelFile, GivesUpWhenMemoryRunsOut) {
+    failAllocation(9 * sizeof(Hole), 1);
+    EXPECT_FALSE(load("holecount= 9"));
+    for (int nth = 1; nth <= 3; ++nth) {
+        failAllocation(20000 * sizeof(Vector3), nth);
+        EXPECT_FALSE(load("fogcolor= 1")) << nth;
+    }
+    EXPECT_EQ(boxes(), Lines(4, "out of memory | error | nobody"));
+    EXPECT_TRUE(load("fogcolor= 1"));
+}
