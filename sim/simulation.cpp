@@ -54,12 +54,10 @@ void penalise() {
 // is none down to the back of the course, the marble stays caught.
 void putBackFromHole(float holeWidth) {
     float y = marble.getPosition().y - stepBackInHoleWidths * holeWidth;
-    for (; y >= courseBack; y -= stepBackPerTry) {
-        if (level.holeAt(0.0F, y) == 0.0F) {
-            placeMarble(0.0F, y);
-            return;
-        }
+    while (y >= courseBack && level.holeAt(0.0F, y) != 0.0F) {
+        y -= stepBackPerTry;
     }
+    if (y >= courseBack) placeMarble(0.0F, y);
 }
 
 void checkHoles() {
