@@ -1,0 +1,105 @@
+// What the pieces of a tick cost, by the number of holes in the level.
+//
+// There is no OpenGL context here, so drawGround is measured without OpenGL's own share: the walk,
+// the projection and the calls.
+#include <benchmark/benchmark.h>
+
+#include "app/game.h"
+#include "data/level.h"
+#include "sim/camera.h"
+#include "sim/marble.h"
+#include "sim/simulation.h"
+#include "sim/view_frame.h"
+
+namespace {
+
+constexpr int fewHoles = 10;
+constexpr int manyHoles = 160;
+
+// Wells and mounds in two rows beside the marble's way, none of which catches it.
+void digHoles(int count) {
+    level.holes.reset(new (std::nothrow) Hole[static_cast<std::size_t>(count)]);
+    level.holeCount = count;
+    for (int i = 0; i < count; ++i) {
+        const auto along = static_cast<float>(i) / static_cast<float>(count);
+        const float side = i % 2 == 0 ? -1.0F : 1.0F;
+        level.holes[i].x = side * 600.0F;
+        level.holes[i].y = -5900.0F + 11800.0F * along;
+        level.holes[i].width = 60.0F;
+        level.holes[i].depth = side * 120.0F;
+    }
+}
+
+void buildMesh() {
+    level.groundPoints.reset(new (std::nothrow) Vector3[groundVertices]);
+    level.groundScreen.reset(new (std::nothrow) Vector3[groundVertices]);
+    level.groundTexCoords.reset(new (std::nothrow) Vector3[groundVertices]());
+    for (int i = 0; i < groundVertices; ++i) {
+        const auto x = static_cast<float>((i % groundColumns - groundCentreColumn) * groundSpacing);
+        const auto y = static_cast<float>((i / groundColumns - groundCentreRow) * groundSpacing);
+        level.groundPoints[i].set(x, y, level.heightAt(x, y));
+    }
+}
+
+// A marble in the middle of the course with the camera settled behind it.
+void settle(benchmark::State& state) {
+    digHoles(static_cast<int>(state.range(0)));
+    Game.levelDone = 0;
+    Game.clock = levelTime / 2;
+    Game.frameTime = 0.0F;
+    placeMarble(0.0F, 0.0F);
+    cameraPosition = marble.getPosition() + Vector3(0.0F, -400.0F, -350.0F);
+    cameraAngleX = -0.852F;
+    updateCamera();
+    Game.frameTime = 1.0F / 60.0F;
+}
+
+void heightAt(benchmark::State& state) {
+    settle(state);
+    float x = 0.0F;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(level.heightAt(x, 0.0F));
+        x += 0.01F;
+    }
+}
+
+void simulateTick(benchmark::State& state) {
+    settle(state);
+    for (auto _ : state) {
+        updateSimulation();
+        benchmark::DoNotOptimize(marble.position);
+    }
+}
+
+void moveCamera(benchmark::State& state) {
+    settle(state);
+    for (auto _ : state) {
+        updateCamera();
+        benchmark::DoNotOptimize(viewFrame);
+    }
+}
+
+void walkGround(benchmark::State& state) {
+    settle(state);
+    buildMesh();
+    std::int32_t triangles = 0;
+    for (auto _ : state) {
+        triangles = level.drawGround(viewFrame, false, true);
+    }
+    state.counters["triangles"] = triangles;
+}
+
+void buildLevelMesh(benchmark::State& state) {
+    settle(state);
+    for (auto _ : state) {
+        buildMesh();
+    }
+}
+
+BENCHMARK(heightAt)->Arg(fewHoles)->Arg(manyHoles);
+BENCHMARK(simulateTick)->Arg(fewHoles)->Arg(manyHoles);
+BENCHMARK(moveCamera)->Arg(fewHoles)->Arg(manyHoles);
+BENCHMARK(walkGround)->Arg(fewHoles)->Arg(manyHoles);
+BENCHMARK(buildLevelMesh)->Arg(fewHoles)->Arg(manyHoles)->Unit(benchmark::kMillisecond);
+
+} // namespace
