@@ -13,12 +13,6 @@ void makeGround(const std::vector<Hole>& holes) {
     ASSERT_TRUE(level.load("field.map", marble));
 }
 
-void expectVector(const Vector3& v, double x, double y, double z) {
-    EXPECT_NEAR(v.x, x, 1e-4);
-    EXPECT_NEAR(v.y, y, 1e-4);
-    EXPECT_NEAR(v.z, z, 1e-4);
-}
-
 } // namespace
 
 TEST_F(GroundField, IsFlatWithoutHoles) {

@@ -1,16 +1,9 @@
 // Vectors, matrices and the view frame.
-#include <gtest/gtest.h>
-
+#include "fakes/play.h"
 #include "sim/vector.h"
 #include "sim/view_frame.h"
 
 namespace {
-
-void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-6) {
-    EXPECT_NEAR(v.x, x, tolerance);
-    EXPECT_NEAR(v.y, y, tolerance);
-    EXPECT_NEAR(v.z, z, tolerance);
-}
 
 Vector3 seen(const ViewFrame& view, const Vector3& point) {
     return view.getRotation() * (point - view.getPosition());

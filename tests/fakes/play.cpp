@@ -27,11 +27,7 @@ void renew(Object& object) {
 
 } // namespace
 
-Story::Story() : before_(fs::current_path()) {
-    folder_ = fs::temp_directory_path() / ("glorbix-story-" + std::to_string(getpid()));
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-    fs::current_path(folder_);
+void startAfresh() {
     machine = MachineRecord{};
     Game = GameRecord{};
     renew(viewFrame);
@@ -43,11 +39,25 @@ Story::Story() : before_(fs::current_path()) {
     cameraAngleX = cameraAngleY = cameraAngleZ = 0;
 }
 
+Story::Story() : before_(fs::current_path()) {
+    folder_ = fs::temp_directory_path() / ("glorbix-story-" + std::to_string(getpid()));
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+    fs::current_path(folder_);
+    startAfresh();
+}
+
 Story::~Story() {
     EXPECT_EQ(machine.openFiles, 0);
     EXPECT_EQ(machine.systemTexts, 0);
     fs::current_path(before_);
     fs::remove_all(folder_);
+}
+
+void expectVector(const Vector3& v, double x, double y, double z, double tolerance) {
+    EXPECT_NEAR(v.x, x, tolerance);
+    EXPECT_NEAR(v.y, y, tolerance);
+    EXPECT_NEAR(v.z, z, tolerance);
 }
 
 void writeFile(const std::string& name, const std::string& content) {
@@ -118,6 +128,12 @@ void writeGameFiles(const std::vector<std::string>& levels) {
     writeMipChain("ground", groundTextureSize, groundTextureLevels);
     writeMipChain("graphics/font/font", 256, 9);
     writeFile("graphics/font/font.dat", testFontMetrics());
+    std::string bestTimesText;
+    for (int i = 0; i < 10; ++i) {
+        bestTimesText +=
+            std::to_string(100 + 10 * i) + " " + std::string(3, static_cast<char>('a' + i)) + " ";
+    }
+    writeFile("highScore.dat", bestTimesText);
     writeBitmap("graphics/title.bmp", 640, 480, 0x111111);
     writeBitmap("graphics/back.bmp", 640, 480, 0x222222);
 }
@@ -126,6 +142,21 @@ bool startUp() {
     Game.window = theWindow;
     send(WM_CREATE);
     return !machine.quitPosted;
+}
+
+int runProgram(const std::function<void()>& whenIdle) {
+    int turns = 0;
+    machine.whenIdle = [&] {
+        whenIdle();
+        if (++turns < 5000) return;
+        ADD_FAILURE() << "the program does not end";
+        PostQuitMessage(-1);
+    };
+    return WinMain(nullptr, nullptr, nullptr, SW_SHOW);
+}
+
+void queueKey(int key) {
+    machine.queue.push_back(MSG{theWindow, WM_KEYDOWN, static_cast<WPARAM>(key), 0, 0, {0, 0}});
 }
 
 void handleMessages() {
@@ -158,7 +189,9 @@ void startGame() {
     pressKey(VK_RETURN);
 }
 
-void startPlaying() {
+void playLevel(const std::vector<Hole>& holes) {
+    writeGameFiles({levelText(holes)});
+    ASSERT_TRUE(startUp());
     startGame();
-    playUntil([] { return Game.clock <= levelTime; });
+    Game.clock = levelTime;
 }

@@ -21,6 +21,9 @@ inline constexpr double testGlyphHeight = 33; // pixels: of the test font, and i
 // The width of a character of the test font in pixels; those it does not have advance by 10.
 constexpr double testGlyphWidth(char c) { return 10 + c % 7; }
 
+// The machine and the game as at program start.
+void startAfresh();
+
 // A fresh machine and a fresh game, in an empty folder of its own that the test leaves behind.
 class Story : public testing::Test {
 protected:
@@ -32,6 +35,8 @@ private:
     std::filesystem::path folder_;
 };
 
+void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-4);
+
 void writeFile(const std::string& name, const std::string& content);
 std::string readFile(const std::string& name);
 
@@ -42,11 +47,19 @@ void writeMipChain(const std::string& base, int size, int levels);
 // A level file: what `head` says, the ground texture "ground", and holes of x, y, width, depth.
 std::string levelText(const std::vector<Hole>& holes, const std::string& head = "");
 
-// All files that the game needs, with these level files as its levels 1, 2, 3, ...
+// All files that the game needs, with these level files as its levels 1, 2, 3, ...; the best times
+// are 100, 110, ... 190 seconds, by aaa, bbb, ... jjj.
 void writeGameFiles(const std::vector<std::string>& levels = {levelText({})});
 
 // The window is made, as at program start; false when the game gave up.
 bool startUp();
+
+// The whole program from its entry to its end, which comes after some thousand turns at the latest.
+// `whenIdle` is called whenever the message queue is empty. Returns the exit code.
+int runProgram(const std::function<void()>& whenIdle);
+
+// The player presses a key; the program will find it in its queue.
+void queueKey(int key);
 
 // Handles what waits in the queue; a quit message stays there.
 void handleMessages();
@@ -60,10 +73,11 @@ inline void pressKey(int key) { send(WM_KEYDOWN, static_cast<WPARAM>(key)); }
 void tick(double seconds);
 void ticks(int n, double seconds);
 
-// The player chooses a new game and is on level 1 with the clock at 52; or just after the start
-// signal, with the marble free.
+// The player chooses a new game; level 1 begins with its count-down.
 void startGame();
-void startPlaying();
+
+// On level 1 of a game with this ground, the start signal due and the marble free to move.
+void playLevel(const std::vector<Hole>& holes = {});
 
 // Plays on, in steps of a tenth of a second, until the condition holds or a minute has passed.
 template <class Condition>

@@ -86,7 +86,7 @@ int ShowCursor(BOOL show) {
 BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove) {
     EXPECT_TRUE(window == theWindow || window == nullptr);
     EXPECT_TRUE(first == 0 && last == 0 && remove == PM_REMOVE);
-    *message = MSG{theWindow, 0, 0, 0, 0, {0, 0}};
+    *message = {};
     if (!machine.queue.empty()) {
         *message = machine.queue.front();
         machine.queue.pop_front();
@@ -104,6 +104,7 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
 BOOL TranslateMessage(const MSG*) { return FALSE; }
 
 LRESULT DispatchMessageA(const MSG* message) {
+    if (message->hwnd == nullptr) return 0; // the quit message
     return GameWindowProc(message->hwnd, message->message, message->wParam, message->lParam);
 }
 

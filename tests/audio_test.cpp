@@ -1,0 +1,120 @@
+// The music: when it starts, what follows, when it stops.
+#include "fakes/play.h"
+
+namespace {
+
+struct Music : Story {
+    Music() {
+        writeGameFiles({levelText({}), levelText({})});
+        EXPECT_TRUE(startUp());
+    }
+};
+
+// A piece that starts on the nth device.
+Lines started(const std::string& file, int device) {
+    const std::string n = std::to_string(device);
+    return {"open " + file, "status " + n, "play " + n};
+}
+
+Lines operator+(Lines a, const Lines& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+const std::string first = "sounds/midi1.mid";
+
+} // namespace
+
+TEST_F(Music, RotatesWhileALevelIsPlayed) {
+    startGame();
+    Lines expected = started(first, 1);
+    EXPECT_EQ(music(), expected);
+    int device = 1;
+    for (const char* next : {"sounds/drwho2.mid", "sounds/midi3.mid", "sounds/midi1.mid"}) {
+        send(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
+        expected = expected + Lines{"close " + std::to_string(device)} + started(next, device + 1);
+        EXPECT_EQ(music(), expected);
+        ++device;
+    }
+    pressKey(VK_F1); // the next level does not disturb it
+    EXPECT_EQ(music(), expected);
+}
+
+TEST_F(Music, BeginsAnewWithEachRun) {
+    startGame();
+    send(MM_MCINOTIFY);
+    machine.lines.clear();
+    startGame();
+    EXPECT_EQ(music(), Lines{"close 2"} + started(first, 3));
+}
+
+TEST_F(Music, IsSwitchedWithF6) {
+    pressKey(VK_F6);
+    pressKey(VK_F6); // on the title screen this starts nothing
+    pressKey(VK_F6);
+    startGame();
+    EXPECT_EQ(music(), Lines{});
+    pressKey(VK_F6);
+    pressKey(VK_F6);
+    EXPECT_EQ(music(), started(first, 1) + Lines{"close 1"});
+    EXPECT_EQ(Game.musicPlaying, 0);
+    send(MM_MCINOTIFY); // a late one
+    EXPECT_EQ(music().back(), "close stale 1");
+}
+
+TEST_F(Music, StopsWithTheLevel) {
+    startGame();
+    Game.screen = Screen::Title;
+    tick(0.1);
+    EXPECT_EQ(music().back(), "close 1");
+    startGame();
+    Game.screen = Screen::BestTimes;
+    tick(0.1);
+    tick(0.1);
+    EXPECT_EQ(music().back(), "close 2");
+    startGame();
+    send(WM_CLOSE);
+    EXPECT_EQ(music().back(), "close 3");
+    EXPECT_TRUE(machine.devices.empty() && !Game.musicPlaying);
+}
+
+TEST_F(Music, EndsQuietlyDuringTheNameEntry) {
+    startGame();
+    pressKey(VK_F1);
+    pressKey(VK_F1);
+    ASSERT_EQ(Game.screen, Screen::NameEntry);
+    tick(0.1);
+    EXPECT_EQ(music(), started(first, 1));
+    send(MM_MCINOTIFY);
+    EXPECT_EQ(music().back(), "close 1");
+    EXPECT_EQ(Game.musicPlaying, 1);
+    for (const int key : {'J', 'O', 'E'}) {
+        pressKey(key);
+        tick(0.1);
+    }
+    EXPECT_EQ(Game.musicPlaying, 1);
+    tick(0.1);
+    EXPECT_EQ(music().back(), "close stale 1");
+    EXPECT_EQ(Game.musicPlaying, 0);
+}
+
+TEST_F(Music, LeavesNothingOpenAfterAnError) {
+    const struct {
+        const char* command;
+        Lines expected;
+    } cases[] = {{"MCI_OPEN", {"open " + first}},
+                 {"MCI_STATUS", {"open " + first, "status 1", "close 1"}},
+                 {"MCI_PLAY", {"open " + first, "status 1", "play 1", "close 1"}}};
+    for (const auto& c : cases) {
+        startAfresh();
+        ASSERT_TRUE(startUp());
+        failNext(c.command, 0, 277);
+        startGame();
+        EXPECT_EQ(music(), c.expected) << c.command;
+        EXPECT_EQ(Game.musicPlaying, 1); // not tried again
+        ticks(3, 0.1);
+        EXPECT_EQ(music(), c.expected) << c.command;
+        EXPECT_TRUE(machine.devices.empty());
+        EXPECT_EQ(boxes(), Lines{});
+    }
+}

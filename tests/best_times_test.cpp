@@ -1,0 +1,185 @@
+// The ten best runs: their file, the place of a new one, its name, their picture.
+#include "data/best_times.h"
+
+#include "fakes/play.h"
+
+namespace {
+
+struct TenBest : Story {
+    TenBest() {
+        writeGameFiles({levelText({}), levelText({}), levelText({})});
+        EXPECT_TRUE(startUp());
+        machine.lines.clear();
+    }
+
+    // A run of three levels ends.
+    static void finish(float a, float b, float c) {
+        startGame();
+        pressKey(VK_F1);
+        pressKey(VK_F1);
+        Game.levelTimes[0] = a;
+        Game.levelTimes[1] = b;
+        Game.levelTimes[2] = c;
+        pressKey(VK_F1);
+    }
+
+    static void type(std::initializer_list<int> keys) {
+        for (const int key : keys) {
+            pressKey(key);
+            tick(0.1);
+        }
+    }
+
+    static Lines names() {
+        Lines found;
+        for (int i = 0; i < 10; ++i)
+            found.emplace_back(bestTimes.slots[i].name);
+        return found;
+    }
+};
+
+const std::string tenRecords = "97.5 abc 123.457 d_e 135 f 136 g 137 h 138 i 139 j 140 k 141 l "
+                               "1e+06 m ";
+
+} // namespace
+
+TEST_F(TenBest, ReadBackAsTheyWereSaved) {
+    writeFile("highScore.dat", tenRecords);
+    loadBestTimes();
+    EXPECT_EQ(bestTimes.slots[0].time, 97.5F);
+    EXPECT_EQ(names(), (Lines{"abc", "d_e", "f", "g", "h", "i", "j", "k", "l", "m"}));
+    bestTimes.slots[1].time = 123.4567F;
+    ASSERT_TRUE(saveBestTimes());
+    EXPECT_EQ(readFile("highScore.dat"), tenRecords);
+    writeFile("highScore.dat", "\n" + tenRecords + "\nwhatever follows 7");
+    loadBestTimes();
+    EXPECT_EQ(bestTimes.slots[9].time, 1e6F);
+    EXPECT_EQ(boxes(), Lines{});
+}
+
+TEST_F(TenBest, StartAfreshWithoutAWholeFile) {
+    const std::string nine = tenRecords.substr(0, tenRecords.find("1e+06"));
+    for (const std::string& content :
+         {std::string(), nine, nine + "150", nine + "x m", nine + "nan m", nine + "1e99 m",
+          nine + "150 " + std::string(256, 'n'), std::string("no file")}) {
+        writeFile("highScore.dat", content);
+        if (content == "no file") std::filesystem::remove("highScore.dat");
+        machine.lines.clear();
+        EXPECT_TRUE(loadBestTimes());
+        EXPECT_EQ(boxes(), Lines{"Creating new highScores file | Notice | nobody"});
+        EXPECT_EQ(names(), Lines(10, "aaa")) << content;
+        for (int i = 0; i < 10; ++i)
+            EXPECT_EQ(bestTimes.slots[i].time, 135);
+    }
+    EXPECT_FALSE(std::filesystem::exists("highScore.dat"));
+    writeFile("highScore.dat", nine + "150 " + std::string(255, 'n'));
+    loadBestTimes();
+    EXPECT_EQ(names()[9], std::string(255, 'n'));
+}
+
+TEST_F(TenBest, SurviveAFileThatCannotBeWritten) {
+    std::filesystem::remove("highScore.dat");
+    std::filesystem::create_directory("highScore.dat");
+    EXPECT_FALSE(saveBestTimes());
+    EXPECT_FALSE(std::filesystem::exists("highScore.dat.new"));
+}
+
+TEST_F(TenBest, CompareByTimeAlone) {
+    const BestTimeEntry ten = {10, "b"}, twenty = {20, "a"}, none = {std::nanf(""), "c"};
+    EXPECT_EQ(compareBestTimes(ten, twenty), -1);
+    EXPECT_EQ(compareBestTimes(twenty, ten), 1);
+    EXPECT_EQ(compareBestTimes(ten, ten), -1);
+    EXPECT_EQ(compareBestTimes(none, ten), -1);
+    EXPECT_EQ(compareBestTimes(ten, none), -1);
+}
+
+TEST_F(TenBest, TakeARunAtItsPlace) {
+    finish(40, 40, 35.5F);
+    EXPECT_EQ(Game.screen, Screen::NameEntry);
+    EXPECT_EQ(Game.newBestEntry, 2);
+    EXPECT_EQ(names(), (Lines{"aaa", "bbb", "_", "ccc", "ddd", "eee", "fff", "ggg", "hhh", "iii"}));
+    EXPECT_EQ(bestTimes.slots[2].time, 115.5F);
+    EXPECT_STREQ(bestTimes.slots[10].name, "jjj");
+}
+
+TEST_F(TenBest, LeaveOutARunThatIsSlower) {
+    for (int i = 0; i < 10; ++i)
+        bestTimes.slots[i].time = static_cast<float>(101 + i);
+    finish(45, 45, 45);
+    EXPECT_EQ(Game.screen, Screen::BestTimes);
+    EXPECT_EQ(Game.newBestEntry, -1);
+    EXPECT_EQ(names()[9], "jjj");
+    EXPECT_TRUE(Game.stopped);
+    pressKey(VK_SPACE);
+    EXPECT_EQ(Game.screen, Screen::Title);
+}
+
+TEST_F(TenBest, AskForANameOfThreeLetters) {
+    finish(30, 30, 30);
+    EXPECT_EQ(sounds().size(), 2U); // of the menu
+    machine.lines.clear();
+    tick(0.1);
+    type({VK_RETURN, VK_SPACE, '7', 64, 123, 255});
+    EXPECT_EQ(said("MessageBeep"), Lines(6, "10000"));
+    EXPECT_EQ(names()[0], "_");
+    type({'J'});
+    EXPECT_EQ(names()[0], "J_");
+    type({122});
+    EXPECT_EQ(names()[0], "Jz_");
+    ticks(3, 0.1);
+    EXPECT_EQ(Game.screen, Screen::NameEntry);
+    type({'E'});
+    EXPECT_EQ(names()[0], "JzE");
+    EXPECT_EQ(Game.screen, Screen::BestTimes);
+    EXPECT_EQ(sounds(), Lines(3, "sounds/menu.wav"));
+    EXPECT_EQ(Game.newBestEntry, 0);
+
+    finish(30, 30, 29); // the next one starts with its first letter
+    type({'A'});
+    EXPECT_EQ(names()[0], "A_");
+    EXPECT_EQ(names()[1], "JzE");
+}
+
+TEST_F(TenBest, TakeTheLastOfSeveralUnnamedEntries) {
+    writeFile("highScore.dat", "100 _ 110 b 120 _ 130 d 140 e 150 f 160 g 170 h 180 i 190 j ");
+    loadBestTimes();
+    finish(30, 30, 30);
+    EXPECT_EQ(Game.newBestEntry, 3);
+}
+
+TEST_F(TenBest, AreShownBesideTheRun) {
+    finish(40.25F, 45, 45);
+    tick(0.1);
+    type({'M', 'A', 'X'});
+    tick(0.1);
+    const double small = 13.0 / 33;
+    const std::array<double, 4> red = {1, 0, 0, 1}, cyan = {0, 1, 1, 1}, blue = {0, 0, 1, 1},
+                                grey = {200 / 255.0, 200 / 255.0, 200 / 255.0, 1};
+    std::vector<Text> expected = {
+        {"Level 1:", 0, 0, small, red},  {"Level 2:", 0, 13, small, red},
+        {"Level 3:", 0, 26, small, red}, {"40.25", 80, 0, small, red},
+        {"45.00", 80, 13, small, red},   {"45.00", 80, 26, small, red},
+        {"------", 80, 39, small, red},  {"total", 0, 52, small, red},
+        {"130.25", 80, 52, small, red},  {"Best Times", 205, 10, 1, cyan}};
+    const char* times[] = {"100.00", "110.00", "120.00", "130.00", "130.25",
+                           "140.00", "150.00", "160.00", "170.00", "180.00"};
+    const auto column = [&](double x, const auto& textOf) {
+        for (int i = 0; i < 10; ++i) {
+            expected.push_back({textOf(i), x, 80.0 + 33 * i, 1, i == 4 ? red : grey});
+        }
+    };
+    column(255, [&](int i) { return times[i]; });
+    column(140, [](int i) { return std::to_string(i + 1); });
+    column(450, [](int i) { return names()[static_cast<std::size_t>(i)]; });
+    double width = 0;
+    for (const char c : std::string("press <space> to return")) {
+        width += (c == ' ' ? 10 : testGlyphWidth(c)) * small;
+    }
+    expected.push_back({"press <space> to return", 320 - width / 2, 460, small, blue});
+    EXPECT_EQ(textsDrawn(), expected);
+    EXPECT_EQ(names()[4], "MAX");
+
+    bestTimes.slots[7].time = 130.25F; // an equal time is red as well
+    tick(0.1);
+    EXPECT_EQ(textsDrawn()[17].colour, red);
+}

@@ -1,0 +1,186 @@
+// Every key, with the menu closed and on each of its lines.
+#include <GL/gl.h>
+
+#include "app/keyboard.h"
+#include "fakes/play.h"
+
+namespace {
+
+const std::string menuSound = "sounds/menu.wav";
+
+struct Keyboard : Story {
+    Keyboard() {
+        writeGameFiles({levelText({}), levelText({})});
+        EXPECT_TRUE(startUp());
+        machine.lines.clear();
+    }
+
+    static void openMenuAt(int item) {
+        Game.menuOpen = 1;
+        Game.menuItem = item;
+        machine.lines.clear();
+    }
+};
+
+} // namespace
+
+TEST_F(Keyboard, MovesThroughTheMenu) {
+    const struct {
+        int key;
+        bool fog;
+        int to[11]; // from line 1, 2, 3, ...
+    } cases[] = {{VK_UP, false, {4, 1, 2, 3, 11, 5, 6, 7, 8, 9, 10}},
+                 {VK_UP, true, {4, 1, 2, 3, 11, 5, 6, 6, 8, 9, 10}},
+                 {VK_DOWN, false, {2, 3, 4, 1, 6, 7, 8, 9, 10, 11, 5}},
+                 {VK_DOWN, true, {2, 3, 4, 1, 6, 8, 8, 9, 10, 11, 5}}};
+    for (const auto& c : cases) {
+        for (int item = 1; item <= 11; ++item) {
+            openMenuAt(item);
+            Game.fogOn = c.fog;
+            pressKey(c.key);
+            EXPECT_EQ(Game.menuItem, c.to[item - 1]) << c.key << ' ' << item;
+            EXPECT_EQ(sounds(), Lines{menuSound});
+        }
+    }
+}
+
+TEST_F(Keyboard, EscapeOpensTheMenuAndGoesBackInIt) {
+    pressKey(VK_ESCAPE);
+    EXPECT_TRUE(Game.menuOpen && Game.paused && Game.menuItem == 1);
+    for (int item = 5; item <= 11; ++item) {
+        openMenuAt(item);
+        pressKey(VK_ESCAPE);
+        EXPECT_TRUE(Game.menuOpen && Game.menuItem == 1) << item;
+    }
+    for (int item = 1; item <= 4; ++item) {
+        openMenuAt(item);
+        Game.paused = 1;
+        pressKey(VK_ESCAPE);
+        EXPECT_TRUE(!Game.menuOpen && !Game.paused) << item;
+        EXPECT_EQ(sounds(), Lines{menuSound});
+    }
+}
+
+TEST_F(Keyboard, EnterRightAndLeftChooseALine) {
+    const struct {
+        int item;
+        int lastKey;                    // that the choice leaves behind, 0: the chosen key itself
+        int next;                       // the selected line afterwards
+        std::uint8_t GameRecord::*flag; // that it toggles
+    } cases[] = {{MenuItem::Options, 0, 5, nullptr},
+                 {MenuItem::Statistics, VK_F2, 5, &GameRecord::showStatistics},
+                 {MenuItem::Fog, VK_F5, 6, &GameRecord::fogOn},
+                 {MenuItem::FarSight, VK_F4, 7, &GameRecord::farSight},
+                 {MenuItem::Normal, VK_F3, 8, &GameRecord::normalMode},
+                 {MenuItem::Midi, VK_F6, 10, &GameRecord::midiOn},
+                 {MenuItem::Done, 0, 3, nullptr}};
+    const struct {
+        int key;
+        std::size_t sounds;
+    } keys[] = {{VK_RETURN, 1}, {VK_RIGHT, 1}, {VK_LEFT, 2}};
+    for (const auto& c : cases) {
+        for (const auto& key : keys) {
+            openMenuAt(c.item);
+            Game.fogOn = 0;
+            const auto flag = c.flag != nullptr ? c.flag : &GameRecord::goPlayed;
+            const int before = Game.*flag;
+            pressKey(key.key);
+            EXPECT_EQ(Game.menuItem, c.next) << c.item;
+            EXPECT_EQ(Game.lastKey, c.lastKey != 0 ? c.lastKey : VK_RETURN) << c.item;
+            EXPECT_EQ(sounds(), Lines(key.sounds, menuSound)) << c.item << ' ' << key.key;
+            EXPECT_EQ(Game.*flag != before, c.flag != nullptr) << c.item;
+        }
+    }
+}
+
+TEST_F(Keyboard, CameraLagGoesRound) {
+    openMenuAt(MenuItem::CameraLag);
+    const struct {
+        int key;
+        float from, to;
+    } cases[] = {{VK_RETURN, 6, 7}, {VK_RIGHT, 9, 0}, {VK_LEFT, 6, 5}, {VK_LEFT, 0, 9}};
+    for (const auto& c : cases) {
+        Game.cameraLag = c.from;
+        pressKey(c.key);
+        EXPECT_EQ(Game.cameraLag, c.to) << c.key;
+    }
+    EXPECT_EQ(sounds(), Lines(4, menuSound));
+}
+
+TEST_F(Keyboard, WithTheMenuClosedMostKeysDoNothing) {
+    for (const int key :
+         {VK_RETURN, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_F1, VK_F12, 65, 0, 999}) {
+        pressKey(key);
+        EXPECT_TRUE(!Game.menuOpen && !Game.paused && Game.menuItem == 1) << key;
+        EXPECT_TRUE(Game.screen == Screen::Title && Game.levelNumber == -1) << key;
+    }
+    EXPECT_EQ(sounds(), Lines{});
+    EXPECT_EQ(said("PostMessageA"), Lines{"256 13"}); // Right becomes Enter, always
+    pressKey(0x1C1);
+    EXPECT_EQ(Game.lastKey, -63);
+}
+
+TEST_F(Keyboard, TogglesTheOptions) {
+    machine.drawn.clear();
+    pressKey(VK_F4);
+    EXPECT_EQ(Game.farSight, 0); // not in fog
+    pressKey(VK_F5);
+    EXPECT_EQ(Game.fogOn, 0);
+    pressKey(VK_F4);
+    EXPECT_EQ(Game.farSight, 1);
+    pressKey(VK_F5);
+    EXPECT_TRUE(Game.fogOn && !Game.farSight);
+    EXPECT_EQ(drawn(), (GlCalls{{"glDisable", GL_FOG}, {"glEnable", GL_FOG}}));
+    pressKey(VK_F2);
+    pressKey(VK_F3);
+    EXPECT_TRUE(Game.showStatistics && Game.normalMode);
+    pressKey(VK_F2);
+    pressKey(VK_F3);
+    EXPECT_FALSE(Game.showStatistics || Game.normalMode);
+}
+
+TEST_F(Keyboard, PausesAndSkipsOnlyDuringALevel) {
+    startGame();
+    pressKey(VK_F12);
+    EXPECT_EQ(Game.paused, 1);
+    pressKey(VK_F12);
+    EXPECT_EQ(Game.paused, 0);
+    pressKey(VK_F12);
+    pressKey(VK_ESCAPE);
+    pressKey(VK_F12); // not over the menu
+    EXPECT_EQ(Game.paused, 1);
+    pressKey(VK_F1);
+    EXPECT_EQ(Game.levelNumber, 1);
+    pressKey(VK_ESCAPE);
+    EXPECT_EQ(Game.paused, 0);
+    pressKey(VK_F1);
+    EXPECT_EQ(Game.levelNumber, 2);
+    pressKey(VK_SPACE);
+    EXPECT_EQ(Game.screen, Screen::Level);
+}
+
+TEST_F(Keyboard, HighscoreGivesUpTheRun) {
+    startGame();
+    Game.levelTimes[0] = 20;
+    Game.newBestEntry = 3;
+    pressKey(VK_ESCAPE);
+    pressKey(VK_DOWN);
+    pressKey(VK_RETURN);
+    EXPECT_TRUE(Game.screen == Screen::BestTimes && !Game.menuOpen && Game.newBestEntry == -1);
+    EXPECT_EQ(Game.levelTimes[0], 45);
+    tick(1);
+    EXPECT_TRUE(Game.stopped && Game.levelDone);
+    pressKey(VK_SPACE);
+    EXPECT_EQ(Game.screen, Screen::Title);
+}
+
+TEST_F(Keyboard, NewGameAndQuitLeaveThroughMessages) {
+    startGame();
+    EXPECT_TRUE(Game.screen == Screen::Level && Game.levelNumber == 1 && !Game.menuOpen);
+    EXPECT_EQ(said("PostMessageA").back(), "1026 0");
+    openMenuAt(MenuItem::Quit);
+    std::filesystem::remove("highScore.dat");
+    pressKey(VK_RETURN);
+    EXPECT_EQ(said("PostMessageA"), Lines{"2 0"});
+    EXPECT_TRUE(machine.quitPosted && std::filesystem::exists("highScore.dat"));
+}

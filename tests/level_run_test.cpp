@@ -1,0 +1,111 @@
+// Levels against their clocks, and what leads from one to the next.
+#include "fakes/play.h"
+#include "sim/camera.h"
+
+namespace {
+
+struct LevelRun : Story {
+    LevelRun() {
+        writeGameFiles({levelText({{0, -5800, 40, -30}}), levelText({})});
+        EXPECT_TRUE(startUp());
+        startGame();
+        machine.lines.clear();
+    }
+
+    static void putAtGoal() { marble.setPosition({0, 5800.5F, 0}); }
+};
+
+} // namespace
+
+TEST_F(LevelRun, BeginsWithALongCountDown) {
+    EXPECT_TRUE(Game.screen == Screen::Level && Game.levelNumber == 1);
+    EXPECT_EQ(Game.clock, 52);
+    expectVector(marble.getPosition(), 0, -5800, -30);
+    expectVector(cameraPosition, 0, -8800, -6030);
+    hold(VK_UP);
+    ticks(55, 0.125);
+    EXPECT_EQ(Game.clock, 45.125F);
+    EXPECT_EQ(sounds(), Lines{});
+    ticks(30, 0.125);
+    EXPECT_EQ(sounds(), Lines{"sounds/go.wav"});
+}
+
+TEST_F(LevelRun, LeadsToTheNextLevelASecondAfterTheGoal) {
+    Game.clock = 0.5F;
+    Game.goPlayed = 1;
+    Game.turbo = 1;
+    Game.holdTime = 0.5F;
+    putAtGoal();
+    tick(0.25);
+    EXPECT_EQ(Game.levelTimes[0], 44.75F);
+    ticks(4, 0.25);
+    EXPECT_EQ(Game.levelNumber, 1);
+    tick(0.125);
+    EXPECT_EQ(Game.levelNumber, 2);
+    EXPECT_TRUE(!Game.levelDone && Game.clock == 46.5F && Game.turbo == 5 && Game.holdTime == 0);
+    expectVector(marble.getPosition(), 0, -5800, 0);
+    EXPECT_EQ(marble.velocity.length(), 0);
+    ticks(12, 0.125);
+    EXPECT_EQ(sounds(), (Lines{"sounds/allright.wav", "sounds/go.wav"}));
+}
+
+TEST_F(LevelRun, EndsFourSecondsAfterTheTimeIsUp) {
+    Game.goPlayed = 1;
+    Game.clock = 0.25F;
+    tick(0.25);
+    EXPECT_EQ(sounds(), Lines{});
+    ticks(16, 0.25);
+    EXPECT_EQ(sounds(), Lines{"sounds/timeup.wav"});
+    EXPECT_EQ(Game.clock, -4);
+    EXPECT_EQ(Game.levelNumber, 1);
+    tick(0.25);
+    EXPECT_TRUE(Game.levelNumber == 3 && Game.stopped);
+    EXPECT_EQ(Game.screen, Screen::NameEntry); // 90 seconds are the best of the table
+    EXPECT_EQ(Game.newBestEntry, 0);
+}
+
+TEST_F(LevelRun, SkipsALevelWithF1) {
+    pressKey(VK_F1);
+    EXPECT_EQ(Game.levelNumber, 2);
+    EXPECT_EQ(Game.levelTimes[0], 45);
+    Game.clock = 20;
+    putAtGoal();
+    tick(0.5);
+    pressKey(VK_F1); // sooner than the second after the goal
+    EXPECT_EQ(Game.screen, Screen::NameEntry);
+    EXPECT_EQ(Game.levelTimes[0] + Game.levelTimes[1], 45 + 25.5F);
+    tick(0.1);
+    EXPECT_EQ(Game.nameCursor, 0); // the F1 is no letter of the name
+}
+
+TEST_F(LevelRun, WaitsForTheMenuToClose) {
+    const float clock = Game.clock;
+    pressKey(VK_ESCAPE);
+    send(WM_GAME_START_LEVEL);
+    ticks(10, 0.25);
+    EXPECT_TRUE(Game.levelNumber == 1 && Game.clock == clock);
+    send(WM_KILLFOCUS); // coming back to the window lets the time run, menu or not
+    send(WM_SETFOCUS);
+    Game.clock = -3.9F;
+    ticks(3, 0.25);
+    EXPECT_EQ(Game.screen, Screen::Level);
+    pressKey(VK_ESCAPE);
+    tick(0.25);
+    EXPECT_EQ(Game.screen, Screen::NameEntry);
+}
+
+TEST_F(LevelRun, EndsTheProgramWhenALevelCannotBeLoaded) {
+    writeFile("maps/2.map", "oops");
+    pressKey(VK_F1);
+    EXPECT_EQ(boxes(), (Lines{"maps/2.map contains a unknown tokenoops | error | nobody",
+                              "Unable to initialize map | error | window"}));
+    EXPECT_TRUE(machine.quitPosted && machine.quitCode == 0);
+}
+
+TEST_F(LevelRun, DoesNotCountTheTimeOfLoading) {
+    passTime(3);
+    pressKey(VK_F1);
+    tick(0.125);
+    EXPECT_EQ(Game.frameTime, 0.125F);
+    EXPECT_EQ(Game.clock, 46.375F);
+}
