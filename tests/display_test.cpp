@@ -46,7 +46,6 @@ TEST_F(Start, TakesEveryStepInOrder) {
                             "PostMessageA 1025 0", // a tick into each empty queue
                             "PostMessageA 1025 0",
                             "PostQuitMessage 5",
-                            "PostMessageA 1025 0",
                             "ChangeDisplaySettingsA restore",
                             "ShowCursor 1"}));
     EXPECT_EQ(machine.cursorCount, 0);

@@ -155,8 +155,8 @@ int runProgram(const std::function<void()>& whenIdle) {
     return WinMain(nullptr, nullptr, nullptr, SW_SHOW);
 }
 
-void queueKey(int key) {
-    machine.queue.push_back(MSG{theWindow, WM_KEYDOWN, static_cast<WPARAM>(key), 0, 0, {0, 0}});
+void queueMessage(UINT message, int wParam) {
+    machine.queue.push_back(MSG{theWindow, message, static_cast<WPARAM>(wParam), 0, 0, {0, 0}});
 }
 
 void handleMessages() {

@@ -58,8 +58,8 @@ bool startUp();
 // `whenIdle` is called whenever the message queue is empty. Returns the exit code.
 int runProgram(const std::function<void()>& whenIdle);
 
-// The player presses a key; the program will find it in its queue.
-void queueKey(int key);
+// The program will find the message in its queue.
+void queueMessage(UINT message, int wParam = 0);
 
 // Handles what waits in the queue; a quit message stays there.
 void handleMessages();

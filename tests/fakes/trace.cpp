@@ -61,13 +61,22 @@ Lines said(std::string_view function) {
 bool operator==(const GlCall& a, const GlCall& b) {
     return a.name == b.name &&
            std::equal(a.numbers.begin(), a.numbers.end(), b.numbers.begin(),
-                      [](double x, double y) { return near(x, y, 1e-5, 1e-7); });
+                      [](double x, double y) { return near(x, y, 1e-5, 5e-7); });
 }
 
 void PrintTo(const GlCall& call, std::ostream* out) {
     *out << call.name;
     for (const double number : call.numbers)
         *out << ' ' << number;
+}
+
+std::string difference(const GlCalls& actual, const GlCalls& expected) {
+    const auto [a, e] =
+        std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());
+    if (a == actual.end() && e == expected.end()) return "";
+    return "call " + std::to_string(a - actual.begin()) + " is " +
+           (a == actual.end() ? "missing" : testing::PrintToString(*a)) + " but expected " +
+           (e == expected.end() ? "nothing" : testing::PrintToString(*e));
 }
 
 GlCalls only(const GlCalls& calls, std::initializer_list<std::string_view> names) {

@@ -36,6 +36,9 @@ using GlCalls = std::vector<GlCall>;
 bool operator==(const GlCall& a, const GlCall& b);
 void PrintTo(const GlCall& call, std::ostream* out);
 
+// Where a long row of calls departs from the expected one, in words; nothing where it does not.
+std::string difference(const GlCalls& actual, const GlCalls& expected);
+
 // What the game sees of the machine, and what it did to it.
 struct MachineRecord {
     std::vector<DEVMODEA> modes = {{sizeof(DEVMODEA), 7, 8, 640, 480},

@@ -87,6 +87,7 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
     EXPECT_TRUE(window == theWindow || window == nullptr);
     EXPECT_TRUE(first == 0 && last == 0 && remove == PM_REMOVE);
     *message = {};
+    if (machine.queue.empty() && !machine.quitPosted && machine.whenIdle) machine.whenIdle();
     if (!machine.queue.empty()) {
         *message = machine.queue.front();
         machine.queue.pop_front();
@@ -97,7 +98,6 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
         message->wParam = static_cast<WPARAM>(machine.quitCode);
         return TRUE;
     }
-    if (machine.whenIdle) machine.whenIdle();
     return FALSE;
 }
 

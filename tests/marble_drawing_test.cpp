@@ -1,0 +1,147 @@
+// The marble on the screen: a shaded disc, its ghost, its outline, and the arrows.
+#include <GL/gl.h>
+#include <cmath>
+#include <numbers>
+
+#include "fakes/play.h"
+#include "render/marble.h"
+#include "sim/view_frame.h"
+
+namespace {
+
+// A marble of colour (255, 100, 0) at the origin, seen from behind and above as in play.
+struct MarbleOnScreen : Story {
+    MarbleOnScreen() {
+        marble.setPosition({0, 0, 0});
+        marble.setColour(255, 100, 0);
+        viewFrame.set({0, -400, -350}, pitch, 0, 0);
+    }
+    static constexpr float pitch = -0.8519663F;
+};
+
+// The disc's centre, 20 above the ground: on the middle line, at this height and depth.
+const double sinus = std::sin(0.8519663), cosinus = std::cos(0.8519663);
+const double depth = cosinus * 330 + sinus * 400;
+const double height = (cosinus * 400 - sinus * 330) * 400 / depth / 240;
+
+GlCall rim(int segment) {
+    const double angle = segment * std::numbers::pi / 8;
+    return {"glVertex3f", std::cos(angle) * 20 / depth,
+            height + std::sin(angle) * 20 / depth * 1.333333, 1 / depth};
+}
+
+void appendDisc(GlCalls& calls, double alpha) {
+    const GlCall rimColour = {"glColor4f", 0.1, 10 / 255.0, 0, alpha};
+    for (int segment = 0; segment < 16; ++segment) {
+        calls.insert(calls.end(), {{"glBegin", GL_TRIANGLES},
+                                   {"glColor4f", 1, 100 / 255.0, 0, alpha},
+                                   {"glVertex3f", 0, height, 1 / (depth - 20)},
+                                   rimColour,
+                                   rim(segment + 1),
+                                   rimColour,
+                                   rim(segment),
+                                   {"glEnd"}});
+    }
+}
+
+GlCalls expectedMarble() {
+    GlCalls calls = {{"glEnable", GL_DEPTH_TEST},
+                     {"glDisable", GL_TEXTURE_2D},
+                     {"glDisable", GL_CULL_FACE},
+                     {"glDisable", GL_BLEND}};
+    appendDisc(calls, 1);
+    calls.insert(calls.end(), {{"glDisable", GL_DEPTH_TEST},
+                               {"glEnable", GL_BLEND},
+                               {"glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA}});
+    appendDisc(calls, 0.3);
+    calls.insert(calls.end(), {{"glEnable", GL_BLEND},
+                               {"glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA},
+                               {"glEnable", GL_LINE_SMOOTH},
+                               {"glHint", GL_LINE_SMOOTH_HINT, GL_NICEST},
+                               {"glLineWidth", 1}});
+    const GlCall colour = {"glColor4f", 0.1, 10 / 255.0, 0, 0.3};
+    for (int segment = 0; segment < 16; ++segment) {
+        calls.emplace_back("glBegin", GL_LINES);
+        for (int pass = 0; pass < 3; ++pass) {
+            calls.insert(calls.end(), {colour, rim(segment + 1), colour, rim(segment)});
+        }
+        calls.emplace_back("glEnd");
+    }
+    return calls;
+}
+
+GlCall pixel(double x, double y, double inverseDepth) {
+    return {"glVertex3f", x / 320 - 1, y / 240 - 1, inverseDepth};
+}
+
+// An arrow from one pixel point to another, with the barbs of its head.
+GlCalls arrow(const Vector3& f, const Vector3& t) {
+    const double back = std::atan2(t.y - f.y, t.x - f.x) + std::numbers::pi;
+    const double lift = 1.0 / t.z + 0.0001;
+    const auto barb = [&](double side) {
+        return pixel(t.x + 10 * std::cos(back + side * std::numbers::pi / 8),
+                     t.y + 10 * std::sin(back + side * std::numbers::pi / 8), lift);
+    };
+    const GlCall tip = pixel(t.x, t.y, lift);
+    return {{"glDisable", GL_CULL_FACE},
+            {"glDisable", GL_TEXTURE_2D},
+            {"glDisable", GL_FOG},
+            {"glEnable", GL_LINE_SMOOTH},
+            {"glEnable", GL_DEPTH_TEST},
+            {"glHint", GL_LINE_SMOOTH_HINT, GL_NICEST},
+            {"glLineWidth", 1.5},
+            {"glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA},
+            {"glColor4f", 1, 1, 0, 1},
+            {"glBegin", GL_LINES},
+            pixel(f.x, f.y, 1 / f.z),
+            pixel(f.x + 0.9 * (t.x - f.x), f.y + 0.9 * (t.y - f.y), 1 / (f.z + 0.9 * (t.z - f.z))),
+            {"glEnd"},
+            {"glDisable", GL_BLEND},
+            {"glBegin", GL_TRIANGLES},
+            tip,
+            barb(1),
+            barb(-1),
+            {"glEnd"},
+            {"glEnable", GL_BLEND},
+            {"glBegin", GL_LINES},
+            tip,
+            barb(1),
+            barb(-1),
+            tip,
+            {"glEnd"}};
+}
+
+} // namespace
+
+TEST_F(MarbleOnScreen, IsADiscWithAGhostAndAnOutline) {
+    marble.draw(viewFrame, level, false);
+    const GlCalls expected = expectedMarble();
+    ASSERT_EQ(drawn().size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i)
+        EXPECT_EQ(drawn()[i], expected[i]) << i;
+}
+
+TEST_F(MarbleOnScreen, PointsItsArrowsUpAndDownhill) {
+    marble.draw(viewFrame, level, true);
+    const GlCalls arrows(drawn().end() - 2 * 26, drawn().end());
+    const auto onScreen = [](double up) { // a point above the marble
+        const double q = cosinus * (350 - up) + sinus * 400;
+        return Vector3(320,
+                       static_cast<float>(240 + (cosinus * 400 - sinus * (350 - up)) * 400 / q),
+                       static_cast<float>(q));
+    };
+    GlCalls expected = arrow(onScreen(20), onScreen(120));
+    const GlCalls downhill = arrow(onScreen(20), onScreen(20)); // none: the ground is level
+    expected.insert(expected.end(), downhill.begin(), downhill.end());
+    EXPECT_EQ(difference(arrows, expected), "");
+    EXPECT_EQ(difference({drawn().begin(), drawn().end() - 2 * 26}, expectedMarble()), "");
+}
+
+TEST_F(MarbleOnScreen, DrawsAnArrowInAnyDirection) {
+    for (const Vector3& to :
+         {Vector3(400, 300, 500), Vector3(250, 200, 450), Vector3(320, 100, 600)}) {
+        machine.drawn.clear();
+        drawArrow({320, 240, 550}, to);
+        EXPECT_EQ(difference(drawn(), arrow({320, 240, 550}, to)), "");
+    }
+}
