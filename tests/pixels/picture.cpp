@@ -1,0 +1,80 @@
+#include "pixels/picture.h"
+
+#include <GL/gl.h>
+#include <gtest/gtest.h>
+#include <png.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+
+namespace {
+
+double distance(Pixel a, Pixel b) {
+    return std::max(
+        {std::abs(a.red - b.red), std::abs(a.green - b.green), std::abs(a.blue - b.blue)});
+}
+
+std::uint8_t byteOf(double colour) {
+    return static_cast<std::uint8_t>(std::clamp(colour, 0.0, 255.0) + 0.5);
+}
+
+std::size_t offsetOf(const Picture& picture, int x, int y) {
+    return static_cast<std::size_t>(y * picture.width + x) * 3;
+}
+
+void savePng(const Picture& picture, const std::string& fileName) {
+    png_image image = {};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = static_cast<png_uint_32>(picture.width);
+    image.height = static_cast<png_uint_32>(picture.height);
+    image.format = PNG_FORMAT_RGB;
+    std::filesystem::create_directories(GLORBIX_PICTURES);
+    png_image_write_to_file(&image, (GLORBIX_PICTURES "/" + fileName).c_str(), 0,
+                            picture.bytes.data(), -3 * picture.width, nullptr);
+}
+
+} // namespace
+
+Pixel Picture::at(int x, int y) const {
+    const std::uint8_t* p = &bytes[offsetOf(*this, x, y)];
+    return {static_cast<double>(p[0]), static_cast<double>(p[1]), static_cast<double>(p[2])};
+}
+
+void Picture::put(int x, int y, Pixel pixel) {
+    const std::uint8_t colours[] = {byteOf(pixel.red), byteOf(pixel.green), byteOf(pixel.blue)};
+    std::memcpy(&bytes[offsetOf(*this, x, y)], colours, 3);
+}
+
+Picture photograph() {
+    Picture picture;
+    glReadPixels(0, 0, picture.width, picture.height, GL_RGB, GL_UNSIGNED_BYTE,
+                 picture.bytes.data());
+    return picture;
+}
+
+Picture paint(const std::function<Pixel(int x, int y)>& pixelAt) {
+    Picture picture;
+    for (int y = 0; y < picture.height; ++y) {
+        for (int x = 0; x < picture.width; ++x)
+            picture.put(x, y, pixelAt(x, y));
+    }
+    return picture;
+}
+
+void expectLike(const Picture& actual, const Picture& expected, const std::string& name,
+                double tolerance, double shareOfMisses) {
+    int misses = 0;
+    const Picture difference = paint([&](int x, int y) {
+        const double d = distance(actual.at(x, y), expected.at(x, y));
+        misses += d > tolerance ? 1 : 0;
+        return Pixel{d, d > tolerance ? 0 : d, d > tolerance ? 0 : d};
+    });
+    const double share = misses / (640.0 * 480.0);
+    if (share <= shareOfMisses) return;
+    ADD_FAILURE() << name << ": " << misses << " pixels differ, see " GLORBIX_PICTURES;
+    savePng(actual, name + "-actual.png");
+    savePng(expected, name + "-expected.png");
+    savePng(difference, name + "-difference.png");
+}

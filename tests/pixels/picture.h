@@ -1,0 +1,38 @@
+// Pictures of the game's 640 x 480 surface, and what they should look like.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+// Red, green and blue, each 0..255.
+struct Pixel {
+    double red, green, blue;
+};
+
+constexpr Pixel operator*(Pixel p, double s) { return {p.red * s, p.green * s, p.blue * s}; }
+constexpr Pixel operator+(Pixel a, Pixel b) {
+    return {a.red + b.red, a.green + b.green, a.blue + b.blue};
+}
+
+// Rows from the bottom up, as OpenGL counts.
+struct Picture {
+    int width = 640;
+    int height = 480;
+    std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(640 * 480 * 3);
+
+    Pixel at(int x, int y) const;
+    void put(int x, int y, Pixel pixel);
+};
+
+// What stands on the surface now.
+Picture photograph();
+
+// The picture whose pixels are these.
+Picture paint(const std::function<Pixel(int x, int y)>& pixelAt);
+
+// Expects two pictures to be the same within `tolerance` of 255 a colour, but for a share of the
+// pixels. A miss leaves <name>-actual.png, -expected.png and -difference.png in the build folder.
+void expectLike(const Picture& actual, const Picture& expected, const std::string& name,
+                double tolerance = 10, double shareOfMisses = 0);

@@ -1,0 +1,266 @@
+// What only pixels tell: the game on the real OpenGL, drawn without a screen.
+#include <GL/gl.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <set>
+
+#include "app/game.h"
+#include "app/screens.h"
+#include "app/window.h"
+#include "data/font.h"
+#include "data/level.h"
+#include "fakes/game_files.h"
+#include "pixels/picture.h"
+#include "platform/sdl/machine.h"
+#include "sim/marble.h"
+#include "sim/view_frame.h"
+
+namespace {
+
+constexpr Pixel fogColour = {255, 128, 0};
+constexpr Pixel groundColour = {40, 200, 90};
+
+// The title: red grows to the right, green upwards, all bits of both in use.
+unsigned titleAt(int x, int y) {
+    return static_cast<unsigned>(x * 255 / 639) << 16 | static_cast<unsigned>(y * 255 / 479) << 8;
+}
+
+// The font's glyphs are solid blocks, and the ground has one colour in all mip levels.
+void writePictures() {
+    writeGameFiles({levelText({}, "fogcolor= 0xFF8000 marblecolor= 0xFF6400")});
+    for (int k = 0; k < 9; ++k) {
+        writeBitmap("graphics/font/font_" + std::to_string(k) + ".bmp", 256 >> k, 256 >> k,
+                    0xFFFFFF);
+    }
+    writeBitmap("graphics/title.bmp", 640, 480, titleAt);
+    for (int k = 0; k < 8; ++k) {
+        writeBitmap("ground_" + std::to_string(k) + ".bmp", 128 >> k, 128 >> k, 0x28C85A);
+    }
+}
+
+// One window on the real machine for all tests.
+class OnScreen : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        if (Game.window != nullptr) return;
+        setenv("SDL_VIDEODRIVER", "offscreen", 1);
+        setenv("SDL_AUDIODRIVER", "dummy", 1);
+        static const EmptyFolder folder;
+        writePictures();
+        WNDCLASSA windowClass = {};
+        windowClass.lpfnWndProc = GameWindowProc;
+        windowClass.lpszClassName = "Glorbix";
+        RegisterClassA(&windowClass);
+        Game.window = CreateWindowExA(0, "Glorbix", "Glorbix", WS_POPUP, 0, 0, 640, 480, nullptr,
+                                      nullptr, nullptr, nullptr);
+        std::atexit(stopMachine);
+    }
+
+    void SetUp() override {
+        ASSERT_NE(Game.glContext, nullptr);
+        clear({0, 0, 0});
+    }
+
+    static void clear(Pixel colour) {
+        glClearColor(static_cast<float>(colour.red / 255), static_cast<float>(colour.green / 255),
+                     static_cast<float>(colour.blue / 255), 0);
+        glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    }
+
+    static void load(const std::vector<Hole>& holes) {
+        writeFile("a.map", levelText(holes, "fogcolor= 0xFF8000 marblecolor= 0xFF6400"));
+        ASSERT_TRUE(level.load("a.map", marble));
+    }
+};
+
+Pixel pixelOf(unsigned colour) {
+    return {static_cast<double>(colour >> 16), static_cast<double>(colour >> 8 & 255),
+            static_cast<double>(colour & 255)};
+}
+
+// The blocks of a text in the test font, x and y counted from the top left.
+void putText(Picture& picture, const char* text, double x, double y, double scale, Pixel colour) {
+    for (; *text != '\0'; ++text) {
+        const double right = x + scale * (*text == ' ' ? 10 : testGlyphWidth(*text));
+        for (int py = 0; py < 480 && *text != ' '; ++py) {
+            if (479.5 - py < y || 479.5 - py >= y + 33 * scale) continue;
+            for (int px = 0; px < 640; ++px) {
+                if (px + 0.5 >= x && px + 0.5 < right) picture.put(px, py, colour);
+            }
+        }
+        x = right;
+    }
+}
+
+// The eye behind and above the origin, as in play.
+constexpr float pitch = -0.8519663F;
+const Vector3 eye(0, -400, -350);
+
+// Where the line of sight through a pixel meets level ground.
+struct Spot {
+    double x, y, depth;
+};
+
+Spot groundUnder(int px, int py, double angle) {
+    const double vx = ((px + 0.5) / 320 - 1) / 1.25, vy = ((py + 0.5) / 240 - 1) / 1.666667;
+    const double down = std::sin(angle) * vy + std::cos(angle);
+    const double ahead = std::cos(angle) * vy - std::sin(angle);
+    const double depth = down > 0 ? 350 / down : 1e9;
+    return {vx * depth, -400 + ahead * depth, depth};
+}
+
+// The rows that are drawn without far sight end at y = 1830.
+bool isOnCourse(const Spot& spot) { return spot.x > -750 && spot.x < 720 && spot.y < 1830; }
+
+Pixel fogged(Pixel colour, double depth) {
+    const double clear = std::clamp((1 / 1800.0 - 1 / depth) / (1 / 1800.0 - 1 / 400.0), 0.0, 1.0);
+    return colour * clear + fogColour * (1 - clear);
+}
+
+} // namespace
+
+TEST_F(OnScreen, FogGrowsToItsFullColourAtDepth1800) {
+    load({});
+    ViewFrame view;
+    for (const float angle : {pitch, -1.25F}) {
+        clear(fogColour);
+        view.set(eye, angle, 0, 0);
+        level.drawGround(view, false, true);
+        expectLike(photograph(), paint([&](int x, int y) {
+                       const Spot spot = groundUnder(x, y, angle);
+                       return isOnCourse(spot) ? fogged(groundColour, spot.depth) : fogColour;
+                   }),
+                   "fog", 10, 0.005);
+    }
+}
+
+TEST_F(OnScreen, TextureLiesFastOnTheGround) {
+    constexpr unsigned quarters[2][2] = {{0xFF0000, 0x00FF00}, {0x0000FF, 0xFFFFFF}};
+    for (int k = 0; k < 8; ++k) { // each quarter covers 80 by 60 units of the ground
+        const int size = 128 >> k, half = std::max(size / 2, 1);
+        writeBitmap("quarters_" + std::to_string(k) + ".bmp", size, size,
+                    [&](int x, int y) { return quarters[y / half][x / half]; });
+    }
+    writeFile("b.map", "texturefile= quarters");
+    ASSERT_TRUE(level.load("b.map", marble));
+    ViewFrame view;
+    view.set(eye, pitch, 0, 0);
+    level.drawGround(view, true, false);
+    expectLike(photograph(), paint([&](int x, int y) {
+                   const Spot spot = groundUnder(x, y, pitch);
+                   if (!isOnCourse(spot)) return Pixel{0, 0, 0};
+                   const double s = spot.x / 160, t = spot.y / 120;
+                   return pixelOf(
+                       quarters[t - std::floor(t) < 0.5 ? 0 : 1][s - std::floor(s) < 0.5 ? 0 : 1]);
+               }),
+               "texture", 60, 0.08);
+}
+
+TEST_F(OnScreen, GroundIsSeenFromAboveOnly) {
+    load({});
+    clear({0, 0, 255});
+    const Picture empty = photograph();
+    ViewFrame view;
+    view.set({0, -200, 350}, -3.1415927F, 0, 0); // from below, straight up
+    EXPECT_GT(level.drawGround(view, false, false), 0);
+    expectLike(photograph(), empty, "from-below");
+    view.set(eye, pitch, 0, 0);
+    level.drawGround(view, false, false);
+    EXPECT_NEAR(photograph().at(320, 240).green, groundColour.green, 5);
+}
+
+TEST_F(OnScreen, MarbleBehindAHillIsAGhost) {
+    const struct {
+        const char* name;
+        std::vector<Hole> holes;
+        double share; // of the marble's own colour
+    } cases[] = {{"marble-in-the-open", {}, 1},
+                 {"marble-before-a-hill", {{0, 300, 40, -300}}, 1},
+                 {"marble-behind-a-hill", {{0, -150, 40, -300}}, 0.3}};
+    for (const auto& c : cases) {
+        load(c.holes);
+        clear({0, 0, 0});
+        viewFrame.set(eye, pitch, 0, 0);
+        marble.setPosition({0, 0, level.heightAt(0, 0)});
+        level.drawGround(viewFrame, false, false);
+        marble.draw(viewFrame, level, false);
+        const Picture actual = photograph();
+        const Vector3 q = viewFrame.getRotation() *
+                          (marbleCentre(level, marble.getPosition()) - viewFrame.getPosition());
+        const double centreX = 320 + q.x * 400 / q.z, centreY = 240 + q.y * 400 / q.z;
+        expectLike(actual, paint([&](int x, int y) {
+                       const double r =
+                           std::hypot(x + 0.5 - centreX, y + 0.5 - centreY) / (6400.0 / q.z);
+                       if (r > 0.85) return actual.at(x, y); // the outline, and what is around it
+                       const Pixel disc = Pixel{255, 100, 0} * (1 - 0.9 * r);
+                       return disc * c.share + groundColour * (1 - c.share);
+                   }),
+                   c.name, 14);
+    }
+}
+
+TEST_F(OnScreen, TitleIsShownInSixteenBits) {
+    Game.screen = Screen::Title;
+    GameWindowProc(Game.window, WM_PAINT, 0, 0);
+    const Picture actual = photograph();
+    expectLike(actual, paint([](int x, int y) { return pixelOf(titleAt(x, y)); }), "title", 8);
+    std::set<double> reds, greens;
+    for (int i = 0; i < 480; ++i) {
+        reds.insert(actual.at(i, 0).red);
+        greens.insert(actual.at(0, i).green);
+    }
+    EXPECT_LE(reds.size(), 32U);
+    EXPECT_EQ(greens.size(), 64U);
+}
+
+TEST_F(OnScreen, MenuStandsOnTheDarkenedTitle) {
+    Game.screen = Screen::Title;
+    GameWindowProc(Game.window, WM_KEYDOWN, VK_ESCAPE, 0);
+    GameWindowProc(Game.window, WM_PAINT, 0, 0);
+    GameWindowProc(Game.window, WM_KEYDOWN, VK_ESCAPE, 0);
+    Picture expected = paint([](int x, int y) { return pixelOf(titleAt(x, y)) * 0.5; });
+    putText(expected, "NeW Game", 220, 160, 1, {255, 255, 255});
+    putText(expected, "HIGHSCORE", 220, 193, 1, {0, 0, 255});
+    putText(expected, "Options", 220, 226, 1, {0, 0, 255});
+    putText(expected, "Quit", 220, 259, 1, {0, 0, 255});
+    expectLike(photograph(), expected, "menu", 8);
+}
+
+TEST_F(OnScreen, SmallTextStandsWhereItShould) {
+    Picture expected;
+    font.setScale(smallText);
+    font.setColour(1, 0, 0, 1);
+    font.setPosition(100, 50);
+    font.drawText("Level 1:\nLevel 22:");
+    putText(expected, "Level 1:", 100, 50, 13 / 33.0, {255, 0, 0});
+    putText(expected, "Level 22:", 100, 63, 13 / 33.0, {255, 0, 0});
+    expectLike(photograph(), expected, "small-text", 8, 0.0002);
+}
+
+TEST_F(OnScreen, GaugeAndClockStandOverTheWorld) {
+    load({});
+    viewFrame.set(eye, pitch, 0, 0);
+    level.drawGround(viewFrame, false, false);
+    marble.draw(viewFrame, level, false);
+    Picture expected = photograph();
+    Game.clock = 45;
+    Game.levelDone = 0;
+    Game.turbo = 2.5F;
+    drawTurboGauge();
+    drawStatsAndClock();
+    putText(expected, "45.00", 280, 0, 1, {0, 255, 0});
+    putText(expected, "Turbo", 475, 460, 0.5, {255, 255, 255});
+    const Picture actual = photograph();
+    for (int y = 1; y < 26; ++y) {
+        for (int x = 542; x < 639; ++x) {
+            const bool bar = x > 589 && x < 636 && y > 2 && y < 24; // half of it is spent
+            const bool inside = x > 545 && x < 635 && y > 3 && y < 23;
+            if (bar) expected.put(x, y, {128, 128, 0});
+            if (!inside) expected.put(x, y, actual.at(x, y)); // the frame's lines
+        }
+    }
+    EXPECT_EQ(actual.at(600, 24).blue, 255); // the frame
+    expectLike(actual, expected, "head-up-display", 10, 0.0005);
+}
