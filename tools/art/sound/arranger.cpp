@@ -6,10 +6,25 @@
 #include "tools/art/sound/note_text.h"
 #include "tools/art/sound/pattern_player.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int accent = 14;
+constexpr int mostSwell = 6;
 constexpr int ghostShare = 55; // percent of the loudness of a drum that is hardly touched
+
+int averagePitch(const std::vector<WrittenNote>& notes) {
+    int sum = 0;
+    for (const WrittenNote& note : notes)
+        sum += note.pitch;
+    return notes.empty() ? 0 : sum / static_cast<int>(notes.size());
+}
+
+// A melody swells as it rises above its middle, by half a step of velocity for each semitone.
+int swellOf(int semitones) {
+    return std::clamp(semitones / 2, -mostSwell, mostSwell);
+}
 
 // Works through one section; everything it reads is counted from the section's own beginning.
 struct SectionArranger {
@@ -51,8 +66,10 @@ bool SectionArranger::readMelody(const Line& line, std::vector<PlayedNote>& note
                 std::to_string(length / ticksPerBar);
         return false;
     }
+    const int middle = averagePitch(written);
     for (const WrittenNote& note : written) {
-        const int loudness = loudnessAt(line.dynamics, note.start) + (note.accented ? accent : 0);
+        const int loudness = loudnessAt(line.dynamics, note.start) + swellOf(note.pitch - middle) +
+                             (note.accented ? accent : 0);
         const int sounding = note.isShort ? note.length / 2 : note.length;
         notes.push_back(
             {start + note.start, sounding, note.pitch + section.transpose + line.shift, loudness});
@@ -67,9 +84,12 @@ bool SectionArranger::readPattern(const Line& line, const Part& part,
     PatternPlayer player{chords, part.lowest, part.highest};
     for (const GridHit& hit : hits) {
         const int loudness = loudnessAt(line.dynamics, hit.start);
-        for (const PatternNote& note : player.play(hit))
+        int delay = 0;
+        for (const PatternNote& note : player.play(hit)) {
             notes.push_back({start + note.start, note.length, note.pitch,
-                             loudness + (note.accented ? accent : 0)});
+                             loudness + (note.accented ? accent : 0), delay});
+            delay += part.strum;
+        }
     }
     if (player.unknownSign == 0) return true;
     error = std::string("no such sign: ") + player.unknownSign;

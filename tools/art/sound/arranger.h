@@ -11,7 +11,8 @@ struct PlayedNote {
     int start;
     int length;
     int pitch;
-    int loudness; // key velocity as written, before the player's own hand
+    int loudness;  // key velocity as written, before the player's own hand
+    int delay = 0; // ticks by which the sound comes after the start that is meant
 };
 
 // A place at which a section begins.

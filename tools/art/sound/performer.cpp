@@ -93,10 +93,11 @@ MidiTrack playPart(const Piece& piece, const Part& part, std::vector<PlayedNote>
     for (std::size_t i = 0; i < notes.size(); ++i) {
         const PlayedNote& note = notes[i];
         const int sounding = std::max(1, static_cast<int>(note.length * part.gate));
+        const int start = note.start + note.delay;
         const int end = std::min(note.start + sounding, nextStartOf(notes, i));
+        if (end <= start) continue;
         const int velocity = velocityOf(note, piece.beatsPerBar * ticksPerQuarter, hand);
-        if (end <= note.start) continue;
-        track.note(part.channel, note.pitch, velocity, swung(note.start, piece.swing),
+        track.note(part.channel, note.pitch, velocity, swung(start, piece.swing),
                    swung(end, piece.swing));
     }
     return track;

@@ -10,6 +10,10 @@ Line pattern(std::string part, Dynamics dynamics, std::string text) {
     return {std::move(part), LineKind::Pattern, dynamics, std::move(text)};
 }
 
+void Section::add(Line line) {
+    lines.push_back(std::move(line));
+}
+
 Line drums(Dynamics dynamics, std::string text) {
     return {"Drums", LineKind::Drums, dynamics, std::move(text)};
 }

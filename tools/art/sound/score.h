@@ -43,6 +43,7 @@ struct Part {
     int lowest;        // lowest pitch of the instrument in this piece; patterns keep close above it
     int highest;       // highest pitch
     double gate = 0.9; // share of a note's written length that sounds
+    int strum = 0;     // ticks from one string of a chord to the next
 };
 
 enum class LineKind {
@@ -69,7 +70,10 @@ struct Section {
     std::string chords; // one entry for each bar, see chord_text.h; their number is the length
     std::vector<Line> lines;
     int transpose = 0;      // semitones, chords and melodies alike
-    double lastTempo = 0.0; // beats per minute reached at the section's end, 0: no change
+    double lastTempo = 0.0; // quarters per minute reached at the section's end, 0: no change
+
+    // One more line, to be played with the others; a part may have several.
+    void add(Line line);
 };
 
 struct Piece {
