@@ -30,6 +30,7 @@ inline constexpr float levelNotFinished = -4.0F; // levelEndAt while the goal ha
 inline constexpr float fullTurbo = 5.0F;         // seconds of turbo that each level starts with
 inline constexpr float fullPenaltyFade = 0.7F;   // seconds that a penalty label lives
 
+inline constexpr float clockX = 280.0F;  // pixels: where the clock is drawn, at the top
 inline constexpr int screenWidth = 640;  // pixels
 inline constexpr int screenHeight = 480; // pixels
 

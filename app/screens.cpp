@@ -8,6 +8,7 @@
 #include "app/keyboard.h"
 #include "data/bitmap.h"
 #include "data/font.h"
+#include "sim/projection.h"
 
 namespace {
 
@@ -108,7 +109,7 @@ float shownClock() {
 
 void drawClock() {
     font.setScale(normalText);
-    font.setPosition(280.0F, 0.0F);
+    font.setPosition(clockX, 0.0F);
     const float v = shownClock();
     const auto f = static_cast<float>(v * 0.022222222222222223); // share of the time left
     font.setColour(1.0F - f, f, 0.0F, 1.0F);
@@ -199,7 +200,7 @@ void drawBanner() {
     if (Game.bannerScale < bannerEndScale) return;
 
     font.setScale(Game.bannerScale);
-    font.setPosition(320.0F - 0.5F * font.textWidth("Level 1"), 205.0F);
+    font.setPosition(screenCentreX - 0.5F * font.textWidth("Level 1"), 205.0F);
     setTextColour(white);
     font.drawText("Level ");
     font.drawNumber(static_cast<float>(Game.levelNumber), 0);

@@ -3,6 +3,7 @@
 #include "app/game.h"
 #include "data/best_times.h"
 #include "data/font.h"
+#include "sim/projection.h"
 
 namespace {
 
@@ -13,7 +14,6 @@ constexpr float tableTop = 80.0F;
 constexpr float rankX = 140.0F;
 constexpr float timeX = 255.0F;
 constexpr float nameX = 450.0F;
-constexpr float screenMiddle = 320.0F;
 
 constexpr const char* footer = "press <space> to return";
 
@@ -86,7 +86,7 @@ void drawTable(float runTotal) {
 void drawFooter() {
     font.setScale(smallText);
     font.setColour(0.0F, 0.0F, 1.0F, 1.0F);
-    font.setPosition(screenMiddle - 0.5F * font.textWidth(footer), 460.0F);
+    font.setPosition(screenCentreX - 0.5F * font.textWidth(footer), 460.0F);
     font.drawText(footer);
 }
 

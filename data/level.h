@@ -29,6 +29,7 @@ inline constexpr int groundVertices = groundColumns * groundRows;
 inline constexpr int groundCentreColumn = 25; // the column at x = 0
 inline constexpr int groundCentreRow = 200;   // the row at y = 0
 inline constexpr int groundSpacing = 30;      // world units between neighbours
+inline constexpr double spacingsPerUnit = 1.0 / groundSpacing;
 
 inline constexpr int groundTextureLevels = 8; // mip levels 128 x 128 down to 1 x 1
 inline constexpr int groundTextureSize = 128; // pixels a side of level 0
@@ -85,6 +86,7 @@ struct Level {
 
     // Draws the part of the ground that the view can see (render/ground.cpp). Without far sight
     // it ends 60 rows beyond the point 400 units ahead of the eye. Needs a current OpenGL context,
+    // a loaded level,
     // identity matrices and a depth buffer cleared to 0. Returns the triangles drawn.
     std::int32_t drawGround(const ViewFrame& view, bool farSight, bool fogOn);
 };

@@ -1,3 +1,5 @@
+#include "data/level.h"
+
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
@@ -5,7 +7,6 @@
 
 #include <GL/gl.h>
 
-#include "data/level.h"
 #include "data/mip_chain.h"
 #include "data/tokens.h"
 #include "platform/windows_api.h"

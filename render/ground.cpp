@@ -1,9 +1,10 @@
+#include "data/level.h"
+
 #include <bitset>
 #include <cstddef>
 
 #include <GL/gl.h>
 
-#include "data/level.h"
 #include "sim/view_frame.h"
 
 namespace {
@@ -12,11 +13,11 @@ namespace {
 constexpr int lastCellRow = groundRows - 2;
 constexpr int lastCellColumn = groundColumns - 2;
 
-constexpr double spacingsPerUnit = 0.03333333333333333;
 constexpr double lookAhead = 400.0; // world units from the eye to where the traversal starts
 constexpr int rowsInSight = 60;     // beyond the start row, unless far sight is on
 
-// The focal length of 400 pixels over half the screen's width and height.
+// The focal length of 400 pixels over half the screen's width and height; the latter is meant with
+// these decimals, not as 5/3.
 constexpr double focalX = 1.25;
 constexpr double focalY = 1.666667;
 
@@ -32,8 +33,8 @@ struct GroundWalk {
     int startRow;
     int startColumn;
     int lastRow;
-    std::int32_t triangles;
-    std::bitset<groundVertices> projected;
+    std::int32_t triangles = 0;
+    std::bitset<groundVertices> projected = {};
 };
 
 // Where a scan goes: which way it steps, and how far.
@@ -74,7 +75,7 @@ void project(GroundWalk& walk, int index) {
     walk.ground.groundScreen[index].set(static_cast<float>(q.x * focalX / q.z),
                                         static_cast<float>(q.y * focalY / q.z),
                                         static_cast<float>(1.0 / q.z));
-    walk.projected.set(static_cast<std::size_t>(index));
+    walk.projected[static_cast<std::size_t>(index)] = true;
 }
 
 void projectCorners(GroundWalk& walk, int row, int column) {
@@ -173,8 +174,7 @@ std::int32_t Level::drawGround(const ViewFrame& view, bool farSight, bool fogOn)
     const int startRow = startRowFor(eye);
     const bool endInSight = farSight || startRow + rowsInSight > lastCellRow;
     const int lastRow = endInSight ? lastCellRow : startRow + rowsInSight;
-    GroundWalk walk = {*this, eye, view.getRotation(), startRow, startColumnFor(eye), lastRow,
-                       0,     {}};
+    GroundWalk walk = {*this, eye, view.getRotation(), startRow, startColumnFor(eye), lastRow};
 
     setGroundState(*this, fogOn);
     walkQuadrant(walk, {+1, +1});

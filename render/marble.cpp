@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr float segmentAngle = 0.39269912F;              // a sixteenth of a full turn
-constexpr float fullTurn = 6.283185958862305F;           // 2 pi as a float
-constexpr double aspect = 1.333333;                      // NDC are so much taller than wide
+constexpr float segmentAngle = 0.39269912F;    // radians, a sixteenth of a full turn
+constexpr float fullTurn = 6.283185958862305F; // just above 2 pi: sixteen segments stay below it
+constexpr double aspect = 1.333333;            // of a circle in NDC: its height over its width
 constexpr float centrePerColour = 0.003921568859368563F; // from 0..255 to 0..1
 constexpr float rimPerColour = 0.0003921568568330258F;   // the rim is a tenth as bright
 constexpr float solid = 1.0F;
@@ -81,7 +81,8 @@ void drawDisc(const Disc& disc, float alpha) {
     });
 }
 
-// Each segment is drawn three times over itself, which makes the outline denser.
+// Each segment is drawn three times over itself, which makes the outline denser. Its height is
+// worked out with the aspect rounded to a float, unlike the disc's.
 void drawOutline(const Disc& disc) {
     forEachSegment(disc, static_cast<float>(aspect), [&](const Vector3& a, const Vector3& b) {
         glBegin(GL_LINES);
@@ -129,8 +130,8 @@ constexpr float ndcPerArrowY = 0.004166667F;
 // x and y in pixels from the bottom left, z the depth.
 Vector3 onScreen(const ViewFrame& view, const Vector3& point) {
     const Vector3 q = toView(view, point);
-    return {static_cast<float>(q.x * focalLength / q.z + 320.0),
-            static_cast<float>(q.y * focalLength / q.z + 240.0), q.z};
+    return {static_cast<float>(q.x * focalLength / q.z + screenCentreX),
+            static_cast<float>(q.y * focalLength / q.z + screenCentreY), q.z};
 }
 
 void putPixel(float x, float y, float inverseDepth) {

@@ -1,12 +1,11 @@
-#include <cmath>
-
 #include "data/level.h"
+
+#include <cmath>
 
 namespace {
 
 // Lengths go into the formulas in spacings of the ground mesh and come back in world units.
-constexpr double toSpacings = 0.03333333333333333;
-constexpr double toUnits = 30.0;
+constexpr double unitsPerSpacing = groundSpacing;
 
 constexpr double catchRadiusInWidths = 1.5;
 constexpr float nearHole = 250.0F; // world units from a hole's centre
@@ -14,7 +13,7 @@ constexpr float nearHole = 250.0F; // world units from a hole's centre
 constexpr Vector3 straightDown(0.0F, 0.0F, 1.0F);
 
 float spacings(float units) {
-    return static_cast<float>(units * toSpacings);
+    return static_cast<float>(units * spacingsPerUnit);
 }
 
 } // namespace
@@ -26,8 +25,8 @@ float Level::heightAt(float x, float y) const {
     for (std::int32_t i = 0; i < holeCount; ++i) {
         const Hole& hole = holes[i];
         const float w = spacings(hole.width);
-        const double dx = xs - hole.x * toSpacings;
-        const float dy = static_cast<float>(ys - hole.y * toSpacings);
+        const double dx = xs - hole.x * spacingsPerUnit;
+        const float dy = static_cast<float>(ys - hole.y * spacingsPerUnit);
         const double r =
             std::sqrt(dx * dx + static_cast<double>(dy) * dy + static_cast<double>(w) * w);
         sum += static_cast<double>(w) * hole.depth / r;
@@ -43,11 +42,11 @@ float Level::holeAt(float x, float y) const {
         const Hole& hole = holes[i];
         if (!(hole.depth > 0.0F)) continue;
         const float w = spacings(hole.width);
-        const double dx = xs - hole.x * toSpacings;
-        const float dy = static_cast<float>(ys - hole.y * toSpacings);
+        const double dx = xs - hole.x * spacingsPerUnit;
+        const float dy = static_cast<float>(ys - hole.y * spacingsPerUnit);
         const double d = std::sqrt(dx * dx + static_cast<double>(dy) * dy);
-        if (d * toUnits < nearest) nearest = static_cast<float>(d * toUnits);
-        if (d <= catchRadiusInWidths * w) return static_cast<float>(w * toUnits);
+        if (d * unitsPerSpacing < nearest) nearest = static_cast<float>(d * unitsPerSpacing);
+        if (d <= catchRadiusInWidths * w) return static_cast<float>(w * unitsPerSpacing);
     }
     return nearest < nearHole ? -1.0F : 0.0F;
 }

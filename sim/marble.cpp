@@ -11,7 +11,8 @@ constexpr double topSpeedPerPower = 0.1;
 constexpr double unitsPerVelocity = 210.0; // world units a second
 
 Vector3 limitSpeed(const Vector3& velocity, double topSpeed) {
-    if (velocity.length() <= topSpeed) return velocity;
+    // Written so that a step of no time, which leaves z undefined, is mended by the next one.
+    if (!(velocity.length() > topSpeed)) return velocity;
     return velocity.unit() * static_cast<float>(topSpeed);
 }
 

@@ -25,7 +25,7 @@ struct Marble {
         colour[2] = blue;
     }
 
-    // Rolls over the ground for dt seconds (above 0: the step divides by it) under the steering
+    // Rolls over the ground for dt seconds (0 leaves velocity.z undefined for a step) under the steering
     // force, gravity along the slope, and drag; the speed is limited by the power.
     void step(const Level& ground, const Vector3& force, float dt);
 

@@ -11,9 +11,6 @@ namespace {
 constexpr const char* labelText = "-5";
 constexpr float secondsTaken = 4.0F;
 
-// Where the clock is drawn: the end of the flight, screen pixels.
-constexpr float clockX = 280.0F;
-
 // The flight starts a little beyond the marble and reaches it after a tenth of a second.
 constexpr float flightPerFade = 1.6666666F; // share of the way left, per second of life left
 
@@ -26,7 +23,7 @@ ScreenPoint marbleOnScreen() {
     const Vector3 q = toView(viewFrame, marbleCentre(level, marble.getPosition()));
     const auto nx = static_cast<float>(q.x * focalLength / q.z * ndcPerPixelX);
     const auto ny = static_cast<float>(q.y * focalLength / q.z * ndcPerPixelY);
-    return {(nx + 1.0F) * 320.0F, (ny + 1.0F) * 240.0F};
+    return {(nx + 1.0F) * screenCentreX, (ny + 1.0F) * screenCentreY};
 }
 
 } // namespace

@@ -8,6 +8,9 @@
 
 inline constexpr double focalLength = 400.0; // pixels
 
+inline constexpr float screenCentreX = 320.0F; // pixels
+inline constexpr float screenCentreY = 240.0F;
+
 inline constexpr double ndcPerPixelX = 0.003125;             // 1 / 320
 inline constexpr double ndcPerPixelY = 0.004166666666666667; // 1 / 240
 

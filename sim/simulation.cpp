@@ -83,7 +83,7 @@ void checkBack() {
 }
 
 void checkGoal() {
-    if (marble.getPosition().y <= goalLine || Game.levelDone) return;
+    if (!(marble.getPosition().y > goalLine) || Game.levelDone) return;
     playEffect(goalSound);
     Game.levelTimes[Game.levelNumber - 1] = levelTime - Game.clock;
     Game.levelDone = 1;
