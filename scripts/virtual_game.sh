@@ -2,6 +2,7 @@
 # The real game on a virtual display, to be steered by keys and looked at: source this file.
 #
 #   startGame BINARY DATA_FOLDER    starts the game in a folder of its own, $gameFolder
+#   answerBox TITLE                 waits for the message box and closes it
 #   press KEY...                    presses keys one after the other, by their X names
 #   hold KEY... / release KEY...    keys that stay down
 #   shoot FILE                      writes a picture of what the player sees
@@ -30,11 +31,18 @@ startDisplay() {
     gameDisplay=":$gameDisplay"
 }
 
-# Waits until the game's window is there.
+# The window of that title; nothing while there is none to be seen. (xdotool's own search does not
+# find message boxes.)
+windowOf() {
+    DISPLAY=$gameDisplay xwininfo -name "$1" 2> /dev/null |
+        awk '/Window id/ { id = $4 } /IsViewable/ { print id }'
+}
+
+# Waits until a window of that title is there.
 waitForWindow() {
     local try
     for try in $(seq 100); do
-        DISPLAY=$gameDisplay xdotool search --name '^Glorbix$' > /dev/null 2>&1 && return 0
+        [ -z "$(windowOf "$1")" ] || return 0
         if ! kill -0 "$gameProcess" 2> /dev/null; then
             echo "the game ended at once (try $try):" >&2
             cat "$gameFolder/log" >&2
@@ -42,7 +50,7 @@ waitForWindow() {
         fi
         sleep 0.1
     done
-    echo "the game showed no window" >&2
+    echo "the game showed no window '$1'" >&2
     return 1
 }
 
@@ -59,8 +67,16 @@ startGame() {
         exec env DISPLAY="$gameDisplay" SDL_AUDIODRIVER="${SDL_AUDIODRIVER:-dummy}" "$binary"
     ) > "$gameFolder/log" 2>&1 &
     gameProcess=$!
-    waitForWindow
+}
+
+# There is no window manager, so nobody but us gives the box the keyboard, or takes it back.
+answerBox() {
+    waitForWindow "$1"
+    sleep 0.5
+    DISPLAY=$gameDisplay xdotool windowfocus "$(windowOf "$1")" key Return
+    waitForWindow Glorbix
     sleep 1
+    DISPLAY=$gameDisplay xdotool windowfocus "$(windowOf Glorbix)"
 }
 
 press() {
@@ -91,7 +107,8 @@ waitForEnd() {
 }
 
 stopGame() {
-    [ -z "$gameProcess" ] || kill "$gameProcess" 2> /dev/null || true
+    [ -z "$gameProcess" ] || pkill -KILL -P "$gameProcess" 2> /dev/null || true
+    [ -z "$gameProcess" ] || kill -KILL "$gameProcess" 2> /dev/null || true
     [ -z "$gameProcess" ] || wait "$gameProcess" 2> /dev/null || true
     [ -z "$displayProcess" ] || kill "$displayProcess" 2> /dev/null || true
     [ -z "$displayProcess" ] || wait "$displayProcess" 2> /dev/null || true
