@@ -53,7 +53,8 @@ TEST_F(Start, TakesEveryStepInOrder) {
     EXPECT_EQ(machine.windowClass.style, 0U);
     EXPECT_EQ(machine.windowClass.hbrBackground, reinterpret_cast<HBRUSH>(UINT_PTR{6}));
     EXPECT_STREQ(machine.windowClass.lpszMenuName, "Glorbix");
-    EXPECT_EQ(count(from(drawn(), {"glClearDepth", 0}), {"glHint", GL_FOG_HINT, GL_FASTEST}), 1);
+    EXPECT_EQ(
+        count(from(drawn(), call("glClearDepth", 0)), call("glHint", GL_FOG_HINT, GL_FASTEST)), 1);
 }
 
 TEST_F(Start, GoesOnWhateverTheDisplaySays) {

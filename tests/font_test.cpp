@@ -20,18 +20,8 @@ constexpr std::array<double, 4> white = {1, 1, 1, 1};
 } // namespace
 
 TEST_F(FontOnScreen, MadeItsTexture) {
-    GlCalls expected = {
-        {"glEnable", GL_TEXTURE_2D},
-        {"glBindTexture", GL_TEXTURE_2D, 10},
-        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP},
-        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP},
-        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST},
-        {"glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST_MIPMAP_NEAREST}};
-    for (int k = 0; k < 9; ++k) {
-        expected.emplace_back("glTexImage2D", GL_TEXTURE_2D, k, GL_INTENSITY, 256 >> k, 256 >> k, 0,
-                              GL_RGB, GL_UNSIGNED_BYTE, k + 1);
-    }
-    EXPECT_EQ(drawn(), expected);
+    EXPECT_EQ(drawn(),
+              uploadOf(10, GL_INTENSITY, 256, 9, GL_CLAMP, GL_NEAREST, GL_NEAREST_MIPMAP_NEAREST));
 }
 
 TEST_F(FontOnScreen, DrawsAGlyphAsOneQuad) {
@@ -39,25 +29,18 @@ TEST_F(FontOnScreen, DrawsAGlyphAsOneQuad) {
     font.setScale(0.5F);
     font.setColour(0.1F, 0.2F, 0.3F, 0.4F);
     font.drawGlyph('A', 320, 120); // columns 65 to 77, rows 0 to 33
-    const GlCalls expected = {{"glEnable", GL_TEXTURE_2D},
-                              {"glBindTexture", GL_TEXTURE_2D, 10},
-                              {"glDisable", GL_DEPTH_TEST},
-                              {"glDisable", GL_FOG},
-                              {"glDisable", GL_CULL_FACE},
-                              {"glEnable", GL_BLEND},
-                              {"glBlendFunc", GL_ONE, GL_ONE_MINUS_SRC_ALPHA},
-                              {"glTexEnvf", GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE},
-                              {"glBegin", GL_QUADS},
-                              {"glColor4f", 0.1, 0.2, 0.3, 0.4},
-                              {"glTexCoord2f", 65 / 255.0, 1},
-                              {"glVertex2f", 0, 0.5},
-                              {"glTexCoord2f", 77 / 255.0, 1},
-                              {"glVertex2f", 6 / 320.0, 0.5},
-                              {"glTexCoord2f", 77 / 255.0, 222 / 255.0},
-                              {"glVertex2f", 6 / 320.0, 0.5 - 16.5 / 240},
-                              {"glTexCoord2f", 65 / 255.0, 222 / 255.0},
-                              {"glVertex2f", 0, 0.5 - 16.5 / 240},
-                              {"glEnd"}};
+    const GlCalls expected =
+        calls(on(GL_TEXTURE_2D), call("glBindTexture", GL_TEXTURE_2D, 10), off(GL_DEPTH_TEST),
+              off(GL_FOG), off(GL_CULL_FACE), on(GL_BLEND),
+              call("glBlendFunc", GL_ONE, GL_ONE_MINUS_SRC_ALPHA),
+              call("glTexEnvf", GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE),
+              call("glBegin", GL_QUADS), call("glColor4f", 0.1, 0.2, 0.3, 0.4),
+              call("glTexCoord2f", 65 / 255.0, 1), call("glVertex2f", 0, 0.5),
+              call("glTexCoord2f", 77 / 255.0, 1), call("glVertex2f", 6 / 320.0, 0.5),
+              call("glTexCoord2f", 77 / 255.0, 222 / 255.0),
+              call("glVertex2f", 6 / 320.0, 0.5 - 16.5 / 240),
+              call("glTexCoord2f", 65 / 255.0, 222 / 255.0),
+              call("glVertex2f", 0, 0.5 - 16.5 / 240), call("glEnd"));
     EXPECT_EQ(drawn(), expected);
 }
 

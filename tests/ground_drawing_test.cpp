@@ -48,7 +48,7 @@ GlCall project(const View& view, int row, int column) {
     const double x2 = c * x1 - s * z, z2 = s * x1 + c * z; // about y
     const double y3 = std::cos(view.pitch) * y1 + std::sin(view.pitch) * z2;
     const double z3 = std::cos(view.pitch) * z2 - std::sin(view.pitch) * y1;
-    return {"glVertex3f", x2 * 1.25 / z3, y3 * 1.666667 / z3, 1 / z3};
+    return call("glVertex3f", x2 * 1.25 / z3, y3 * 1.666667 / z3, 1 / z3);
 }
 
 // The cells that a view visits, in order: each quadrant's rows from the start outward, as long as
@@ -123,7 +123,7 @@ TEST_F(GroundOnScreen, IsDrawnCellByCellInFourQuadrants) {
         for (const Cell& cell : cells)
             appendCell(expected, view, cell);
         expected.emplace_back("glFlush");
-        const GlCalls actual = from(drawn(), {"glBegin", GL_TRIANGLES});
+        const GlCalls actual = from(drawn(), call("glBegin", GL_TRIANGLES));
         EXPECT_EQ(triangles, 2 * static_cast<int>(cells.size()));
         EXPECT_EQ(difference(actual, expected), "");
         EXPECT_EQ(std::set<Cell>(cells.begin(), cells.end()).size(), cells.size());
@@ -145,27 +145,19 @@ TEST_F(GroundOnScreen, EndsAfterSixtyRowsWithoutFarSight) {
 }
 
 TEST_F(GroundOnScreen, SetsItsStateFirst) {
-    const GlCalls always = {{"glEnable", GL_DEPTH_TEST},
-                            {"glDepthFunc", GL_GREATER},
-                            {"glEnable", GL_CULL_FACE},
-                            {"glCullFace", GL_FRONT},
-                            {"glEnable", GL_TEXTURE_2D},
-                            {"glBindTexture", GL_TEXTURE_2D, 1},
-                            {"glTexEnvf", GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_DECAL},
-                            {"glDisable", GL_BLEND}};
-    GlCalls foggy = always, clear = always;
-    foggy.insert(foggy.end(), {{"glEnable", GL_FOG},
-                               {"glHint", GL_FOG_HINT, GL_NICEST},
-                               {"glFogfv", GL_FOG_COLOR, 1, 128 / 255.0, 0, 1},
-                               {"glFogf", GL_FOG_MODE, GL_LINEAR},
-                               {"glFogf", GL_FOG_START, 1 / 400.0},
-                               {"glFogf", GL_FOG_END, 1 / 1800.0}});
-    clear.emplace_back("glDisable", GL_FOG);
-    const GlCall firstTriangle = {"glBegin", GL_TRIANGLES};
+    const GlCalls always = calls(
+        on(GL_DEPTH_TEST), call("glDepthFunc", GL_GREATER), on(GL_CULL_FACE),
+        call("glCullFace", GL_FRONT), on(GL_TEXTURE_2D), call("glBindTexture", GL_TEXTURE_2D, 1),
+        call("glTexEnvf", GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_DECAL), off(GL_BLEND));
+    const GlCalls fog = calls(
+        on(GL_FOG), call("glHint", GL_FOG_HINT, GL_NICEST),
+        call("glFogfv", GL_FOG_COLOR, 1, 128 / 255.0, 0, 1), call("glFogf", GL_FOG_MODE, GL_LINEAR),
+        call("glFogf", GL_FOG_START, 1 / 400.0), call("glFogf", GL_FOG_END, 1 / 1800.0));
+    const GlCall firstTriangle = call("glBegin", GL_TRIANGLES);
     for (int frame = 0; frame < 2; ++frame) {
         draw(settled, true);
-        EXPECT_EQ(upTo(drawn(), firstTriangle), foggy);
+        EXPECT_EQ(upTo(drawn(), firstTriangle), always + fog);
         draw(settled, false);
-        EXPECT_EQ(upTo(drawn(), firstTriangle), clear);
+        EXPECT_EQ(upTo(drawn(), firstTriangle), always + calls(off(GL_FOG)));
     }
 }

@@ -130,7 +130,7 @@ TEST_F(Keyboard, TogglesTheOptions) {
     EXPECT_EQ(Game.farSight, 1);
     pressKey(VK_F5);
     EXPECT_TRUE(Game.fogOn && !Game.farSight);
-    EXPECT_EQ(drawn(), (GlCalls{{"glDisable", GL_FOG}, {"glEnable", GL_FOG}}));
+    EXPECT_EQ(drawn(), (calls(off(GL_FOG), on(GL_FOG))));
     pressKey(VK_F2);
     pressKey(VK_F3);
     EXPECT_TRUE(Game.showStatistics && Game.normalMode);

@@ -16,35 +16,22 @@ struct Screens : Story {
     }
 };
 
-const GlCalls shade = {{"glDisable", GL_DEPTH_TEST},
-                       {"glDisable", GL_CULL_FACE},
-                       {"glDisable", GL_TEXTURE_2D},
-                       {"glEnable", GL_BLEND},
-                       {"glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA},
-                       {"glBegin", GL_QUADS},
-                       {"glColor4f", 0, 0, 0, 0.5},
-                       {"glVertex2f", -1, -1},
-                       {"glVertex2f", 1, -1},
-                       {"glVertex2f", 1, 1},
-                       {"glVertex2f", -1, 1},
-                       {"glEnd"}};
+const GlCalls shade =
+    calls(off(GL_DEPTH_TEST), off(GL_CULL_FACE), off(GL_TEXTURE_2D), on(GL_BLEND),
+          call("glBlendFunc", GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA), call("glBegin", GL_QUADS),
+          call("glColor4f", 0, 0, 0, 0.5), call("glVertex2f", -1, -1), call("glVertex2f", 1, -1),
+          call("glVertex2f", 1, 1), call("glVertex2f", -1, 1), call("glEnd"));
 
 GlCalls picture(int colour) {
-    return {
-        {"glDisable", GL_DEPTH_TEST}, {"glDisable", GL_CULL_FACE},
-        {"glDisable", GL_BLEND},      {"glDisable", GL_FOG},
-        {"glDisable", GL_TEXTURE_2D}, {"glDrawPixels", 640, 480, GL_RGB, GL_UNSIGNED_BYTE, colour}};
-}
-
-GlCalls operator+(GlCalls a, const GlCalls& b) {
-    a.insert(a.end(), b.begin(), b.end());
-    return a;
+    return calls(off(GL_DEPTH_TEST), off(GL_CULL_FACE), off(GL_BLEND), off(GL_FOG),
+                 off(GL_TEXTURE_2D),
+                 call("glDrawPixels", 640, 480, GL_RGB, GL_UNSIGNED_BYTE, colour));
 }
 
 // The frame's calls up to its first text.
 GlCalls beforeTexts() {
-    const auto isText = [](const GlCall& call) {
-        return call == GlCall("glBindTexture", GL_TEXTURE_2D, 10);
+    const auto isText = [](const GlCall& c) {
+        return c == call("glBindTexture", GL_TEXTURE_2D, 10);
     };
     return {drawn().begin(), std::find_if(drawn().begin(), drawn().end(), isText) - 1};
 }
@@ -67,7 +54,7 @@ Text textLike(const std::string& start) {
 TEST_F(Screens, TitleIsItsPicture) {
     Game.paused = 1;
     tick(0.1);
-    EXPECT_EQ(drawn(), picture(0x111111) + GlCalls{{"SwapBuffers"}});
+    EXPECT_EQ(drawn(), picture(0x111111) + calls(call("SwapBuffers")));
     EXPECT_FALSE(Game.paused);
     tick(0.1); // read only once
     EXPECT_EQ(timesRead("graphics/title.bmp"), 1);
@@ -83,9 +70,9 @@ TEST_F(Screens, BestTimesAreShadedTwiceUnderTheMenu) {
         pressKey(VK_ESCAPE);
         Game.lastKey = 0;
         tick(0.1);
-        EXPECT_EQ(count(drawn(), {"glColor4f", 0, 0, 0, 0.5}), 2);
+        EXPECT_EQ(count(drawn(), call("glColor4f", 0, 0, 0, 0.5)), 2);
         EXPECT_EQ(textsDrawn().back().text, "Quit");
-        EXPECT_EQ(drawn().back(), GlCall("SwapBuffers"));
+        EXPECT_EQ(drawn().back(), call("SwapBuffers"));
     }
     EXPECT_EQ(timesRead("graphics/back.bmp"), 1);
 }
@@ -189,26 +176,22 @@ TEST_F(Screens, TurboGaugeShrinksToTheRight) {
         Game.turbo = c.turbo;
         tick(0.01);
         EXPECT_EQ(textLike("Turbo"), (Text{"Turbo", 475, 460, 0.5, white}));
-        const GlCalls bar = from(drawn(), {"glColor3f", c.red, 1 - c.red, 0});
+        const GlCalls bar = from(drawn(), call("glColor3f", c.red, 1 - c.red, 0));
         ASSERT_GE(bar.size(), 7U) << c.turbo;
-        EXPECT_EQ(GlCalls(bar.begin() + 1, bar.begin() + 7),
-                  (GlCalls{{"glBegin", GL_QUADS},
-                           {"glVertex2f", c.left, -0.9},
-                           {"glVertex2f", 0.986875, -0.9},
-                           {"glVertex2f", 0.986875, -0.986875},
-                           {"glVertex2f", c.left, -0.986875},
-                           {"glEnd"}}));
+        EXPECT_EQ(
+            GlCalls(bar.begin() + 1, bar.begin() + 7),
+            (calls(call("glBegin", GL_QUADS), call("glVertex2f", c.left, -0.9),
+                   call("glVertex2f", 0.986875, -0.9), call("glVertex2f", 0.986875, -0.986875),
+                   call("glVertex2f", c.left, -0.986875), call("glEnd"))));
     }
     Game.turbo = 0;
     tick(0.01);
-    EXPECT_EQ(only(drawn(), {"glColor3f"}), (GlCalls{{"glColor3f", 1, 1, 1}}));
-    const GlCalls frame = from(drawn(), {"glBegin", GL_LINE_LOOP});
-    EXPECT_EQ(GlCalls(frame.begin(), frame.begin() + 6), (GlCalls{{"glBegin", GL_LINE_LOOP},
-                                                                  {"glVertex2f", 0.7, -0.9},
-                                                                  {"glVertex2f", 0.99, -0.9},
-                                                                  {"glVertex2f", 0.99, -0.99},
-                                                                  {"glVertex2f", 0.7, -0.99},
-                                                                  {"glEnd"}}));
+    EXPECT_EQ(only(drawn(), {"glColor3f"}), (calls(call("glColor3f", 1, 1, 1))));
+    const GlCalls frame = from(drawn(), call("glBegin", GL_LINE_LOOP));
+    EXPECT_EQ(GlCalls(frame.begin(), frame.begin() + 6),
+              (calls(call("glBegin", GL_LINE_LOOP), call("glVertex2f", 0.7, -0.9),
+                     call("glVertex2f", 0.99, -0.9), call("glVertex2f", 0.99, -0.99),
+                     call("glVertex2f", 0.7, -0.99), call("glEnd"))));
 }
 
 TEST_F(Screens, BannerOfALevelShrinksAway) {
@@ -248,10 +231,11 @@ TEST_F(Screens, LevelIsDrawnFromTheGroundToTheMenu) {
         texts.push_back(text.text);
     EXPECT_EQ(texts, (Lines{"Turbo", "45.00", "Level 1", "-5", "NeW Game", "HIGHSCORE", "Options",
                             "Quit"}));
-    const GlCalls ground = upTo(drawn(), {"glFlush"});
+    const GlCalls ground = upTo(drawn(), call("glFlush"));
     EXPECT_GT(count(ground, "glBegin"), 0);
-    EXPECT_EQ(count(ground, GlCall("glBegin", GL_TRIANGLES)), count(ground, "glBegin"));
-    const GlCalls disc = upTo(from(drawn(), {"glFlush"}), {"glBindTexture", GL_TEXTURE_2D, 10});
+    EXPECT_EQ(count(ground, call("glBegin", GL_TRIANGLES)), count(ground, "glBegin"));
+    const GlCalls disc =
+        upTo(from(drawn(), call("glFlush")), call("glBindTexture", GL_TEXTURE_2D, 10));
     EXPECT_EQ(count(disc, "glBegin"), 48);
     EXPECT_EQ(Game.framesThisSecond, 1);
 }
@@ -260,12 +244,12 @@ TEST_F(Screens, SkyHasTheColourOfTheFog) {
     playLevel();
     level.fogColourCode = 0xFF8040;
     tick(0.1);
-    EXPECT_EQ(from(drawn(), {"SwapBuffers"}),
-              (GlCalls{{"SwapBuffers"},
-                       {"glClearColor", 1, 128 / 255.0, 64 / 255.0, 0},
-                       {"glClear", 0x4100}}));
+    EXPECT_EQ(from(drawn(), call("SwapBuffers")),
+              (calls(call("SwapBuffers"), call("glClearColor", 1, 128 / 255.0, 64 / 255.0, 0),
+                     call("glClear", 0x4100))));
     pressKey(VK_F5);
     tick(0.1);
-    EXPECT_EQ(from(drawn(), {"SwapBuffers"}),
-              (GlCalls{{"SwapBuffers"}, {"glClearColor", 0, 0, 0, 0}, {"glClear", 0x4100}}));
+    EXPECT_EQ(
+        from(drawn(), call("SwapBuffers")),
+        (calls(call("SwapBuffers"), call("glClearColor", 0, 0, 0, 0), call("glClear", 0x4100))));
 }

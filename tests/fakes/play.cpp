@@ -1,5 +1,7 @@
 #include "fakes/play.h"
 
+#include <GL/gl.h>
+
 #include <cstring>
 #include <new>
 
@@ -42,6 +44,21 @@ void expectVector(const Vector3& v, double x, double y, double z, double toleran
     EXPECT_NEAR(v.x, x, tolerance);
     EXPECT_NEAR(v.y, y, tolerance);
     EXPECT_NEAR(v.z, z, tolerance);
+}
+
+GlCalls uploadOf(int texture, int internalFormat, int size, int levels, int wrap, int magnification,
+                 int minification) {
+    GlCalls upload =
+        calls(on(GL_TEXTURE_2D), call("glBindTexture", GL_TEXTURE_2D, texture),
+              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, wrap),
+              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, wrap),
+              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, magnification),
+              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, minification));
+    for (int k = 0; k < levels; ++k) {
+        upload.emplace_back("glTexImage2D", GL_TEXTURE_2D, k, internalFormat, size >> k, size >> k,
+                            0, GL_RGB, GL_UNSIGNED_BYTE, k + 1);
+    }
+    return upload;
 }
 
 bool startUp() {

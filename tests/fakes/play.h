@@ -31,6 +31,10 @@ private:
 
 void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-4);
 
+// The calls that make a texture of a chain that writeMipChain wrote.
+GlCalls uploadOf(int texture, int internalFormat, int size, int levels, int wrap, int magnification,
+                 int minification);
+
 // The window is made, as at program start; false when the game gave up.
 bool startUp();
 

@@ -70,6 +70,11 @@ void PrintTo(const GlCall& call, std::ostream* out) {
         *out << ' ' << number;
 }
 
+GlCalls operator+(GlCalls a, const GlCalls& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
 std::string difference(const GlCalls& actual, const GlCalls& expected) {
     const auto [a, e] =
         std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());

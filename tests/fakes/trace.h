@@ -32,9 +32,22 @@ struct GlCall {
 };
 using GlCalls = std::vector<GlCall>;
 
+template <class... Numbers>
+GlCall call(std::string_view function, Numbers... values) {
+    return GlCall(function, values...);
+}
+template <class... Calls>
+GlCalls calls(const Calls&... one) {
+    return {one...};
+}
+inline GlCall on(unsigned capability) { return {"glEnable", capability}; }
+inline GlCall off(unsigned capability) { return {"glDisable", capability}; }
+
 // Same function, same numbers within the accuracy of a float.
 bool operator==(const GlCall& a, const GlCall& b);
 void PrintTo(const GlCall& call, std::ostream* out);
+
+GlCalls operator+(GlCalls a, const GlCalls& b);
 
 // Where a long row of calls departs from the expected one, in words; nothing where it does not.
 std::string difference(const GlCalls& actual, const GlCalls& expected);
