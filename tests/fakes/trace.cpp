@@ -27,8 +27,6 @@ int failureOf(std::string_view function) {
     return code;
 }
 
-void note(std::string line) { machine.lines.push_back(std::move(line)); }
-
 namespace {
 
 std::string_view functionOf(std::string_view line) { return line.substr(0, line.find(' ')); }

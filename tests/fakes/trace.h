@@ -96,8 +96,7 @@ void passTime(double seconds);
 // MCI_STATUS, MCI_PLAY, and `code` is the error that comes back.
 void failNext(std::string_view function, int skip = 0, int code = 1);
 
-// For the fakes: writes a line down; the code with which this call fails, or 0.
-void note(std::string line);
+// For the fakes: the code with which this call fails, or 0.
 int failureOf(std::string_view function);
 
 // The nth allocation with new (std::nothrow) of at least so many bytes from now on fails. None of

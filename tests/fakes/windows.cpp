@@ -1,4 +1,5 @@
-// The door's functions as the tests play them, in the order of platform/windows_api.h.
+// The door's functions as the tests play them, in the order of platform/windows_api.h. What the
+// game hands over by fixed rules is checked here, once for all tests.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -15,20 +16,22 @@ Handle handle(UINT_PTR number) {
     return reinterpret_cast<Handle>(number);
 }
 
-// Writes the call down; always TRUE, the answer of most functions.
-template <class... Values>
-BOOL noteCall(const char* function, const Values&... values) {
+// Writes the call down and gives the answer.
+template <class Answer, class... Values>
+Answer noted(Answer answer, const char* function, const Values&... values) {
     std::ostringstream line;
     line << function;
     ((line << ' ' << values), ...);
-    note(line.str());
-    return TRUE;
+    machine.lines.push_back(line.str());
+    return answer;
 }
 
-std::string nameOf(HWND window) {
+const char* nameOf(HWND window) {
     if (window == nullptr) return "nobody";
     return window == theWindow ? "window" : window == focusWindow ? "focus" : "stranger";
 }
+
+bool succeeds(const char* function) { return failureOf(function) == 0; }
 
 } // namespace
 
@@ -39,52 +42,35 @@ const HGLRC theContext = handle<HGLRC>(0x400);
 
 // Windows and messages
 
-HICON LoadIconA(HINSTANCE, const char* name) {
-    noteCall("LoadIconA", name);
-    return nullptr;
-}
-
-HCURSOR LoadCursorA(HINSTANCE instance, const char* name) {
-    EXPECT_EQ(instance, nullptr);
-    EXPECT_EQ(name, IDC_ARROW);
-    return handle<HCURSOR>(0x500);
-}
+HICON LoadIconA(HINSTANCE, const char* name) { return noted(nullptr, "LoadIconA", name); }
+HCURSOR LoadCursorA(HINSTANCE, const char*) { return handle<HCURSOR>(0x500); }
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass) {
-    noteCall("RegisterClassA", windowClass->lpszClassName);
     machine.windowClass = *windowClass;
-    return failureOf("RegisterClassA") != 0 ? 0 : 1;
+    return noted(succeeds("RegisterClassA"), "RegisterClassA", windowClass->lpszClassName);
 }
 
 HWND CreateWindowExA(DWORD extendedStyle, const char* className, const char* title, DWORD style,
                      int x, int y, int width, int height, HWND parent, HMENU menu, HINSTANCE,
                      void*) {
-    EXPECT_EQ(parent, nullptr);
-    EXPECT_EQ(menu, nullptr);
-    noteCall("CreateWindowExA", extendedStyle, className, title, style, x, y, width, height);
-    if (failureOf("CreateWindowExA") != 0) return nullptr;
+    EXPECT_TRUE(parent == nullptr && menu == nullptr);
+    noted(0, "CreateWindowExA", extendedStyle, className, title, style, x, y, width, height);
+    if (!succeeds("CreateWindowExA")) return nullptr;
     machine.windowClass.lpfnWndProc(theWindow, WM_CREATE, 0, 0);
     return theWindow;
 }
 
-BOOL ShowWindow(HWND window, int showMode) {
-    noteCall("ShowWindow", nameOf(window), showMode);
-    return FALSE;
-}
-
+BOOL ShowWindow(HWND window, int mode) { return noted(FALSE, "ShowWindow", nameOf(window), mode); }
 BOOL UpdateWindow(HWND window) {
-    noteCall("UpdateWindow", nameOf(window));
-    machine.windowClass.lpfnWndProc(window, WM_PAINT, 0, 0);
-    return TRUE;
+    noted(0, "UpdateWindow", nameOf(window));
+    return machine.windowClass.lpfnWndProc(window, WM_PAINT, 0, 0) == 0;
 }
 
 int ShowCursor(BOOL show) {
-    noteCall("ShowCursor", show);
-    return machine.cursorCount += show != FALSE ? 1 : -1;
+    return noted(machine.cursorCount += show != FALSE ? 1 : -1, "ShowCursor", show);
 }
 
-BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove) {
-    EXPECT_TRUE(window == theWindow || window == nullptr);
+BOOL PeekMessageA(MSG* message, HWND, UINT first, UINT last, UINT remove) {
     EXPECT_TRUE(first == 0 && last == 0 && remove == PM_REMOVE);
     *message = {};
     if (machine.queue.empty() && !machine.quitPosted && machine.whenIdle) machine.whenIdle();
@@ -93,16 +79,13 @@ BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove)
         machine.queue.pop_front();
         return TRUE;
     }
-    if (machine.quitPosted) {
-        message->message = WM_QUIT;
-        message->wParam = static_cast<WPARAM>(machine.quitCode);
-        return TRUE;
-    }
-    return FALSE;
+    if (!machine.quitPosted) return FALSE;
+    message->message = WM_QUIT;
+    message->wParam = static_cast<WPARAM>(machine.quitCode);
+    return TRUE;
 }
 
 BOOL TranslateMessage(const MSG*) { return FALSE; }
-
 LRESULT DispatchMessageA(const MSG* message) {
     if (message->hwnd == nullptr) return 0; // the quit message
     return GameWindowProc(message->hwnd, message->message, message->wParam, message->lParam);
@@ -110,33 +93,27 @@ LRESULT DispatchMessageA(const MSG* message) {
 
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     EXPECT_EQ(window, theWindow);
-    noteCall("PostMessageA", message, wParam);
     machine.queue.push_back(MSG{window, message, wParam, lParam, 0, {0, 0}});
-    return TRUE;
+    return noted(TRUE, "PostMessageA", message, wParam);
 }
 
 void PostQuitMessage(int exitCode) {
-    noteCall("PostQuitMessage", exitCode);
     machine.quitPosted = true;
-    machine.quitCode = exitCode;
+    machine.quitCode = noted(exitCode, "PostQuitMessage", exitCode);
 }
 
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    noteCall("DefWindowProcA", nameOf(window), message, wParam, lParam);
-    return 77;
+    return noted(77, "DefWindowProcA", nameOf(window), message, wParam, lParam);
 }
 
 HDC BeginPaint(HWND window, PAINTSTRUCT*) {
-    noteCall("BeginPaint", nameOf(window));
-    return theSurface;
+    return noted(theSurface, "BeginPaint", nameOf(window));
 }
-
-BOOL EndPaint(HWND window, const PAINTSTRUCT*) { return noteCall("EndPaint", nameOf(window)); }
+BOOL EndPaint(HWND window, const PAINTSTRUCT*) { return noted(TRUE, "EndPaint", nameOf(window)); }
 
 UINT_PTR SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback) {
     EXPECT_EQ(callback, nullptr);
-    noteCall("SetTimer", nameOf(window), timer, period);
-    return timer;
+    return noted(timer, "SetTimer", nameOf(window), timer, period);
 }
 
 HWND GetFocus() { return focusWindow; }
@@ -149,15 +126,13 @@ SHORT GetAsyncKeyState(int key) {
 int MessageBoxA(HWND owner, const char* text, const char* caption, UINT type) {
     const char* icon = type == MB_ICONHAND ? ", stop" : type == MB_ICONINFORMATION ? ", info" : "";
     EXPECT_TRUE(type == MB_OK || *icon != '\0') << type;
-    note("MessageBoxA " + std::string(text) + " | " + caption + " | " + nameOf(owner) + icon);
-    return 1;
+    return noted(1, "MessageBoxA", text, "|", caption, "|", std::string(nameOf(owner)) + icon);
 }
 
 // Display settings
 
 BOOL EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode) {
-    EXPECT_EQ(device, nullptr);
-    EXPECT_EQ(mode->dmSize, sizeof(DEVMODEA));
+    EXPECT_TRUE(device == nullptr && mode->dmSize == sizeof(DEVMODEA));
     if (index >= machine.modes.size()) return FALSE;
     *mode = machine.modes[index];
     return TRUE;
@@ -165,41 +140,27 @@ BOOL EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode) {
 
 LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
     EXPECT_EQ(flags, 0U);
-    if (mode == nullptr) {
-        note("ChangeDisplaySettingsA restore");
-        return DISP_CHANGE_SUCCESSFUL;
-    }
-    noteCall("ChangeDisplaySettingsA", mode->dmBitsPerPel, mode->dmPelsWidth, mode->dmPelsHeight,
-             mode->dmFields);
-    if (machine.switchResults.empty()) return DISP_CHANGE_SUCCESSFUL;
+    if (mode == nullptr) return noted(DISP_CHANGE_SUCCESSFUL, "ChangeDisplaySettingsA restore");
+    machine.switchResults.push_back(DISP_CHANGE_SUCCESSFUL);
     const LONG result = machine.switchResults.front();
     machine.switchResults.pop_front();
-    return result;
+    return noted(result, "ChangeDisplaySettingsA", mode->dmBitsPerPel, mode->dmPelsWidth,
+                 mode->dmPelsHeight, mode->dmFields);
 }
 
 // Pixel format, buffers and the binding of OpenGL
 
-HDC GetDC(HWND window) {
-    noteCall("GetDC", nameOf(window));
-    return theSurface;
-}
-
-int ReleaseDC(HWND window, HDC deviceContext) {
-    EXPECT_EQ(deviceContext, theSurface);
-    noteCall("ReleaseDC", nameOf(window));
-    return 1;
-}
+HDC GetDC(HWND window) { return noted(theSurface, "GetDC", nameOf(window)); }
+int ReleaseDC(HWND window, HDC) { return noted(1, "ReleaseDC", nameOf(window)); }
 
 int ChoosePixelFormat(HDC, const PIXELFORMATDESCRIPTOR* wanted) {
     PIXELFORMATDESCRIPTOR expected = {};
     expected.nSize = 40;
     expected.nVersion = 1;
     expected.dwFlags = 0x21;
-    expected.cColorBits = 16;
-    expected.cDepthBits = 16;
+    expected.cColorBits = expected.cDepthBits = 16;
     EXPECT_EQ(std::memcmp(wanted, &expected, sizeof expected), 0);
-    note("ChoosePixelFormat");
-    return failureOf("ChoosePixelFormat") != 0 ? 0 : 3;
+    return noted(succeeds("ChoosePixelFormat") ? 3 : 0, "ChoosePixelFormat");
 }
 
 int DescribePixelFormat(HDC, int, UINT, PIXELFORMATDESCRIPTOR* description) {
@@ -210,8 +171,7 @@ int DescribePixelFormat(HDC, int, UINT, PIXELFORMATDESCRIPTOR* description) {
 
 BOOL SetPixelFormat(HDC, int format, const PIXELFORMATDESCRIPTOR* wanted) {
     EXPECT_EQ(wanted->cDepthBits, 16);
-    noteCall("SetPixelFormat", format);
-    return failureOf("SetPixelFormat") != 0 ? FALSE : TRUE;
+    return noted(succeeds("SetPixelFormat"), "SetPixelFormat", format);
 }
 
 BOOL SwapBuffers(HDC deviceContext) {
@@ -220,77 +180,55 @@ BOOL SwapBuffers(HDC deviceContext) {
     return TRUE;
 }
 
-HGLRC wglCreateContext(HDC) {
-    note("wglCreateContext");
-    return theContext;
-}
-
-BOOL wglMakeCurrent(HDC, HGLRC context) {
-    EXPECT_EQ(context, theContext);
-    note("wglMakeCurrent");
-    return TRUE;
-}
-
-BOOL wglDeleteContext(HGLRC context) {
-    EXPECT_EQ(context, theContext);
-    note("wglDeleteContext");
-    return TRUE;
-}
+HGLRC wglCreateContext(HDC) { return noted(theContext, "wglCreateContext"); }
+BOOL wglMakeCurrent(HDC, HGLRC) { return noted(TRUE, "wglMakeCurrent"); }
+BOOL wglDeleteContext(HGLRC) { return noted(TRUE, "wglDeleteContext"); }
 
 // Sound and music
 
 BOOL PlaySoundA(const char* fileName, HMODULE module, DWORD flags) {
-    EXPECT_EQ(module, nullptr);
-    EXPECT_EQ(flags, 0x20001U);
-    return noteCall("PlaySoundA", fileName);
+    EXPECT_TRUE(module == nullptr && flags == 0x20001);
+    return noted(TRUE, "PlaySoundA", fileName);
 }
 
-BOOL MessageBeep(UINT type) { return noteCall("MessageBeep", type); }
+BOOL MessageBeep(UINT type) { return noted(TRUE, "MessageBeep", type); }
 
 namespace {
 
-MCIERROR openMusic(MCI_OPEN_PARMSA& parameters) {
+int openMusic(MCI_OPEN_PARMSA& parameters) {
     EXPECT_STREQ(parameters.lpstrDeviceType, "sequencer");
-    noteCall("MCI open", parameters.lpstrElementName);
-    const int error = failureOf("MCI_OPEN");
+    const int error = noted(failureOf("MCI_OPEN"), "MCI open", parameters.lpstrElementName);
     if (error == 0) machine.devices.insert(parameters.wDeviceID = ++machine.lastDevice);
-    return static_cast<MCIERROR>(error);
+    return error;
 }
 
-MCIERROR askMusic(MCIDEVICEID device, const MCI_STATUS_PARMS& parameters) {
-    EXPECT_EQ(parameters.dwItem, MCI_SEQ_STATUS_PORT);
-    noteCall("MCI status", device);
-    return static_cast<MCIERROR>(failureOf("MCI_STATUS"));
-}
-
-MCIERROR playMusic(MCIDEVICEID device, const MCI_PLAY_PARMS& parameters) {
-    EXPECT_EQ(parameters.dwCallback, reinterpret_cast<DWORD_PTR>(theWindow));
-    noteCall("MCI play", device);
-    return static_cast<MCIERROR>(failureOf("MCI_PLAY"));
+int commandMusic(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWORD_PTR parameters) {
+    if (command == MCI_OPEN) {
+        EXPECT_EQ(flags, 0x2200U);
+        return openMusic(*reinterpret_cast<MCI_OPEN_PARMSA*>(parameters));
+    }
+    const bool isOpen = machine.devices.contains(device);
+    if (command == MCI_CLOSE) {
+        EXPECT_TRUE(flags == 0 && parameters == 0);
+        machine.devices.erase(device);
+        return noted(isOpen ? 0 : 257, isOpen ? "MCI close" : "MCI close stale", device);
+    }
+    EXPECT_TRUE(isOpen) << device;
+    if (command == MCI_STATUS) {
+        const auto& status = *reinterpret_cast<MCI_STATUS_PARMS*>(parameters);
+        EXPECT_TRUE(flags == MCI_STATUS_ITEM && status.dwItem == MCI_SEQ_STATUS_PORT);
+        return noted(failureOf("MCI_STATUS"), "MCI status", device);
+    }
+    const auto& play = *reinterpret_cast<MCI_PLAY_PARMS*>(parameters);
+    EXPECT_TRUE(command == MCI_PLAY && flags == MCI_NOTIFY);
+    EXPECT_EQ(play.dwCallback, reinterpret_cast<DWORD_PTR>(theWindow));
+    return noted(failureOf("MCI_PLAY"), "MCI play", device);
 }
 
 } // namespace
 
 MCIERROR mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWORD_PTR parameters) {
-    const bool isOpen = machine.devices.contains(device);
-    EXPECT_TRUE(isOpen || command == MCI_OPEN || command == MCI_CLOSE) << device;
-    switch (command) {
-    case MCI_OPEN:
-        EXPECT_EQ(flags, 0x2200U);
-        return openMusic(*reinterpret_cast<MCI_OPEN_PARMSA*>(parameters));
-    case MCI_STATUS:
-        EXPECT_EQ(flags, MCI_STATUS_ITEM);
-        return askMusic(device, *reinterpret_cast<MCI_STATUS_PARMS*>(parameters));
-    case MCI_PLAY:
-        EXPECT_EQ(flags, MCI_NOTIFY);
-        return playMusic(device, *reinterpret_cast<MCI_PLAY_PARMS*>(parameters));
-    default:
-        EXPECT_EQ(command, MCI_CLOSE);
-        EXPECT_TRUE(flags == 0 && parameters == 0);
-        noteCall(isOpen ? "MCI close" : "MCI close stale", device);
-        machine.devices.erase(device);
-        return isOpen ? 0 : 257;
-    }
+    return static_cast<MCIERROR>(commandMusic(device, command, flags, parameters));
 }
 
 // Clock
@@ -309,17 +247,16 @@ BOOL QueryPerformanceCounter(LARGE_INTEGER* counter) {
 
 HANDLE CreateFileA(const char* fileName, DWORD access, DWORD share, SECURITY_ATTRIBUTES*,
                    DWORD creation, DWORD attributes, HANDLE) {
-    EXPECT_TRUE(access == GENERIC_READ && share == 0 && creation == OPEN_EXISTING &&
-                attributes == FILE_ATTRIBUTE_NORMAL);
-    noteCall("CreateFileA", fileName);
-    std::FILE* file = std::fopen(fileName, "rb");
+    EXPECT_TRUE(access == GENERIC_READ && share == 0);
+    EXPECT_TRUE(creation == OPEN_EXISTING && attributes == FILE_ATTRIBUTE_NORMAL);
+    std::FILE* file = noted(std::fopen(fileName, "rb"), "CreateFileA", fileName);
     if (file == nullptr) return INVALID_HANDLE_VALUE;
     ++machine.openFiles;
     return file;
 }
 
 BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) {
-    if (failureOf("ReadFile") != 0) return FALSE;
+    if (!succeeds("ReadFile")) return FALSE;
     *got = static_cast<DWORD>(std::fread(buffer, 1, wanted, static_cast<std::FILE*>(file)));
     return TRUE;
 }
@@ -327,7 +264,7 @@ BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) 
 BOOL CloseHandle(HANDLE file) {
     std::fclose(static_cast<std::FILE*>(file));
     --machine.openFiles;
-    return failureOf("CloseHandle") != 0 ? FALSE : TRUE;
+    return succeeds("CloseHandle");
 }
 
 // Errors in the system's words
@@ -337,7 +274,6 @@ DWORD GetLastError() { return 1234; }
 DWORD FormatMessageA(DWORD flags, const void*, DWORD error, DWORD language, char* buffer, DWORD,
                      void*) {
     EXPECT_TRUE(flags == 0x1100 && error == 1234 && language == 0x400);
-    if (failureOf("FormatMessageA") != 0) return 0;
     char* text = new char[16]{"in other words"};
     std::memcpy(buffer, &text, sizeof text);
     ++machine.systemTexts;
