@@ -42,7 +42,8 @@ bool refuseDisplay(const char* text, const char* caption) {
     return false;
 }
 
-bool refuseDisplay(LONG result) {
+// Tells why the display did not switch, where there is something to tell.
+bool reportSwitch(LONG result) {
     switch (result) {
     case DISP_CHANGE_RESTART:
         return refuseDisplay(
@@ -80,13 +81,13 @@ bool refuseWithLastError(const char* caption) {
     FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM, nullptr,
                    GetLastError(), MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT),
                    reinterpret_cast<char*>(&text), 0, nullptr);
-    MessageBoxA(nullptr, text, caption, MB_OK | MB_ICONINFORMATION);
+    MessageBoxA(nullptr, text != nullptr ? text : "", caption, MB_OK | MB_ICONINFORMATION);
     LocalFree(text);
     return false;
 }
 
-bool refuseStart(HWND owner, const char* text) {
-    MessageBoxA(owner, text, "Error", MB_OK);
+bool refuseWithError(HWND owner, const char* text) {
+    MessageBoxA(owner, text, errorCaption, MB_OK);
     return false;
 }
 
@@ -105,14 +106,14 @@ bool switchDisplayMode() {
     }
     if (ChangeDisplaySettingsA(&mode, 0) == DISP_CHANGE_SUCCESSFUL) return true;
     const LONG result = switchBySize(mode);
-    return result == DISP_CHANGE_SUCCESSFUL || refuseDisplay(result);
+    return result == DISP_CHANGE_SUCCESSFUL || reportSwitch(result);
 }
 
 bool setupPixelFormat(HDC deviceContext) {
     const PIXELFORMATDESCRIPTOR wanted = wantedFormat();
     const int format = ChoosePixelFormat(deviceContext, &wanted);
     if (format == 0) return refuseWithLastError("ChoosePixelFormat failed GetLastError");
-    if (needsPalette(deviceContext, format)) return refuseStart(nullptr, "Needs palette");
+    if (needsPalette(deviceContext, format)) return refuseWithError(nullptr, "Needs palette");
     if (!SetPixelFormat(deviceContext, format, &wanted)) {
         return refuseWithLastError("SetPixelFormat failed GetLastError");
     }
@@ -124,10 +125,10 @@ bool initGraphicsAndData(HWND window) {
     if (!setupPixelFormat(Game.deviceContext)) PostQuitMessage(0);
     Game.glContext = wglCreateContext(Game.deviceContext);
     wglMakeCurrent(Game.deviceContext, Game.glContext);
-    if (!loadLevelList()) return refuseStart(window, "could not initialize map data");
-    if (!loadBestTimes()) return refuseStart(window, "could not initialize high score data");
+    if (!loadLevelList()) return refuseWithError(window, "could not initialize map data");
+    if (!loadBestTimes()) return refuseWithError(window, "could not initialize high score data");
     if (!font.load(fontBaseName, fontMetricsFile)) {
-        return refuseStart(nullptr, "could not initialize fonts");
+        return refuseWithError(nullptr, "could not initialize fonts");
     }
     setStartState();
     return true;

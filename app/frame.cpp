@@ -16,9 +16,7 @@ namespace {
 
 void endPlay() {
     if (Game.musicPlaying) stopMusic();
-    Game.paused = 0;
-    Game.levelDone = 1;
-    Game.stopped = 1;
+    Game.endLevel();
 }
 
 void drawMenuIfOpen() {
@@ -33,7 +31,7 @@ void present() {
 
 // Clears for the frame that follows. In fog the sky has its colour, otherwise it is black.
 void prepareNextFrame() {
-    constexpr float perByte = 0.003921569F;
+    constexpr float perByte = 0.003921569F; // 1 / 255
     const std::uint32_t c = Game.fogOn ? level.getFogColourCode() : 0;
     glClearColor(static_cast<float>(c >> 16 & 255U) * perByte,
                  static_cast<float>(c >> 8 & 255U) * perByte,

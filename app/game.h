@@ -26,6 +26,10 @@ inline constexpr int LEVEL_NAME_CAPACITY = 256; // bytes of a level file's name,
 // A level's full time in seconds, and the time that stands for a level not finished.
 inline constexpr float levelTime = 45.0F;
 
+// Captions of the message boxes: of the program, and of levels and their files.
+inline constexpr const char* errorCaption = "Error";
+inline constexpr const char* fileErrorCaption = "error";
+
 inline constexpr float levelNotFinished = -4.0F; // levelEndAt while the goal has not been reached
 inline constexpr float fullTurbo = 5.0F;         // seconds of turbo that each level starts with
 inline constexpr float fullPenaltyFade = 0.7F;   // seconds that a penalty label lives
@@ -35,6 +39,15 @@ inline constexpr int screenWidth = 640;  // pixels
 inline constexpr int screenHeight = 480; // pixels
 
 struct GameRecord {
+    // Defined in app/globals.cpp, or the program file would carry two empty pictures.
+    GameRecord();
+
+    // No level runs any more: ticks only draw.
+    void endLevel();
+
+    // No level of the run is finished.
+    void clearLevelTimes();
+
     // Screens and menu
     Screen screen = Screen::Title;
     Screen drawnScreen = {};   // the screen of the last frame; none yet

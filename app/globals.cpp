@@ -23,3 +23,17 @@ Vector3 cameraPosition;
 float cameraAngleX = 0.0F;
 float cameraAngleY = 0.0F;
 float cameraAngleZ = 0.0F;
+
+GameRecord::GameRecord() = default;
+
+void GameRecord::endLevel() {
+    paused = 0;
+    levelDone = 1;
+    stopped = 1;
+}
+
+void GameRecord::clearLevelTimes() {
+    for (std::int32_t i = 0; i < levelCount; ++i) {
+        levelTimes[i] = levelTime;
+    }
+}

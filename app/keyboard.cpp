@@ -34,9 +34,7 @@ void startNewGame() {
 void showBestTimes() {
     Game.screen = Screen::BestTimes;
     Game.newBestEntry = -1;
-    for (std::int32_t i = 0; i < Game.levelCount; ++i) {
-        Game.levelTimes[i] = levelTime;
-    }
+    Game.clearLevelTimes();
     postKey(VK_ESCAPE);
 }
 

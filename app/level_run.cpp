@@ -28,14 +28,12 @@ void resetForLevel() {
 void beginRun() {
     Game.clock = clockAtStartOfRun;
     if (Game.midiOn && !Game.musicPlaying) startMusic();
-    for (std::int32_t i = 0; i < Game.levelCount; ++i) {
-        Game.levelTimes[i] = levelTime;
-    }
+    Game.clearLevelTimes();
 }
 
 void loadLevel() {
     if (!level.load(Game.levelFiles[Game.levelNumber - 1].get(), marble)) {
-        MessageBoxA(Game.window, "Unable to initialize map", "error", MB_OK);
+        MessageBoxA(Game.window, "Unable to initialize map", fileErrorCaption, MB_OK);
         PostQuitMessage(0);
     }
     Game.turbo = fullTurbo;

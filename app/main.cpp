@@ -33,15 +33,15 @@ bool createWindow(HINSTANCE instance) {
 // Handles all messages that wait, then posts one tick, until the quit message comes; its exit code.
 int runMessageLoop() {
     MSG message = {};
-    while (message.message != WM_QUIT) {
-        if (PeekMessageA(&message, Game.window, 0, 0, PM_REMOVE)) {
-            TranslateMessage(&message);
-            DispatchMessageA(&message);
-        } else {
+    for (;;) {
+        if (!PeekMessageA(&message, Game.window, 0, 0, PM_REMOVE)) {
             PostMessageA(Game.window, WM_GAME_TICK, 0, 0);
+            continue;
         }
+        if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
     }
-    return static_cast<int>(message.wParam);
 }
 
 } // namespace

@@ -45,7 +45,7 @@ void readPicture(const Picture& picture, std::uint8_t& pending, std::uint8_t* pi
     if (readBitmap(picture.fileName, screenWidth, screenHeight, pixels)) {
         pending = 0;
     } else {
-        MessageBoxA(Game.window, picture.failure, "Error", MB_OK);
+        MessageBoxA(Game.window, picture.failure, errorCaption, MB_OK);
     }
 }
 

@@ -16,7 +16,7 @@ constexpr UINT latchPeriod = 1000; // milliseconds
 
 void create(HWND window) {
     if (!initGraphicsAndData(window)) {
-        MessageBoxA(window, "initialization failed", "Error", MB_OK);
+        MessageBoxA(window, "initialization failed", errorCaption, MB_OK);
         PostQuitMessage(0);
     }
     SetTimer(window, latchTimer, latchPeriod, nullptr);

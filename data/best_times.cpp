@@ -3,14 +3,15 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "app/game.h"
 
 namespace {
 
-// Written in full before it takes the place of the table, so that a full disk costs nothing.
-constexpr const char* newBestTimesFile = "highScore.dat.new";
+using std::filesystem::path;
 
 constexpr const char* defaultName = "aaa";
 
@@ -29,13 +30,39 @@ bool readTable() {
     return true;
 }
 
-bool writeTable(const char* fileName) {
-    std::ofstream file(fileName, std::ios::out | std::ios::binary | std::ios::trunc);
+bool writeTable(std::ofstream& file) {
     for (int i = 0; i < bestTimesShown; ++i) {
         file << bestTimes.slots[i].time << ' ' << bestTimes.slots[i].name << ' ';
     }
     file.close();
     return file.good();
+}
+
+std::ofstream create(const path& file) {
+    return std::ofstream(file, std::ios::out | std::ios::binary | std::ios::trunc);
+}
+
+// Makes the file where there is none; false when it may not be written.
+bool mayBeWritten(const path& file) {
+    return std::ofstream(file, std::ios::app).is_open();
+}
+
+// Writes the table in full beside its file before it takes its place, so that a full disk costs
+// nothing. In a folder that takes no new file the table is written over.
+bool replaceTable(const path& file) {
+    const path newFile = path(file) += ".new";
+    std::ofstream beside = create(newFile);
+    if (!beside.is_open()) {
+        std::ofstream over = create(file);
+        return writeTable(over);
+    }
+    std::error_code error;
+    if (writeTable(beside)) {
+        std::filesystem::rename(newFile, file, error);
+        if (!error) return true;
+    }
+    std::filesystem::remove(newFile, error);
+    return false;
 }
 
 float totalOfRun() {
@@ -74,11 +101,10 @@ bool loadBestTimes() {
 }
 
 bool saveBestTimes() {
-    if (writeTable(newBestTimesFile) && std::rename(newBestTimesFile, bestTimesFile) == 0) {
-        return true;
-    }
-    std::remove(newBestTimesFile);
-    return false;
+    if (!mayBeWritten(bestTimesFile)) return false;
+    std::error_code error;
+    const path file = std::filesystem::canonical(bestTimesFile, error); // behind a link
+    return !error && replaceTable(file);
 }
 
 int compareBestTimes(const BestTimeEntry& first, const BestTimeEntry& second) {
@@ -93,8 +119,6 @@ bool finishRun() {
     Game.screen = Screen::NameEntry;
     Game.lastKey = 0;
     Game.nameCursor = 0; // a name that was never finished does not shorten this one
-    Game.paused = 0;
-    Game.levelDone = 1;
-    Game.stopped = 1;
+    Game.endLevel();
     return true;
 }

@@ -9,7 +9,7 @@
 
 // Reads a picture of exactly width x height pixels into width * height * 3 bytes, red, green, blue.
 // False, with no message, when the file cannot be read or holds a picture of another size or depth:
-// nothing is ever written past the buffer. A file that ends early counts as read; the pixels it
-// lacks keep what the buffer held.
+// nothing is ever written past the buffer. A file that ends early counts as read; in place
+// of the pixels it lacks stands what the buffer held, its red and blue exchanged.
 bool readBitmap(const char* fileName, std::int32_t width, std::int32_t height,
                 std::uint8_t* pixels);

@@ -12,13 +12,15 @@
 
 namespace {
 
-constexpr MipChain fontChain = {fontLevels,
-                                fontSize,
-                                fontTexture,
-                                GL_INTENSITY,
-                                GL_CLAMP,
-                                GL_NEAREST,
-                                GL_NEAREST_MIPMAP_NEAREST};
+constexpr MipChain fontChain = {
+    .levels = fontLevels,
+    .size = fontSize,
+    .texture = fontTexture,
+    .internalFormat = GL_INTENSITY,
+    .wrap = GL_CLAMP,
+    .magnification = GL_NEAREST,
+    .minification = GL_NEAREST_MIPMAP_NEAREST,
+};
 
 constexpr char lineBreak = '\n';
 constexpr char lineHeightGlyph = '!'; // its height is the line spacing
@@ -65,7 +67,7 @@ float lineSpacing(const Font& in) {
 // Towards zero; what no 32-bit integer holds becomes the nearest one that it does, nonsense 0.
 std::int32_t truncate(double value) {
     if (std::isnan(value)) return 0;
-    return static_cast<std::int32_t>(std::clamp(value, -2147483647.0, 2147483647.0));
+    return static_cast<std::int32_t>(std::clamp(value, -2147483648.0, 2147483647.0));
 }
 
 void putCorner(float textureX, float textureY, float x, float y) {

@@ -61,7 +61,7 @@ struct Font {
     float textWidth(const char* text) const;
 
     // Draws one glyph with its top left corner at (x, y).
-    void drawGlyph(char code, float x, float y) const;
+    void drawGlyph(char character, float x, float y) const;
 };
 
 extern Font font;

@@ -58,7 +58,7 @@ struct Level {
     // x y width depth, ".end". It must end directly after its last token.
     //
     // On failure a message box says why, where there is something to say, and false comes back.
-    bool load(const char* fileName, Marble& marble);
+    bool load(const char* fileName, Marble& playerMarble);
 
     std::uint32_t getFogColourCode() const { return fogColourCode; }
 
@@ -86,7 +86,6 @@ struct Level {
 
     // Draws the part of the ground that the view can see (render/ground.cpp). Without far sight
     // it ends 60 rows beyond the point 400 units ahead of the eye. Needs a current OpenGL context,
-    // a loaded level,
     // identity matrices and a depth buffer cleared to 0. Returns the triangles drawn.
     std::int32_t drawGround(const ViewFrame& view, bool farSight, bool fogOn);
 };

@@ -7,15 +7,22 @@
 
 #include <GL/gl.h>
 
+#include "app/game.h"
 #include "data/mip_chain.h"
 #include "data/tokens.h"
-#include "platform/windows_api.h"
 #include "sim/marble.h"
 
 namespace {
 
-constexpr MipChain groundChain = {groundTextureLevels, groundTextureSize, groundTexture,          3,
-                                  GL_REPEAT,           GL_LINEAR,         GL_LINEAR_MIPMAP_LINEAR};
+constexpr MipChain groundChain = {
+    .levels = groundTextureLevels,
+    .size = groundTextureSize,
+    .texture = groundTexture,
+    .internalFormat = 3, // components
+    .wrap = GL_REPEAT,
+    .magnification = GL_LINEAR,
+    .minification = GL_LINEAR_MIPMAP_LINEAR,
+};
 
 // The texture repeats every 5 1/3 columns and every 4 rows.
 constexpr double texturePerColumn = 0.1875;
@@ -48,7 +55,7 @@ Directive directiveOf(const char* token) {
 
 // Reports why the level is refused; false, for the caller to pass on.
 bool refuse(const char* text) {
-    MessageBoxA(nullptr, text, "error", MB_OK);
+    MessageBoxA(nullptr, text, fileErrorCaption, MB_OK);
     return false;
 }
 
@@ -99,11 +106,11 @@ bool readFogColour(TokenReader& reader, Level& into) {
     return true;
 }
 
-bool readMarbleColour(TokenReader& reader, Level& into, Marble& rolling) {
+bool readMarbleColour(TokenReader& reader, Level& into, Marble& playerMarble) {
     if (!reader.readUnsigned(into.marbleColourCode)) return false;
     const std::uint32_t code = into.marbleColourCode;
-    rolling.setColour(static_cast<float>(redOf(code)), static_cast<float>(greenOf(code)),
-                      static_cast<float>(blueOf(code)));
+    playerMarble.setColour(static_cast<float>(redOf(code)), static_cast<float>(greenOf(code)),
+                           static_cast<float>(blueOf(code)));
     return true;
 }
 
@@ -134,11 +141,11 @@ bool readHoles(TokenReader& reader, Level& into) {
 }
 
 bool readDirective(TokenReader& reader, const char* fileName, const char* token, Level& into,
-                   Marble& rolling) {
+                   Marble& playerMarble) {
     switch (directiveOf(token)) {
     case Directive::TextureFile: return readTexture(reader, into);
     case Directive::FogColour: return readFogColour(reader, into);
-    case Directive::MarbleColour: return readMarbleColour(reader, into, rolling);
+    case Directive::MarbleColour: return readMarbleColour(reader, into, playerMarble);
     case Directive::HoleCount: return readHoleCount(reader, into);
     case Directive::Data: return readHoles(reader, into);
     case Directive::Unknown: return refuseUnknownToken(fileName, token);
@@ -148,11 +155,11 @@ bool readDirective(TokenReader& reader, const char* fileName, const char* token,
 
 // Takes directives up to the one that the file ends directly behind. When anything follows it,
 // even white space alone, there must be a further one.
-bool readDirectives(TokenReader& reader, const char* fileName, Level& into, Marble& rolling) {
+bool readDirectives(TokenReader& reader, const char* fileName, Level& into, Marble& playerMarble) {
     do {
         char token[tokenCapacity];
         if (!reader.readToken(token)) return false;
-        if (!readDirective(reader, fileName, token, into, rolling)) return false;
+        if (!readDirective(reader, fileName, token, into, playerMarble)) return false;
     } while (!reader.atEnd());
     return true;
 }
@@ -188,7 +195,7 @@ Level::Level() = default;
 
 Level::~Level() = default;
 
-bool Level::load(const char* fileName, Marble& rolling) {
+bool Level::load(const char* fileName, Marble& playerMarble) {
     groundPoints.reset();
     groundScreen.reset();
     groundTexCoords.reset();
@@ -197,7 +204,7 @@ bool Level::load(const char* fileName, Marble& rolling) {
 
     TokenReader reader;
     if (!reader.open(fileName)) return refuseMissingFile(fileName);
-    if (!readDirectives(reader, fileName, *this, rolling)) return false;
+    if (!readDirectives(reader, fileName, *this, playerMarble)) return false;
     if (!allocateMesh(*this)) return false;
     buildMesh(*this);
     return true;

@@ -1,6 +1,7 @@
 #include "data/level_list.h"
 
 #include <cstddef>
+#include <cstring>
 #include <new>
 
 #include "app/game.h"
@@ -23,7 +24,10 @@ bool allocateList(std::int32_t count) {
 
 bool readLevelName(TokenReader& reader, std::unique_ptr<char[]>& name) {
     name.reset(new (std::nothrow) char[LEVEL_NAME_CAPACITY]);
-    return name && reader.readToken(*reinterpret_cast<char(*)[tokenCapacity]>(name.get()));
+    char token[tokenCapacity];
+    if (!name || !reader.readToken(token)) return false;
+    std::memcpy(name.get(), token, sizeof token);
+    return true;
 }
 
 } // namespace

@@ -6,8 +6,8 @@
 
 #include <GL/gl.h>
 
+#include "app/game.h"
 #include "data/bitmap.h"
-#include "platform/windows_api.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ void setParameter(GLenum name, int value) {
 
 bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slots) {
     if (std::strlen(baseName) >= mipBaseNameCapacity) {
-        MessageBoxA(nullptr, baseName, "error", MB_OK);
+        MessageBoxA(nullptr, baseName, fileErrorCaption, MB_OK);
         return false;
     }
     for (int k = 0; k < chain.levels; ++k) {
@@ -32,7 +32,7 @@ bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slo
         const int side = chain.size >> k;
         if (!readBitmap(fileName, side, side,
                         slots + static_cast<std::size_t>(k) * slotSize(chain))) {
-            MessageBoxA(nullptr, fileName, "error", MB_OK);
+            MessageBoxA(nullptr, fileName, fileErrorCaption, MB_OK);
             return false;
         }
     }

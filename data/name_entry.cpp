@@ -35,9 +35,7 @@ void takeKey(char* name, std::int8_t key) {
 } // namespace
 
 void takeNameKey() {
-    Game.paused = 0;
-    Game.levelDone = 1;
-    Game.stopped = 1;
+    Game.endLevel();
     if (Game.lastKey == 0) return;
     takeKey(bestTimes.slots[Game.newBestEntry].name, Game.lastKey);
     Game.lastKey = 0;

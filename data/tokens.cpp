@@ -1,6 +1,8 @@
 #include "data/tokens.h"
 
+#include <cctype>
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <iomanip>
 #include <limits>
@@ -39,6 +41,12 @@ bool parseInteger(const char* token, std::int64_t& value) {
     return true;
 }
 
+// A number nearer to 0 than any that the parser knows; too large ones have no such exponent.
+bool isTiny(const char* text) {
+    const char* exponent = std::strpbrk(text, "eE");
+    return exponent != nullptr && exponent[1] == '-';
+}
+
 // Narrower than the library's parser, which would take "inf", "nan" and a second sign.
 bool parseFloat(const char* token, float& value) {
     const bool negative = takeSign(token);
@@ -46,10 +54,9 @@ bool parseFloat(const char* token, float& value) {
     const char* end = token + std::strlen(token);
     double magnitude = 0.0;
     const auto [stop, error] = std::from_chars(token, end, magnitude);
-    if (error != std::errc() || stop != end) return false;
-    if (magnitude > std::numeric_limits<float>::max()) return false;
+    if (stop != end || (error != std::errc() && !isTiny(token))) return false;
     value = static_cast<float>(negative ? -magnitude : magnitude);
-    return true;
+    return !std::isinf(value);
 }
 
 // Reads one token as an integer of type T.
@@ -71,17 +78,25 @@ bool readIntegerAs(TokenReader& reader, T& value) {
 
 bool TokenReader::open(const char* fileName) {
     stream.open(fileName, std::ios::in | std::ios::binary);
+    stream.peek(); // only this tells a folder from a file
+    if (stream.bad()) return false;
+    stream.clear();
     return stream.is_open();
 }
 
 bool TokenReader::readToken(char (&token)[tokenCapacity]) {
-    stream >> std::setw(tokenCapacity) >> token;
-    if (!stream.good()) return !stream.fail();
+    std::string text;
+    stream >> std::setw(tokenCapacity - 1) >> text;
+    if (stream.fail()) return false;
     // Looking at what follows also notices the end of the file behind a token of full length.
-    const int next = stream.peek();
-    if (next == EOF || std::strchr(" \t\n\v\f\r", next) != nullptr) return true;
-    stream.setstate(std::ios::failbit);
-    return false;
+    const int next = stream.eof() ? EOF : stream.peek();
+    const bool whole = next == EOF || std::isspace(static_cast<unsigned char>(next)) != 0;
+    if (!whole || text.find('\0') != std::string::npos) {
+        stream.setstate(std::ios::failbit);
+        return false;
+    }
+    std::memcpy(token, text.c_str(), text.size() + 1);
+    return true;
 }
 
 bool TokenReader::readCharacter(char& character) {

@@ -1,6 +1,6 @@
 // The one way to read the game's text files: tokens parted by white space.
 //
-// Every read takes one whole token. A read that fails (nothing left, a token longer than fits, a
+// Every read but readCharacter takes one whole token. A read that fails (nothing left, a token longer than fits, a
 // malformed number) leaves the reader failed, and all later reads fail too.
 #pragma once
 
@@ -12,7 +12,7 @@ inline constexpr int tokenCapacity = 256; // bytes: 255 characters and the closi
 struct TokenReader {
     std::ifstream stream;
 
-    // Opens an existing file; it is never created.
+    // Opens an existing file; it is never created. A folder is no file.
     bool open(const char* fileName);
 
     // One token, zero-terminated. A token of more than 255 characters is refused.

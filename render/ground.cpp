@@ -170,6 +170,7 @@ int startRowFor(const Vector3& eye) {
 } // namespace
 
 std::int32_t Level::drawGround(const ViewFrame& view, bool farSight, bool fogOn) {
+    if (!groundTexCoords) return 0; // a level failed to load, and the program is about to end
     const Vector3 eye = view.getPosition();
     const int startRow = startRowFor(eye);
     const bool endInSight = farSight || startRow + rowsInSight > lastCellRow;
