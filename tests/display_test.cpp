@@ -70,7 +70,7 @@ TEST_F(Start, GoesOnWhateverTheDisplaySays) {
     } cases[] = {
         {{}, {}, {restore}, unsupported + " | Initialization Error | focus, stop"},
         {{tooSmall}, {}, {restore}, unsupported + " | Initialization Error | focus, stop"},
-        {{tooSmall, right, right}, {0}, {found, restore}, ""},
+        {{tooSmall, tooSmall, right}, {0}, {found, restore}, ""},
         {{right}, {-1, 0}, {found, bySize, restore}, ""},
         {{right},
          {-2, 1},

@@ -96,13 +96,14 @@ TEST_F(FontFile, ThatFailsLeavesNoTextOnTheScreen) {
 
 TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
     writeGameFiles();
-    writeFile(fontMetricsFile, "0x21 0132 A1 2 3 4 5 5.5 6 7 8");
+    writeFile(fontMetricsFile, "0x21 0310 A1 2 3 4 5 5.5 6 7 8");
     ASSERT_TRUE(font.load(fontBaseName, fontMetricsFile));
     EXPECT_EQ(font.firstChar, 33);
-    EXPECT_EQ(font.lastChar, 90);
+    EXPECT_EQ(font.lastChar, 200);
     EXPECT_EQ(font.glyphLeft['A'], 1);
     EXPECT_EQ(font.glyphTop['A'], 2);
     EXPECT_EQ(font.glyphRight['A'], 3);
     EXPECT_EQ(font.glyphBottom['A'], 4);
     EXPECT_EQ(font.glyphLeft['5'], 5.5F);
+    EXPECT_EQ(font.textWidth("\xC3"), 10); // codes from 128 on count as negative
 }

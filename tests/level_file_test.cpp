@@ -108,7 +108,8 @@ TEST_F(LevelFile, EndsDirectlyAfterItsLastToken) {
     for (const char* text :
          {"", " \n", "holecount= 0 .data .end\n", "holecount= 0 .data .end ", "fogcolor= 1\n",
           "fogcolor=", "fogcolor= ", "fogcolor= 08", "fogcolor= 0x", "fogcolor= red marblecolor= 1",
-          "texturefile=", "holecount= 4294967296 .data .end", "marblecolor= 4294967296"}) {
+          "texturefile=", "holecount= 4294967296", "holecount= 3000000000",
+          "marblecolor= 4294967296"}) {
         EXPECT_FALSE(load(text)) << text;
     }
     EXPECT_EQ(boxes(), Lines{});

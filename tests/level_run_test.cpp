@@ -1,4 +1,5 @@
 // Levels against their clocks, and what leads from one to the next.
+#include "data/best_times.h"
 #include "fakes/play.h"
 #include "sim/camera.h"
 
@@ -62,6 +63,9 @@ TEST_F(LevelRun, EndsFourSecondsAfterTheTimeIsUp) {
     EXPECT_TRUE(Game.levelNumber == 3 && Game.stopped);
     EXPECT_EQ(Game.screen, Screen::NameEntry); // 90 seconds are the best of the table
     EXPECT_EQ(Game.newBestEntry, 0);
+    send(WM_GAME_START_LEVEL); // one too many enters nothing twice
+    EXPECT_TRUE(Game.screen == Screen::BestTimes && Game.newBestEntry == -1);
+    EXPECT_EQ(bestTimes.slots[1].time, 100);
 }
 
 TEST_F(LevelRun, SkipsALevelWithF1) {
