@@ -107,7 +107,7 @@ TEST_F(GroundOnScreen, IsDrawnCellByCellInFourQuadrants) {
         {"far sight", {0, -400, -350}, -1.2, 0, true},
         {"to the horizon", {0, -400, -350}, -1.2, 0, false},
         {"turned", {-300, -1000, -350}, -0.9, 0.12, false},
-        {"turned the other way", {300, -1000, -350}, -0.9, -0.4, false},
+        {"turned far", {-600, -1000, -350}, -0.9, 0.6, false},
         {"gliding in", {0, -8800, -6000}, -0.4, 0, false},
         {"before the start", {100, -6500, -350}, -0.85, 0, false},
         {"at the end", {0, 5900, -350}, -0.85, 0, false},

@@ -20,7 +20,7 @@ difference() { compare -metric AE -fuzz 5% "$1" "$2" null: 2>&1 || true; }
 expectChange() { # BEFORE AFTER WHAT
     local changed
     changed=$(difference "$1" "$2")
-    awk -v changed="$changed" 'BEGIN { exit !(changed > 2000) }' ||
+    awk -v changed="$changed" 'BEGIN { exit !(changed > 300) }' ||
         fail "$3 (only $changed pixels changed)"
 }
 
