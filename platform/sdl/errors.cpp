@@ -1,0 +1,76 @@
+#include "platform/sdl/errors.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <set>
+#include <vector>
+
+#include "platform/windows_api.h"
+
+namespace {
+
+struct Errors {
+    std::vector<std::string> texts = {"There is no error."}; // by their code
+    DWORD last = 0;
+    bool machineFailed = false;
+    std::set<std::string> complaints;
+};
+
+Errors errors;
+
+char* newText(const std::string& text) {
+    auto* copy = static_cast<char*>(std::malloc(text.size() + 1));
+    if (copy) std::memcpy(copy, text.c_str(), text.size() + 1);
+    return copy;
+}
+
+} // namespace
+
+void setLastError(const std::string& text) {
+    auto known = std::find(errors.texts.begin(), errors.texts.end(), text);
+    errors.last = static_cast<DWORD>(known - errors.texts.begin());
+    if (known == errors.texts.end()) errors.texts.push_back(text);
+}
+
+const std::string& lastErrorText() {
+    return errors.texts[errors.last];
+}
+
+void failMachine(const std::string& text) {
+    setLastError(text);
+    errors.machineFailed = true;
+}
+
+bool machineFailed() {
+    return errors.machineFailed;
+}
+
+void complain(const std::string& text) {
+    std::fprintf(stderr, "glorbix: %s\n", text.c_str());
+}
+
+void complainOnce(const std::string& text) {
+    if (errors.complaints.insert(text).second) complain(text);
+}
+
+DWORD WINAPI GetLastError() {
+    return errors.last;
+}
+
+DWORD WINAPI FormatMessageA(DWORD flags, const void*, DWORD error, DWORD, char* buffer, DWORD,
+                            void*) {
+    const DWORD needed = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM;
+    if ((flags & needed) != needed || !buffer) return 0;
+    const bool known = error < errors.texts.size();
+    const std::string text = known ? errors.texts[error] : "Error " + std::to_string(error) + ".";
+    char* copy = newText(text);
+    std::memcpy(buffer, &copy, sizeof copy); // the buffer is the address of the caller's pointer
+    return copy ? static_cast<DWORD>(text.size()) : 0;
+}
+
+HLOCAL WINAPI LocalFree(HLOCAL memory) {
+    std::free(memory);
+    return nullptr;
+}

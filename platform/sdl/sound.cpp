@@ -1,0 +1,114 @@
+#include "platform/sdl/sound.h"
+
+#include <cmath>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <numbers>
+#include <string>
+#include <vector>
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+
+#include "platform/sdl/errors.h"
+#include "platform/windows_api.h"
+
+namespace {
+
+constexpr int samplesPerSecond = 44100;
+constexpr int speakers = 2;
+constexpr int samplesPerBuffer = 1024; // 23 ms from the event to the ear
+constexpr int effectChannel = 0;
+constexpr double beepPitch = 880.0;  // hertz
+constexpr double beepLength = 0.15;  // seconds
+constexpr double beepAttack = 0.005; // seconds; shorter ones click
+constexpr double beepVolume = 0.3;   // of the loudest possible
+
+struct ChunkDeleter {
+    void operator()(Mix_Chunk* chunk) const { Mix_FreeChunk(chunk); }
+};
+
+using Chunk = std::unique_ptr<Mix_Chunk, ChunkDeleter>;
+
+struct Sound {
+    bool tried = false;
+    bool open = false;
+    std::map<std::string, Chunk> effects; // by file name; null: the file cannot be played
+    std::vector<std::int16_t> beepSamples;
+    Chunk beep;
+};
+
+Sound sound;
+
+bool openDevice() {
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Glorbix");
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0 ||
+        Mix_OpenAudioDevice(samplesPerSecond, AUDIO_S16SYS, speakers, samplesPerBuffer, nullptr,
+                            0) != 0) {
+        complain(std::string("no sound: ") + SDL_GetError());
+        return false;
+    }
+    Mix_AllocateChannels(effectChannel + 1);
+    return true;
+}
+
+Mix_Chunk* effectNamed(const std::string& fileName) {
+    const auto known = sound.effects.find(fileName);
+    if (known != sound.effects.end()) return known->second.get();
+    Chunk loaded(Mix_LoadWAV(fileName.c_str()));
+    if (!loaded) complain("cannot play " + fileName + ": " + SDL_GetError());
+    return sound.effects.emplace(fileName, std::move(loaded)).first->second.get();
+}
+
+// Rises quickly and fades to nothing, so that neither end clicks.
+double beepLoudness(double seconds) {
+    return seconds < beepAttack ? seconds / beepAttack
+                                : (beepLength - seconds) / (beepLength - beepAttack);
+}
+
+void makeBeep() {
+    const auto frames = static_cast<int>(beepLength * samplesPerSecond);
+    for (int i = 0; i < frames; ++i) {
+        const double seconds = static_cast<double>(i) / samplesPerSecond;
+        const double wave = std::sin(2.0 * std::numbers::pi * beepPitch * seconds);
+        const double value = INT16_MAX * beepVolume * beepLoudness(seconds) * wave;
+        sound.beepSamples.insert(sound.beepSamples.end(), speakers,
+                                 static_cast<std::int16_t>(value));
+    }
+    const std::size_t bytes = sound.beepSamples.size() * sizeof(std::int16_t);
+    sound.beep.reset(Mix_QuickLoad_RAW(reinterpret_cast<Uint8*>(sound.beepSamples.data()),
+                                       static_cast<Uint32>(bytes)));
+}
+
+BOOL play(Mix_Chunk* chunk) {
+    return chunk && Mix_PlayChannel(effectChannel, chunk, 0) >= 0 ? TRUE : FALSE;
+}
+
+} // namespace
+
+bool startSound() {
+    if (!sound.tried) sound.open = openDevice();
+    sound.tried = true;
+    return sound.open;
+}
+
+void stopSound() {
+    if (!sound.open) return;
+    Mix_HaltChannel(-1);
+    sound = {};
+    Mix_CloseAudio();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+}
+
+BOOL WINAPI PlaySoundA(const char* fileName, HMODULE, DWORD flags) {
+    const DWORD needed = SND_ASYNC | SND_FILENAME;
+    if (!fileName || (flags & needed) != needed || !startSound()) return FALSE;
+    return play(effectNamed(fileName));
+}
+
+BOOL WINAPI MessageBeep(UINT) {
+    if (!startSound()) return FALSE;
+    if (!sound.beep) makeBeep();
+    return play(sound.beep.get());
+}

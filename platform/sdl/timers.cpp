@@ -1,0 +1,47 @@
+#include "platform/sdl/timers.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <SDL.h>
+
+namespace {
+
+constexpr std::uint64_t shortestPeriod = 10; // milliseconds
+
+std::vector<Timer> timers;
+
+// A timer without a window gets a number of its own.
+UINT_PTR freeNumber() {
+    UINT_PTR highest = 0;
+    for (const Timer& timer : timers)
+        highest = std::max(highest, timer.number);
+    return highest + 1;
+}
+
+} // namespace
+
+const Timer* dueTimer(std::uint64_t now) {
+    const auto first = std::min_element(timers.begin(), timers.end(),
+                                        [](auto& a, auto& b) { return a.due < b.due; });
+    return first != timers.end() && first->due <= now ? &*first : nullptr;
+}
+
+void rewindTimer(const Timer& timer, std::uint64_t now) {
+    Timer& own = timers[static_cast<std::size_t>(&timer - timers.data())];
+    own.due += own.period * ((now - own.due) / own.period + 1);
+}
+
+UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback) {
+    const UINT_PTR number = window && timer != 0 ? timer : freeNumber();
+    const std::uint64_t beat = std::max<std::uint64_t>(period, shortestPeriod);
+    const Timer made = {window, number, beat, SDL_GetTicks64() + beat, callback};
+    const auto same = std::find_if(timers.begin(), timers.end(), [&](const Timer& other) {
+        return other.window == window && other.number == number;
+    });
+    if (same != timers.end())
+        *same = made;
+    else
+        timers.push_back(made);
+    return number;
+}

@@ -1,0 +1,24 @@
+// The folder that the game runs in: it reads maps, graphics and sounds there and keeps the best
+// times beside them. Installed data cannot be written to, so a player gets a folder of their own
+// with links to it.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+// The first of the folders that holds the game's data, that is its list of levels.
+std::optional<std::filesystem::path>
+findGameData(const std::vector<std::filesystem::path>& folders);
+
+// Makes `own` show what `data` holds: links that are missing are made and links that lead elsewhere
+// are set right, but a folder of the player's own stays. Returns false, and why, when that fails.
+bool linkGameData(const std::filesystem::path& data, const std::filesystem::path& own,
+                  std::string& why);
+
+// Settles the working directory before the game starts: the current one when it holds the data and
+// can be written to; otherwise the player's own folder with links to the data found beside the
+// program or where it was installed. Returns false, and why as a whole sentence, when there is no
+// data.
+bool settleWorkingDirectory(std::string& why);
