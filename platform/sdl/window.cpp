@@ -40,8 +40,24 @@ void openWindow(const char* title) {
     window.sdl = open(0);
 }
 
+// Where no window manager answers, nothing but its size makes a window cover the screen.
+void coverDesktop() {
+    SDL_Rect desktop = {};
+    if (SDL_GetDisplayBounds(0, &desktop) != 0) return;
+    SDL_SetWindowPosition(window.sdl, desktop.x, desktop.y);
+    SDL_SetWindowSize(window.sdl, desktop.w, desktop.h);
+}
+
+void becomeWindow() {
+    const int scale = windowScale();
+    SDL_SetWindowSize(window.sdl, displayWidth * scale, displayHeight * scale);
+    SDL_SetWindowPosition(window.sdl, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+}
+
 void applyFullScreen(bool on) {
+    if (on) coverDesktop();
     SDL_SetWindowFullscreen(window.sdl, on ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+    if (!on) becomeWindow();
 }
 
 HWND showLastError() {
@@ -54,6 +70,7 @@ LRESULT send(UINT message) {
 }
 
 void showSdlWindow() {
+    if (fullScreenWanted()) coverDesktop();
     SDL_ShowWindow(window.sdl);
     if (fullScreenWanted()) applyFullScreen(true);
     SDL_RaiseWindow(window.sdl);
