@@ -27,6 +27,10 @@ path levelFile(const path& base, int level) {
 
 bool writeFont(const path& base) {
     const std::vector<GlyphCell> cells = layOutGlyphs();
+    if (cells.empty()) {
+        std::fprintf(stderr, "the glyphs do not fit into the font picture\n");
+        return false;
+    }
     for (int level = 0; level < fontLevels; ++level) {
         const path file = levelFile(base, level);
         if (!written(writeBitmap(drawFontLevel(cells, level), file.string()), file)) return false;
