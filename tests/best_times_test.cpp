@@ -78,10 +78,28 @@ TEST_F(TenBest, StartAfreshWithoutAWholeFile) {
 }
 
 TEST_F(TenBest, SurviveAFileThatCannotBeWritten) {
-    std::filesystem::remove("highScore.dat");
-    std::filesystem::create_directory("highScore.dat");
+    namespace fs = std::filesystem;
+    const std::string before = readFile("highScore.dat");
+    bestTimes.slots[0].time = 1;
+    fs::create_symlink("/dev/full", "highScore.dat.new"); // no room on the disk
     EXPECT_FALSE(saveBestTimes());
-    EXPECT_FALSE(std::filesystem::exists("highScore.dat.new"));
+    EXPECT_EQ(readFile("highScore.dat"), before);
+    EXPECT_FALSE(fs::exists(fs::symlink_status("highScore.dat.new")));
+
+    fs::create_directory("highScore.dat.new"); // no room beside the table
+    EXPECT_TRUE(saveBestTimes());
+    EXPECT_TRUE(readFile("highScore.dat").starts_with("1 aaa 110 bbb "));
+    fs::remove("highScore.dat.new");
+
+    fs::rename("highScore.dat", "kept.dat");
+    fs::create_symlink("kept.dat", "highScore.dat"); // the player keeps it elsewhere
+    bestTimes.slots[0].time = 2;
+    EXPECT_TRUE(saveBestTimes());
+    EXPECT_TRUE(fs::is_symlink("highScore.dat") && readFile("kept.dat").starts_with("2 aaa "));
+
+    fs::remove("highScore.dat");
+    fs::create_directory("highScore.dat");
+    EXPECT_FALSE(saveBestTimes());
 }
 
 TEST_F(TenBest, CompareByTimeAlone) {

@@ -62,6 +62,14 @@ TEST_F(MarbleRolls, WhereTheArrowsPoint) {
     }
 }
 
+TEST_F(MarbleRolls, OnAfterATickOfNoTime) {
+    playLevel();
+    hold(VK_UP);
+    tick(0);
+    tick(0.01);
+    expectVector(marble.velocity, 0, 0.04, 0, 1e-6);
+}
+
 TEST_F(MarbleRolls, NoFasterThanItsPower) {
     playLevel();
     hold(VK_UP);

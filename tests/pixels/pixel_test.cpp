@@ -211,6 +211,9 @@ TEST_F(OnScreen, TitleIsShownInSixteenBits) {
         reds.insert(actual.at(i, 0).red);
         greens.insert(actual.at(0, i).green);
     }
+    int depthBits = 0;
+    glGetIntegerv(GL_DEPTH_BITS, &depthBits);
+    EXPECT_EQ(depthBits, 16);
     EXPECT_LE(reds.size(), 32U);
     EXPECT_EQ(greens.size(), 64U);
 }
