@@ -38,6 +38,9 @@ constexpr MCIERROR badFile = 296;
 // The game closes a piece as soon as it hears of its end, so the last notes get time to fade.
 constexpr Seconds fadeTime{0.5};
 
+// The mixer's full volume drives the synthesizer six times as loud as its makers do, into clipping.
+constexpr int musicVolume = MIX_MAX_VOLUME / 6;
+
 struct MusicDeleter {
     void operator()(Mix_Music* music) const { Mix_FreeMusic(music); }
 };
@@ -92,6 +95,7 @@ void close() {
 // A piece that the synthesizer refuses lasts as long, in silence.
 void start() {
     if (open.loading.valid()) open.music = open.loading.get();
+    Mix_VolumeMusic(musicVolume);
     if (open.music && Mix_PlayMusic(open.music.get(), 1) != 0)
         complain("cannot play " + open.fileName + ": " + SDL_GetError());
     open.end = Clock::now() + std::chrono::duration_cast<Clock::duration>(open.length + fadeTime);
