@@ -38,8 +38,8 @@ constexpr MCIERROR badFile = 296;
 // The game closes a piece as soon as it hears of its end, so the last notes get time to fade.
 constexpr Seconds fadeTime{0.5};
 
-// The mixer's full volume drives the synthesizer six times as loud as its makers do, into clipping.
-constexpr int musicVolume = MIX_MAX_VOLUME / 6;
+// The mixer's full volume drives the synthesizer into clipping; at a quarter the effects stay on top.
+constexpr int musicVolume = MIX_MAX_VOLUME / 4;
 
 struct MusicDeleter {
     void operator()(Mix_Music* music) const { Mix_FreeMusic(music); }
