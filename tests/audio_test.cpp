@@ -54,8 +54,7 @@ TEST_F(Music, IsSwitchedWithF6) {
     pressKey(VK_F6);
     startGame();
     EXPECT_EQ(music(), Lines{});
-    pressKey(VK_F6);
-    pressKey(VK_F6);
+    pressKeys({VK_F6, VK_F6});
     EXPECT_EQ(music(), started(first, 1) + Lines{"close 1"});
     EXPECT_EQ(Game.musicPlaying, 0);
     send(MM_MCINOTIFY); // a late one
@@ -80,8 +79,7 @@ TEST_F(Music, StopsWithTheLevel) {
 
 TEST_F(Music, EndsQuietlyDuringTheNameEntry) {
     startGame();
-    pressKey(VK_F1);
-    pressKey(VK_F1);
+    pressKeys({VK_F1, VK_F1});
     ASSERT_EQ(Game.screen, Screen::NameEntry);
     tick(0.1);
     EXPECT_EQ(music(), started(first, 1));

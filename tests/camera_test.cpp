@@ -53,20 +53,3 @@ TEST_F(Camera, GlidesByTheShareThatItsLagAllows) {
     expectVector(cameraPosition, 0, before.y + 0.1 * (-6200 - before.y),
                  before.z + 0.1 * (-350 - before.z), 1e-3);
 }
-
-TEST_F(Camera, TurnsToTheSideThatTheMarbleIsOn) {
-    playLevel();
-    Game.cameraLag = 0;
-    marble.setPosition({600, -5800, 0});
-    tick(0.1);
-    EXPECT_NEAR(cameraAngleY, -std::atan(-600 / -6000.0), 1e-6);
-    EXPECT_EQ(cameraAngleZ, cameraAngleY);
-    EXPECT_NEAR(cameraAngleX, -std::atan(-3000 / -6000.0), 1e-6);
-}
-
-TEST_F(Camera, StandsStillWhilePaused) {
-    playLevel();
-    pressKey(VK_F12);
-    ticks(5, 0.1);
-    expectVector(cameraPosition, 0, -8800, -6000, 1e-3);
-}

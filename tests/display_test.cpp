@@ -20,34 +20,21 @@ int runBriefly() {
 
 } // namespace
 
+// Of the three times that the queue is empty, two find a tick posted and one the end.
 TEST_F(Start, TakesEveryStepInOrder) {
     EXPECT_EQ(runBriefly(), 5);
-    Lines steps;
+    std::string steps;
     for (const std::string& line : machine.lines) {
-        if (!line.starts_with("CreateFileA graphics/font/font_")) steps.push_back(line);
+        if (!line.starts_with("CreateFileA graphics/font/font_")) steps += line + "; ";
     }
-    EXPECT_EQ(steps, (Lines{"ChangeDisplaySettingsA 16 640 480 7",
-                            "LoadIconA OpenGL Demo",
-                            "RegisterClassA Glorbix",
-                            "CreateWindowExA 0 Glorbix Glorbix 2214592512 -2147483648 -2147483648 "
-                            "640 480",
-                            "GetDC window",
-                            "ChoosePixelFormat",
-                            "SetPixelFormat 3",
-                            "wglCreateContext",
-                            "wglMakeCurrent",
-                            "SetTimer window 1 1000",
-                            "ShowWindow window 5",
-                            "UpdateWindow window",
-                            "BeginPaint window",
-                            "CreateFileA graphics/title.bmp",
-                            "EndPaint window",
-                            "ShowCursor 0",
-                            "PostMessageA 1025 0", // a tick into each empty queue
-                            "PostMessageA 1025 0",
-                            "PostQuitMessage 5",
-                            "ChangeDisplaySettingsA restore",
-                            "ShowCursor 1"}));
+    EXPECT_EQ(steps,
+              "ChangeDisplaySettingsA 16 640 480 7; LoadIconA OpenGL Demo; RegisterClassA Glorbix; "
+              "CreateWindowExA 0 Glorbix Glorbix 2214592512 -2147483648 -2147483648 640 480; "
+              "GetDC window; ChoosePixelFormat; SetPixelFormat 3; wglCreateContext; "
+              "wglMakeCurrent; SetTimer window 1 1000; ShowWindow window 5; UpdateWindow window; "
+              "BeginPaint window; CreateFileA graphics/title.bmp; EndPaint window; ShowCursor 0; "
+              "PostMessageA 1025 0; PostMessageA 1025 0; PostQuitMessage 5; "
+              "ChangeDisplaySettingsA restore; ShowCursor 1; ");
     EXPECT_EQ(machine.cursorCount, 0);
     EXPECT_EQ(Game.window, theWindow);
     EXPECT_EQ(machine.windowClass.style, 0U);

@@ -53,13 +53,11 @@ TEST_F(Damaged, FilesNeverBringTheGameDown) {
     feed(levelListFile, [] {
         if (!loadLevelList()) return;
         ASSERT_GT(Game.levelCount, 0);
-        for (int i = 0; i < Game.levelCount; ++i)
-            EXPECT_NE(Game.levelFiles[i][0], '\0');
+        for (int i = 0; i < Game.levelCount; ++i) EXPECT_NE(Game.levelFiles[i][0], '\0');
     });
     feed(bestTimesFile, [] {
         EXPECT_TRUE(loadBestTimes());
-        for (int i = 0; i < 10; ++i)
-            EXPECT_LT(std::strlen(bestTimes.slots[i].name), 256U);
+        for (int i = 0; i < 10; ++i) EXPECT_LT(std::strlen(bestTimes.slots[i].name), 256U);
     });
     feed(fontMetricsFile, [] { font.load(fontBaseName, fontMetricsFile); });
     feed("graphics/font/font_8.bmp", [] { font.load(fontBaseName, "none"); });

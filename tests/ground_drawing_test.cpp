@@ -121,8 +121,7 @@ TEST_F(GroundOnScreen, IsDrawnCellByCellInFourQuadrants) {
         const int triangles = draw(view);
         const std::vector<Cell> cells = expectedCells(view);
         GlCalls expected;
-        for (const Cell& cell : cells)
-            appendCell(expected, view, cell);
+        for (const Cell& cell : cells) appendCell(expected, view, cell);
         expected.emplace_back("glFlush");
         const GlCalls actual = from(drawn(), call("glBegin", GL_TRIANGLES));
         EXPECT_EQ(triangles, 2 * static_cast<int>(cells.size()));
@@ -135,8 +134,7 @@ TEST_F(GroundOnScreen, EndsAfterSixtyRowsWithoutFarSight) {
     const auto lastRow = [](const View& view) {
         draw(view);
         double t = -50;
-        for (const GlCall& call : only(drawn(), {"glTexCoord2f"}))
-            t = std::max(t, call.numbers[1]);
+        for (const GlCall& call : only(drawn(), {"glTexCoord2f"})) t = std::max(t, call.numbers[1]);
         return t / 0.25 + 200;
     };
     View view = {"", {0, -400, -350}, -1.3, 0, false};

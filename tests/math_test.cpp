@@ -17,26 +17,16 @@ TEST(Vector, UnitHasLengthOneExceptForNoLength) {
     expectVector(Vector3(0, 0, 0).unit(), 0, 0, 0, 0);
 }
 
-TEST(Vector, OperatorsWorkByComponent) {
-    Vector3 v(1, 2, 3);
-    v += Vector3(10, 20, 30);
-    expectVector(v, 11, 22, 33);
-    v -= Vector3(1, 2, 3);
-    expectVector(v * 0.5F - Vector3(1, 1, 1), 4, 9, 14);
-    v[2] = 7;
-    EXPECT_EQ(dot(v, Vector3(1, 2, 3)), 10 + 40 + 21);
+TEST(Vector, CrossOfXAndYIsZ) {
     expectVector(cross({1, 0, 0}, {0, 1, 0}), 0, 0, 1);
     expectVector(cross({1, 2, 3}, {4, 5, 7}), -1, 5, -3);
 }
 
 TEST(Matrix, ProductMayReplaceItsOperand) {
     Matrix3 a{{1, 2, 3, 4, 5, 6, 7, 8, 10}};
-    const Matrix3 b{{0, 1, 0, 2, 0, 0, 0, 0, 3}};
-    expectVector(a * Vector3(1, 0, -1), -2, -2, -3);
-    a = a * b;
-    const float product[] = {4, 1, 9, 10, 4, 18, 16, 7, 30};
-    for (int i = 0; i < 9; ++i)
-        EXPECT_EQ(a.elements[i], product[i]) << i;
+    a = a * Matrix3{{0, 1, 0, 2, 0, 0, 0, 0, 3}};
+    expectVector(a * Vector3(1, 0, 0), 4, 10, 16);
+    expectVector(a * Vector3(0, 1, 1), 10, 22, 37);
 }
 
 TEST(View, StartsAsTheWorldItself) { expectVector(seen(ViewFrame(), {5, -6, 7}), 5, -6, 7); }

@@ -19,9 +19,8 @@ struct PenaltyLabel : Story {
 
     static std::vector<Text> labels() {
         std::vector<Text> found;
-        for (const Text& text : textsDrawn()) {
+        for (const Text& text : textsDrawn())
             if (text.text == "-5") found.push_back(text);
-        }
         return found;
     }
 };

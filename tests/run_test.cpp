@@ -35,8 +35,7 @@ std::function<bool()> playsLevel(int number) {
 
 std::function<void()> keys(std::vector<int> pressed) {
     return [pressed] {
-        for (const int key : pressed)
-            queueMessage(WM_KEYDOWN, key);
+        for (const int key : pressed) queueMessage(WM_KEYDOWN, key);
     };
 }
 
@@ -78,18 +77,4 @@ TEST_F(Run, ByTimeOutCountsEveryLevelInFull) {
     EXPECT_EQ(bestTimes.slots[0].time, 90);
     EXPECT_EQ(sounds().back(), "sounds/menu.wav"); // the F1 became a letter
     EXPECT_EQ(readFile("highScore.dat"), before);  // a closed window saves nothing
-}
-
-TEST_F(Run, SkippedWithF1IsAsSlowAsCanBe) {
-    std::filesystem::remove("highScore.dat");
-    EXPECT_EQ(play({{shows(Screen::Title), newGame},
-                    {playsLevel(1), keys({VK_F1})},
-                    {playsLevel(2), keys({VK_F1})},
-                    {shows(Screen::BestTimes), quit}}),
-              0);
-    EXPECT_EQ(boxes(), Lines{"Creating new highScores file | Notice | nobody"});
-    std::string expected;
-    for (int i = 0; i < 10; ++i)
-        expected += "90 aaa ";
-    EXPECT_EQ(readFile("highScore.dat"), expected);
 }

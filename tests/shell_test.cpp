@@ -1,6 +1,7 @@
 // The window procedure: messages, focus, and the tick.
 #include "data/best_times.h"
 #include "fakes/play.h"
+#include "sim/camera.h"
 
 using Window = Story;
 
@@ -21,9 +22,11 @@ TEST_F(Window, MeasuresTheTimeOfEveryTick) {
     EXPECT_EQ(Game.frameTime, 0.5F);
     EXPECT_EQ(Game.clock, 44.5F);
     pressKey(VK_F12);
+    const Vector3 before = cameraPosition;
     ticks(4, 3);
     EXPECT_EQ(Game.clock, 44.5F);
     EXPECT_EQ(marble.getPosition().y, -5800);
+    EXPECT_EQ(cameraPosition.y, before.y);
     EXPECT_EQ(count(drawn(), "SwapBuffers"), 1);
     pressKey(VK_F12);
     tick(0.25); // no long step follows a pause

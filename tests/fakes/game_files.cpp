@@ -52,10 +52,10 @@ void writeBitmap(const std::string& name, int width, int height, unsigned colour
     writeBitmap(name, width, height, [colour](int, int) { return colour; });
 }
 
-void writeMipChain(const std::string& base, int size, int levels) {
+void writeMipChain(const std::string& base, int size, int levels, unsigned colour) {
     for (int k = 0; k < levels; ++k) {
         writeBitmap(base + "_" + std::to_string(k) + ".bmp", size >> k, size >> k,
-                    static_cast<unsigned>(k + 1));
+                    colour != 0 ? colour : static_cast<unsigned>(k + 1));
     }
 }
 

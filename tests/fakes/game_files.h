@@ -28,11 +28,11 @@ void writeFile(const std::string& name, const std::string& content);
 std::string readFile(const std::string& name);
 
 // A picture whose pixels, counted from the lower left corner, have colours 0xRRGGBB; one of one
-// colour; and a mip chain whose level k has the colour k + 1.
+// colour; and a mip chain of one colour, or whose level k has the colour k + 1.
 void writeBitmap(const std::string& name, int width, int height,
                  const std::function<unsigned(int x, int y)>& colour);
 void writeBitmap(const std::string& name, int width, int height, unsigned colour = 0x102030);
-void writeMipChain(const std::string& base, int size, int levels);
+void writeMipChain(const std::string& base, int size, int levels, unsigned colour = 0);
 
 // A level file: what `head` says, the ground texture "ground", and holes of x, y, width, depth.
 std::string levelText(const std::vector<Hole>& holes, const std::string& head = "");

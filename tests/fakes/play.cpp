@@ -103,8 +103,7 @@ void tick(double seconds) {
 }
 
 void ticks(int n, double seconds) {
-    for (int i = 0; i < n; ++i)
-        tick(seconds);
+    for (int i = 0; i < n; ++i) tick(seconds);
 }
 
 void startGame() {

@@ -52,6 +52,9 @@ void handleMessages();
 LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 inline void pressKey(int key) { send(WM_KEYDOWN, static_cast<WPARAM>(key)); }
+inline void pressKeys(std::initializer_list<int> keys) {
+    for (const int key : keys) pressKey(key);
+}
 
 // Time goes by and one tick happens; drawn() then is its frame.
 void tick(double seconds);

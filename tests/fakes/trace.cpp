@@ -51,8 +51,7 @@ Lines said(std::initializer_list<std::string_view> functions) {
 
 Lines said(std::string_view function) {
     Lines found = said({function});
-    for (std::string& line : found)
-        line.erase(0, function.size() + 1);
+    for (std::string& line : found) line.erase(0, function.size() + 1);
     return found;
 }
 
@@ -64,8 +63,7 @@ bool operator==(const GlCall& a, const GlCall& b) {
 
 void PrintTo(const GlCall& call, std::ostream* out) {
     *out << call.name;
-    for (const double number : call.numbers)
-        *out << ' ' << number;
+    for (const double number : call.numbers) *out << ' ' << number;
 }
 
 GlCalls operator+(GlCalls a, const GlCalls& b) {
@@ -116,8 +114,7 @@ bool operator==(const Text& a, const Text& b) {
 void PrintTo(const Text& text, std::ostream* out) {
     *out << '"' << text.text << "\" at " << text.x << ", " << text.y << " scale " << text.scale
          << " colour";
-    for (const double part : text.colour)
-        *out << ' ' << part;
+    for (const double part : text.colour) *out << ' ' << part;
 }
 
 namespace {

@@ -57,8 +57,7 @@ Picture photograph() {
 Picture paint(const std::function<Pixel(int x, int y)>& pixelAt) {
     Picture picture;
     for (int y = 0; y < picture.height; ++y) {
-        for (int x = 0; x < picture.width; ++x)
-            picture.put(x, y, pixelAt(x, y));
+        for (int x = 0; x < picture.width; ++x) picture.put(x, y, pixelAt(x, y));
     }
     return picture;
 }
