@@ -108,7 +108,7 @@ TEST_F(MarbleRolls, WithTurboUntilItIsSpent) {
 }
 
 TEST_F(MarbleRolls, BackToAClearSpotWhenAHoleCatchesIt) {
-    playLevel({{100, 0, 40, 100}});
+    playLevel({{100, 0, 40, 100}, {0, -5640, 50, 100}});
     put(100, 65);
     tick(0.001);
     EXPECT_EQ(Game.penaltyPending, 0);
@@ -125,6 +125,9 @@ TEST_F(MarbleRolls, BackToAClearSpotWhenAHoleCatchesIt) {
     EXPECT_EQ(marble.getPosition().y, -240);
     ticks(2, 0.1);
     EXPECT_GT(marble.getPosition().y, -240);
+    put(10, -5605); // the search goes on to the back of the course
+    tick(0.001);
+    EXPECT_NEAR(marble.getPosition().y, -5895, 1);
 }
 
 TEST_F(MarbleRolls, NowhereWhenThereIsNoClearSpot) {
