@@ -7,6 +7,7 @@
 
 // Laid floors (ground_tiles.cpp).
 Colour gridPattern(double x, double y);    // glowing lines on a two-tone checker
+Colour emberPattern(double x, double y);   // the same in amber on wine
 Colour hexagonPattern(double x, double y); // enamelled six-sided tiles
 Colour plankPattern(double x, double y);   // boards laid across the course
 Colour scalePattern(double x, double y);   // overlapping round scales

@@ -10,6 +10,7 @@ namespace {
 
 constexpr GroundTexture textures[] = {
     {"grid", gridPattern, 0x1b2450, 0xffa81e},
+    {"embers", emberPattern, 0x3a1c52, 0x30e0ff},
     {"sand", sandPattern, 0x7a5236, 0x2f8cff},
     {"hexagons", hexagonPattern, 0x124a4e, 0xff5a7a},
     {"planks", plankPattern, 0x4a3350, 0x52e0a0},

@@ -7,6 +7,9 @@
 
 namespace {
 
+constexpr double gridWidth = tileWidth / 4; // of the fields between lines
+constexpr double gridDepth = tileLength / 4;
+
 double fraction(double v) {
     return v - std::floor(v);
 }
@@ -43,17 +46,36 @@ HexagonSpot hexagonAt(double x, double y) {
     return spot;
 }
 
+// Glowing lines on a checker, by the colours of its two floors, of the glow and of the lines.
+struct GridColours {
+    Colour dark;
+    Colour light;
+    Colour glow;
+    Colour line;
+};
+
+Colour gridLight(double x, double y, const GridColours& colours) {
+    const int column = static_cast<int>(std::floor(x / gridWidth));
+    const int row = static_cast<int>(std::floor(y / gridDepth));
+    const Colour& floor = ((column + row) & 1) != 0 ? colours.dark : colours.light;
+    const double toLine = std::fmin(fromMultiple(x, gridWidth), fromMultiple(y, gridDepth));
+    const double glow = exponential(-toLine / 3.2);
+    const double line = 1.0 - smoothStep(1.6, 2.6, toLine);
+    return mix(mix(floor, colours.glow, 0.55 * glow), colours.line, line);
+}
+
 } // namespace
 
 Colour gridPattern(double x, double y) {
-    const int column = static_cast<int>(std::floor(x / 40.0));
-    const int row = static_cast<int>(std::floor(y / 30.0));
-    const bool dark = ((column + row) & 1) != 0;
-    const Colour floor = dark ? colourOf(0x101a3e) : colourOf(0x24407e);
-    const double toLine = std::fmin(fromMultiple(x, 40.0), fromMultiple(y, 30.0));
-    const double glow = exponential(-toLine / 3.2);
-    const double line = 1.0 - smoothStep(1.6, 2.6, toLine);
-    return mix(mix(floor, colourOf(0x2f8ee0), 0.55 * glow), colourOf(0x8ff2ff), line);
+    static const GridColours colours{colourOf(0x101a3e), colourOf(0x24407e), colourOf(0x2f8ee0),
+                                     colourOf(0x8ff2ff)};
+    return gridLight(x, y, colours);
+}
+
+Colour emberPattern(double x, double y) {
+    static const GridColours colours{colourOf(0x1c0a16), colourOf(0x4a1a28), colourOf(0xc8481c),
+                                     colourOf(0xffb45a)};
+    return gridLight(x, y, colours);
 }
 
 Colour hexagonPattern(double x, double y) {

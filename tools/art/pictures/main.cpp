@@ -1,6 +1,6 @@
 // Makes the game's pictures: the font, the grounds, the title, the background and the icons.
 //
-//   glorbix_pictures <graphics folder> <icon folder>
+//   make_pictures <graphics folder> <icon folder>
 //
 // Missing folders are made; files of the same names are replaced. The same source gives the same
 // bytes on every machine. Ends with 0 when every file was written.
@@ -9,12 +9,17 @@
 #include <fstream>
 
 #include "tools/art/pictures/bitmap_writer.h"
+#include "tools/art/pictures/dither.h"
 #include "tools/art/pictures/font_sheet.h"
 #include "tools/art/pictures/ground_textures.h"
+#include "tools/art/pictures/paintings.h"
+#include "tools/art/pictures/png_writer.h"
 
 namespace {
 
 using std::filesystem::path;
+
+constexpr double iconCorner = 0.2; // radius of the icon's corners in its widths
 
 bool written(bool success, const path& file) {
     if (!success) std::fprintf(stderr, "cannot write %s\n", file.c_str());
@@ -58,6 +63,18 @@ bool writeGrounds(const path& folder) {
     return true;
 }
 
+bool writeScreens(const path& folder) {
+    const path title = folder / "title.bmp";
+    const path back = folder / "back.bmp";
+    return written(writeBitmap(ditheredTo565(titlePainting()), title.string()), title) &&
+           written(writeBitmap(ditheredTo565(backPainting()), back.string()), back);
+}
+
+bool writeIconFile(const path& file, int size) {
+    return written(writeIcon(developed(iconPainting(size)), size * iconCorner, file.string()),
+                   file);
+}
+
 bool makeFolder(const path& folder) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
@@ -75,6 +92,8 @@ int main(int argumentCount, char** arguments) {
     const path icons = arguments[2];
     const bool done = makeFolder(graphics / "font") && makeFolder(graphics / "ground") &&
                       makeFolder(icons) && writeFont(graphics / "font" / "font") &&
-                      writeGrounds(graphics / "ground");
+                      writeGrounds(graphics / "ground") && writeScreens(graphics) &&
+                      writeIconFile(icons / "glorbix.png", 256) &&
+                      writeIconFile(icons / "glorbix-48.png", 48);
     return done ? 0 : 1;
 }
