@@ -37,7 +37,7 @@ const char* const wideBeat = "kick X...X...X...X... /"
 
 std::vector<Part> players() {
     return {
-        {"Lead", 0, 81, 100, 60, 50, 60, 93, 0.9},
+        {"Lead", 0, 29, 100, 60, 50, 60, 93, 0.9},
         {"Clavinet", 1, 7, 96, 96, 30, 60, 77, 0.6},
         {"Strings", 2, 48, 82, 44, 70, 58, 79, 0.98},
         {"Guitar", 3, 28, 80, 30, 24, 50, 67, 0.6},

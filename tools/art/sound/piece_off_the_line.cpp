@@ -33,7 +33,7 @@ const char* const beat = "kick X.....x.X..x.... *7 | X.....x.X...x.x. /"
                          "hat x.x.x.x.x.x.x.xo /"
                          "crash X............... | ................ *7";
 // Over the beat where the music widens.
-const char* const sparkle = "tamb x.xXx.xXx.xXx.xX / open ..............x.";
+const char* const sparkle = "tamb o...x..oo...x.o. / open ..............x.";
 const char* const lightBeat = "kick X.......x....... *7 | X.......x...x... /"
                               "stick ....x.......x.o. /"
                               "shaker xoxoxoxoxoxoxoxo";
@@ -170,7 +170,7 @@ Section coda() {
                 pattern("Bass", forte, "R-..R-5-..R-8-5-*3 | R---............"),
                 drums(forte, "kick X.....x.X..x.... *3 | X............... /"
                              "snare ....X.......X... *2 | ....x...x.xxXXXX | X............... /"
-                             "crash X..............."),
+                             "crash X............... | ................*2 | X..............."),
             }};
 }
 
