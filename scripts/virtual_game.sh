@@ -38,19 +38,20 @@ windowOf() {
         awk '/Window id/ { id = $4 } /IsViewable/ { print id }'
 }
 
-# Waits until a window of that title is there.
+# Waits until a window of that title is there; a busy machine takes its time.
 waitForWindow() {
-    local try
-    for try in $(seq 100); do
+    local patience=$((SECONDS + 60))
+    while [ "$SECONDS" -lt "$patience" ]; do
         [ -z "$(windowOf "$1")" ] || return 0
         if ! kill -0 "$gameProcess" 2> /dev/null; then
-            echo "the game ended at once (try $try):" >&2
+            echo "the game ended before it showed '$1':" >&2
             cat "$gameFolder/log" >&2
             return 1
         fi
         sleep 0.1
     done
-    echo "the game showed no window '$1'" >&2
+    echo "the game showed no window '$1':" >&2
+    cat "$gameFolder/log" >&2
     return 1
 }
 
