@@ -139,12 +139,12 @@ bool arrange(const Piece& piece, Arrangement& arrangement, std::string& error) {
                                  .arrangement = arrangement,
                                  .error = error};
         if (!arranger.readHarmony()) {
-            error = piece.title + ", " + section.name + ": " + error;
+            error.insert(0, piece.title + ", " + section.name + ": ");
             return false;
         }
         for (const Line& line : section.lines) {
             if (arranger.readLine(line)) continue;
-            error = piece.title + ", " + section.name + ", " + line.part + ": " + error;
+            error.insert(0, piece.title + ", " + section.name + ", " + line.part + ": ");
             return false;
         }
         arrangement.sections.push_back({arrangement.length, arranger.length, &section});

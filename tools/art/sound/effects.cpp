@@ -6,6 +6,9 @@ namespace {
 
 constexpr double peakInDecibels = -3.0;
 
+// A blown tone is louder to the ear than struck ones of the same peak; so low it matches them.
+constexpr double blownPeakInDecibels = -6.5;
+
 // Pitches by name; a trailing 4, 5 ... is the octave, with a4 at 440 Hz.
 constexpr double d4 = 62, f4 = 65, a4 = 69, d5 = 74, fSharp5 = 78, a5 = 81, d6 = 86, fSharp6 = 90;
 constexpr double a6 = 93, d7 = 98;
@@ -23,11 +26,11 @@ SoundBuffer menuTick() {
 
 SoundBuffer startSignal() {
     SoundBuffer sound(0.95);
-    blowHorn(sound, {0.0, a4, 0.5}, {0.13, 0.5});
-    blowHorn(sound, {0.12, d5, 0.5, -0.3}, {0.6, 0.55});
-    blowHorn(sound, {0.12, a5, 0.35, 0.3}, {0.6, 0.5});
-    strikeGlass(sound, {0.12, d6, 0.8}, 0.12);
-    strikeGlass(sound, {0.12, d7, 0.3}, 0.1);
+    blowHorn(sound, {0.0, a4, 0.75}, {0.13, 0.5});
+    blowHorn(sound, {0.12, d5, 0.75, -0.3}, {0.7, 0.55});
+    blowHorn(sound, {0.12, a5, 0.6, 0.3}, {0.7, 0.5});
+    strikeGlass(sound, {0.12, d6, 0.5}, 0.14);
+    strikeGlass(sound, {0.12, d7, 0.2}, 0.1);
     sound.addEchoes(0.3);
     sound.finish(peakInDecibels, 0.2);
     return sound;
@@ -35,11 +38,11 @@ SoundBuffer startSignal() {
 
 SoundBuffer timeUp() {
     SoundBuffer sound(1.45);
-    blowHorn(sound, {0.0, a4, 0.8, -0.2}, {0.26, 0.5, -0.5});
-    blowHorn(sound, {0.25, f4, 0.8, 0.2}, {0.26, 0.5, -0.5});
-    blowHorn(sound, {0.50, d4, 0.9}, {0.8, 0.55, -3.0, 0.5});
+    blowHorn(sound, {0.0, a4, 0.8, -0.2}, {0.28, 0.5, -0.5, 0.0, 0.7});
+    blowHorn(sound, {0.25, f4, 0.8, 0.2}, {0.28, 0.5, -0.5, 0.0, 0.7});
+    blowHorn(sound, {0.50, d4, 0.9}, {0.9, 0.55, -3.0, 0.5, 0.8});
     sound.addEchoes(0.25);
-    sound.finish(peakInDecibels, 0.2);
+    sound.finish(blownPeakInDecibels, 0.2);
     return sound;
 }
 
@@ -49,10 +52,10 @@ SoundBuffer goalReached() {
     strikeGlass(sound, {0.09, fSharp5, 0.7, -0.2}, 0.15);
     strikeGlass(sound, {0.18, a5, 0.75, 0.2}, 0.15);
     strikeGlass(sound, {0.27, d6, 0.9, 0.4}, 0.2);
-    strikeGlass(sound, {0.42, fSharp6, 0.8, -0.2}, 0.25);
-    strikeGlass(sound, {0.42, a5, 0.6, 0.2}, 0.25);
-    strikeGlass(sound, {0.42, d5, 0.6}, 0.25);
-    strikeGlass(sound, {0.46, a6, 0.3, 0.3}, 0.2);
+    strikeGlass(sound, {0.42, fSharp6, 0.5, -0.2}, 0.3);
+    strikeGlass(sound, {0.42, a5, 0.5, 0.2}, 0.3);
+    strikeGlass(sound, {0.42, d5, 0.5}, 0.3);
+    strikeGlass(sound, {0.48, a6, 0.4, 0.3}, 0.25);
     sound.addEchoes(0.3);
     sound.finish(peakInDecibels, 0.3);
     return sound;

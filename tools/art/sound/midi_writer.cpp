@@ -3,6 +3,7 @@
 #include "tools/art/sound/file_bytes.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -52,7 +53,7 @@ void MidiTrack::text(int tick, MidiText kind, const std::string& words) {
 
 void MidiTrack::tempo(int tick, double quartersPerMinute) {
     FileBytes data;
-    data.bigEndian(static_cast<std::uint32_t>(60e6 / quartersPerMinute + 0.5), 3);
+    data.bigEndian(static_cast<std::uint32_t>(std::lround(60e6 / quartersPerMinute)), 3);
     events.push_back({tick, settingRank, metaEvent(tempoType, data.bytes)});
 }
 

@@ -3,6 +3,7 @@
 #include "tools/art/sound/exact_math.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -50,7 +51,7 @@ int swung(int tick, double swing) {
     const int within = tick % ticksPerQuarter;
     const double share = within < eighth ? within * swing / eighth
                                          : swing + (within - eighth) * (1.0 - swing) / eighth;
-    return beat + static_cast<int>(share * ticksPerQuarter + 0.5);
+    return beat + static_cast<int>(std::lround(share * ticksPerQuarter));
 }
 
 // What the place in the bar adds to a note's velocity.

@@ -40,8 +40,8 @@ struct Part {
     int volume;        // 0 .. 127, the part's level in the mix
     int pan;           // 0 left, 64 middle, 127 right
     int reverb;        // 0 .. 127
-    int lowest;        // lowest pitch of the instrument in this piece; patterns keep close above it
-    int highest;       // highest pitch
+    int lowest;        // patterns place basses close above this pitch and chords between the two;
+    int highest;       // melodies are written as they sound and go where they like
     double gate = 0.9; // share of a note's written length that sounds
     int strum = 0;     // ticks from one string of a chord to the next
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace {
 
@@ -22,7 +23,7 @@ constexpr Echo room[] = {
 // Cuts what lies below the range of a small loudspeaker, and with it every constant part: a
 // first-order high pass at about 30 Hz.
 void removeOffset(std::vector<double>& samples) {
-    constexpr double keep = 1.0 - 2.0 * 3.14159265358979 * 30.0 / samplesPerSecond;
+    constexpr double keep = 1.0 - 2.0 * std::numbers::pi * 30.0 / samplesPerSecond;
     double before = 0.0;
     double out = 0.0;
     for (double& sample : samples) {

@@ -68,7 +68,7 @@ void knock(SoundBuffer& sound, double start, double level) {
 }
 
 void blowHorn(SoundBuffer& sound, const Cue& cue, const HornShape& shape) {
-    const Swell swell{0.02, shape.length * 0.35, shape.length};
+    const Swell swell{0.02, shape.length * shape.fall, shape.length};
     const std::size_t start = placeOf(cue.start);
     double phase = 0.0;
     for (std::size_t i = 0; i < placeOf(shape.length); ++i) {

@@ -26,5 +26,6 @@ struct HornShape {
     double brightness;
     double bend = 0.0;
     double vibrato = 0.0;
+    double fall = 0.35; // share of the length in which it dies away
 };
 void blowHorn(SoundBuffer& sound, const Cue& cue, const HornShape& shape);

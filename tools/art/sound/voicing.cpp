@@ -12,6 +12,7 @@ constexpr int outsideCost = 12; // for every semitone beyond the range
 // The chord in close position above a pitch.
 std::vector<int> stackAbove(int lowest, const std::vector<int>& tones) {
     std::vector<int> pitches;
+    pitches.reserve(tones.size());
     for (const int tone : tones)
         pitches.push_back(pitchAbove(lowest, tone));
     std::sort(pitches.begin(), pitches.end());
