@@ -9,7 +9,7 @@ namespace {
 
 struct Cell {
     int row, column;
-    auto operator<=>(const Cell&) const = default;
+    bool operator<(const Cell& o) const { return row * 50 + column < o.row * 50 + o.column; }
 };
 
 // The eye and its angles, as the camera holds them.

@@ -33,7 +33,7 @@ std::function<bool()> playsLevel(int number) {
     return [number] { return Game.screen == Screen::Level && Game.levelNumber == number; };
 }
 
-std::function<void()> keys(std::vector<int> pressed) {
+std::function<void()> keys(const std::vector<int>& pressed) {
     return [pressed] {
         for (const int key : pressed) queueMessage(WM_KEYDOWN, key);
     };

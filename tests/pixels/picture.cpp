@@ -17,7 +17,7 @@ double distance(Pixel a, Pixel b) {
 }
 
 std::uint8_t byteOf(double colour) {
-    return static_cast<std::uint8_t>(std::clamp(colour, 0.0, 255.0) + 0.5);
+    return static_cast<std::uint8_t>(std::lround(std::clamp(colour, 0.0, 255.0)));
 }
 
 std::size_t offsetOf(const Picture& picture, int x, int y) {
