@@ -18,7 +18,7 @@ constexpr int rowCount = (usableSize + rowGap) / rowPitch;
 constexpr double baselineRow = 24.0; // of a cell, down from its top
 
 // The smaller levels: ink is gathered over a square of this many texels, and made a little bolder.
-constexpr double gatherInTexels = 1.2;
+constexpr double gatherInTexels = 1.3;
 constexpr double boldness = 1.12;
 constexpr int samplesAcross = 6;
 

@@ -25,7 +25,7 @@ double fromStone(double x, double y) {
 const Skeleton& traces() {
     static const Skeleton copper =
         skeletonOf("W 2.2 M 0 20 L 50 20 L 70 40 L 110 40 L 130 20 L 160 20 "
-                   "M 30 0 L 30 50 L 60 80 L 60 100 L 40 120 M 40 0 L 30 10 "
+                   "M 30 10 L 30 50 L 60 80 L 60 100 L 40 120 M 40 0 L 30 10 "
                    "M 0 80 L 20 80 L 40 100 L 40 120 "
                    "M 90 0 L 90 40 M 90 120 L 90 90 L 110 70 L 140 70 L 150 80 L 160 80 "
                    "M 130 20 L 130 0 M 130 120 L 130 100");

@@ -9,17 +9,17 @@
 namespace {
 
 constexpr GroundTexture textures[] = {
-    {"grid", gridPattern, 0x1b2450, 0xffa81e},
-    {"embers", emberPattern, 0x3a1c52, 0x30e0ff},
-    {"sand", sandPattern, 0x7a5236, 0x2f8cff},
-    {"hexagons", hexagonPattern, 0x124a4e, 0xff5a7a},
-    {"planks", plankPattern, 0x4a3350, 0x52e0a0},
-    {"scales", scalePattern, 0x0e3a28, 0xff3048},
-    {"circuit", circuitPattern, 0x0a1f18, 0xff40ff},
-    {"paving", pavingPattern, 0x5c6a72, 0xffd020},
-    {"ice", icePattern, 0x4f7fa8, 0xd01860},
-    {"lava", lavaPattern, 0x3a0f0a, 0x20e0ff},
-    {"ribbons", ribbonPattern, 0x6a2f5e, 0x30d8ff},
+    {"grid", gridPattern, 0x1b2450, 0xffc832},
+    {"embers", emberPattern, 0x3a1c52, 0x60f4ff},
+    {"sand", sandPattern, 0x7a5236, 0x30b4ff},
+    {"hexagons", hexagonPattern, 0x124a4e, 0xff8098},
+    {"planks", plankPattern, 0x4a3350, 0x60ffb8},
+    {"scales", scalePattern, 0x0e3a28, 0xff78c0},
+    {"circuit", circuitPattern, 0x0a1f18, 0xff70ff},
+    {"paving", pavingPattern, 0x5c6a72, 0xffe030},
+    {"ice", icePattern, 0x4f7fa8, 0xff2a70},
+    {"lava", lavaPattern, 0x3a0f0a, 0x50f0ff},
+    {"ribbons", ribbonPattern, 0x6a2f5e, 0xa0ff50},
 };
 
 constexpr int samplesAcross = 6; // of a texel, each way

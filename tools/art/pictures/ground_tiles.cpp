@@ -101,8 +101,8 @@ Colour plankPattern(double x, double y) {
     const Colour wood = mix(colourOf(0x8a4a1c), colourOf(0xe0a050), 0.25 + 0.6 * tone);
     const Colour grained = mix(wood, wood * 0.62, 0.55 * veins * grain);
     const double upperEdge = smoothStep(0.78, 0.92, fraction(y / boardDepth));
-    const Colour board3 = mix(grained, colourOf(0xffd58c), 0.35 * upperEdge);
-    return mix(colourOf(0x1c0c08), board3, smoothStep(0.7, 1.7, toJoint));
+    const Colour edged = mix(grained, colourOf(0xffd58c), 0.35 * upperEdge);
+    return mix(colourOf(0x1c0c08), edged, smoothStep(0.7, 1.7, toJoint));
 }
 
 // Scales hang like tiles of a roof: each row covers the upper part of the one before it.

@@ -1,7 +1,6 @@
 #include "tools/art/pictures/paintings.h"
 
 #include "tools/art/pictures/ground_textures.h"
-#include "tools/art/pictures/portable_math.h"
 #include "tools/art/pictures/scene.h"
 
 namespace {
@@ -32,32 +31,27 @@ Mood night() {
             .haze = colourOf(0x1c1440),
             .glow = colourOf(0x604080) * 0.4,
             .sun = westernSun,
-            .sunlight = colourOf(0xb8c4ff) * 0.5,
+            .sunlight = colourOf(0xb8c4ff) * 0.32,
             .skylight = colourOf(0x5060b0) * 0.5,
             .hazeLength = 1700.0,
             .stars = 1.0};
 }
 
-// Puts a marble down so that it touches the ground below its centre.
+GlassMarble blueMarble(const Vector3& centre, double radius, const Vector3& axis) {
+    return {
+        centre, radius, axis.unit(), colourOf(0x10b8f0), colourOf(0xfff4e0), colourOf(0xd8f4ff)};
+}
+
+// A marble that touches the ground below its centre.
 GlassMarble marbleAt(const Landscape& land, float x, float y, double radius) {
     const Vector3 ground(x, y, static_cast<float>(land.heightAt(x, y)));
     const Vector3 centre = ground + land.normalAt(x, y) * static_cast<float>(radius);
-    return {centre,
-            radius,
-            Vector3(0.80F, -0.22F, 0.55F).unit(),
-            colourOf(0x10b8f0),
-            colourOf(0xfff4e0),
-            colourOf(0xd8f4ff)};
+    return blueMarble(centre, radius, {0.80F, -0.22F, 0.55F});
 }
 
 // A marble that hangs in the ring of a letter.
 GlassMarble marbleIn(const Sign& sign, int letter, double radius) {
-    return {sign.middleOf(letter),
-            radius,
-            Vector3(0.3F, -0.5F, 0.8F).unit(),
-            colourOf(0x10b8f0),
-            colourOf(0xfff4e0),
-            colourOf(0xd8f4ff)};
+    return blueMarble(sign.middleOf(letter), radius, {0.3F, -0.5F, 0.8F});
 }
 
 Scene sceneOf(const Mood& mood, std::span<const Hole> holes, const char* texture) {
@@ -65,6 +59,7 @@ Scene sceneOf(const Mood& mood, std::span<const Hole> holes, const char* texture
             {}};
 }
 
+// Wells and mounds before the eye, and hills against the last light.
 constexpr Hole titleLand[] = {
     {-330, 330, 70, 190},     {420, 700, 90, 230},      {-60, 760, 80, 200},
     {-620, 900, 120, 260},    {820, 1150, 130, 280},    {180, 1250, 100, 240},
@@ -94,7 +89,7 @@ Canvas titlePainting() {
 
 Canvas backPainting() {
     Scene scene = sceneOf(night(), titleLand, "embers");
-    scene.lineGlow = 0.1;
+    scene.lineGlow = 0.06;
     const Camera camera{above(scene.land, 0.0F, -60.0F, 300.0F), 0.25, gameFocal};
     return render(scene, camera, screenWidth, screenHeight, 4);
 }
@@ -102,7 +97,8 @@ Canvas backPainting() {
 Canvas iconPainting(int size) {
     constexpr Hole land[] = {{70, 420, 90, 260}, {-400, 700, 150, 240}, {420, 900, 160, 280}};
     Scene scene = sceneOf(dusk(), land, "grid");
-    scene.marbles.push_back(marbleAt(scene.land, -20.0F, 230.0F, 80.0));
-    const Camera camera{above(scene.land, 0.0F, -60.0F, 240.0F), 0.42, 0.85};
+    scene.marbles.push_back(marbleAt(scene.land, -14.0F, 225.0F, 92.0));
+    scene.marbles.back().ribbon = colourOf(0xff9010);
+    const Camera camera{above(scene.land, 0.0F, -30.0F, 215.0F), 0.42, 0.95};
     return render(scene, camera, size, size, size < 100 ? 8 : 4);
 }
