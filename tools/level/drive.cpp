@@ -1,0 +1,34 @@
+#include "tools/level/drive.h"
+
+namespace {
+
+void notePlace(Drive& drive, Keys held, int catchesBefore) {
+    const RunState now = runState();
+    const Vector3& p = now.rolling.position;
+    if (now.catches > catchesBefore && !drive.line.empty()) drive.line.back().caught = true;
+    drive.line.push_back({p.x, p.y, (held & turboKey) != 0, false});
+}
+
+} // namespace
+
+Drive driveToEnd(int ticksPerSecond, const KeyHolder& holder) {
+    Drive drive;
+    drive.keys.ticksPerSecond = ticksPerSecond;
+    const float dt = 1.0F / static_cast<float>(ticksPerSecond);
+    while (!runIsOver()) {
+        const Keys held = holder(dt);
+        const int catchesBefore = runState().catches;
+        tickRun(held, dt);
+        drive.keys.ticks.push_back(held);
+        notePlace(drive, held, catchesBefore);
+    }
+    drive.end = runState();
+    drive.keys.time = drive.end.done ? drive.end.result : 0.0F;
+    return drive;
+}
+
+Drive replay(const KeyFile& keys) {
+    std::size_t next = 0;
+    return driveToEnd(keys.ticksPerSecond,
+                      [&](float) { return next < keys.ticks.size() ? keys.ticks[next++] : noKey; });
+}

@@ -1,0 +1,20 @@
+// The five keys that drive the marble, as a set, and their names in files and on the screen.
+#pragma once
+
+#include <string>
+
+// A set of the bits below.
+using Keys = unsigned;
+
+inline constexpr Keys noKey = 0;
+inline constexpr Keys leftKey = 1;
+inline constexpr Keys rightKey = 2;
+inline constexpr Keys upKey = 4;
+inline constexpr Keys downKey = 8;
+inline constexpr Keys turboKey = 16;
+
+// "up left shift", in a fixed order; "-" where none is held.
+std::string keysText(Keys keys);
+
+// Adds the key of that name ("-" adds none). False when there is no such key.
+bool addKey(const std::string& name, Keys& keys);

@@ -1,0 +1,53 @@
+#include "tools/level/return_spots.h"
+
+#include <algorithm>
+
+#include "app/game.h"
+#include "data/level.h"
+#include "sim/simulation.h"
+#include "tools/level/level_run.h"
+
+namespace {
+
+constexpr float catchRadii = 1.4F; // hole widths: just within the catch radius
+
+// Lets the game find a marble in a hole, while the marble is held and the clock stands.
+bool dropInto(float x, float y, Vector3& spot) {
+    Game.frameTime = 0.0F;
+    Game.holdTime = 1.0F;
+    placeMarble(x, y);
+    updateSimulation();
+    spot = marble.getPosition();
+    return level.holeAt(spot.x, spot.y) <= 0.0F;
+}
+
+} // namespace
+
+std::vector<Return> findReturns() {
+    const RunState before = runState();
+    std::vector<Return> returns;
+    for (int i = 0; i < level.holeCount; ++i) {
+        const Hole& hole = level.holes[i];
+        if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) continue;
+        for (const float side : {-catchRadii, catchRadii}) {
+            Return back = {i, false, {}};
+            back.found = dropInto(hole.x, hole.y + side * hole.width, back.spot);
+            returns.push_back(back);
+        }
+    }
+    setRunState(before);
+    return returns;
+}
+
+std::vector<Vector3> differentSpots(const std::vector<Return>& returns) {
+    std::vector<Vector3> spots;
+    for (const Return& back : returns) {
+        const bool known = std::any_of(spots.begin(), spots.end(), [&back](const Vector3& spot) {
+            return (spot - back.spot).length() < 1.0F;
+        });
+        if (back.found && !known) spots.push_back(back.spot);
+    }
+    std::sort(spots.begin(), spots.end(),
+              [](const Vector3& a, const Vector3& b) { return a.y < b.y; });
+    return spots;
+}
