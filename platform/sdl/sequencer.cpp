@@ -86,6 +86,7 @@ bool findInstruments() {
 }
 
 void close() {
+    if (open.device == 0) return;
     if (open.music) Mix_HaltMusic();
     withdrawMessages(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
     last = std::move(open);

@@ -16,10 +16,16 @@ WNDPROC classProcedure = nullptr;
 WindowHandle window;
 int cursorCount = 0;
 
+// Counted from 0; the first while there is no window.
+int displayOfWindow() {
+    const int display = window.sdl ? SDL_GetWindowDisplayIndex(window.sdl) : 0;
+    return display < 0 ? 0 : display;
+}
+
 // Twice the display's size where the desktop has the room.
 int windowScale() {
     SDL_Rect room = {};
-    if (SDL_GetDisplayUsableBounds(0, &room) != 0) return 1;
+    if (SDL_GetDisplayUsableBounds(displayOfWindow(), &room) != 0) return 1;
     const bool fits =
         room.w >= 2 * displayWidth + frameAllowance && room.h >= 2 * displayHeight + frameAllowance;
     return fits ? 2 : 1;
@@ -43,7 +49,7 @@ void openWindow(const char* title) {
 // Where no window manager answers, nothing but its size makes a window cover the screen.
 void coverDesktop() {
     SDL_Rect desktop = {};
-    if (SDL_GetDisplayBounds(0, &desktop) != 0) return;
+    if (SDL_GetDisplayBounds(displayOfWindow(), &desktop) != 0) return;
     SDL_SetWindowPosition(window.sdl, desktop.x, desktop.y);
     SDL_SetWindowSize(window.sdl, desktop.w, desktop.h);
 }
@@ -51,7 +57,8 @@ void coverDesktop() {
 void becomeWindow() {
     const int scale = windowScale();
     SDL_SetWindowSize(window.sdl, displayWidth * scale, displayHeight * scale);
-    SDL_SetWindowPosition(window.sdl, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+    const int centre = SDL_WINDOWPOS_CENTERED_DISPLAY(displayOfWindow());
+    SDL_SetWindowPosition(window.sdl, centre, centre);
 }
 
 void applyFullScreen(bool on) {
