@@ -1,0 +1,111 @@
+// The shipped courses, proved playable: an automatic driver, which has nothing but the five keys,
+// reaches every goal in time and without a catch, and recorded drives still end as they did.
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "app/game.h"
+#include "data/level_list.h"
+#include "tools/level/command_line.h"
+#include "tools/level/drive.h"
+#include "tools/level/driver.h"
+#include "tools/level/level_text.h"
+#include "tools/level/return_spots.h"
+
+namespace {
+
+constexpr float timeToSpare = 5.0F; // seconds that a level leaves the driver at least
+
+std::vector<std::string> shippedLevels() {
+    std::vector<std::string> names;
+    std::ifstream list(GLORBIX_GAME_DIR "/maps/maplist.dat");
+    std::string word;
+    list >> word;
+    while (list >> word) names.push_back(word);
+    return names;
+}
+
+struct Course : testing::TestWithParam<std::string> {
+    void SetUp() override {
+        std::filesystem::current_path(GLORBIX_GAME_DIR);
+        ASSERT_TRUE(startRun(GetParam().c_str()));
+    }
+
+    std::string keyFile() const {
+        return GLORBIX_DRIVES_DIR "/" + std::filesystem::path(GetParam()).stem().string() + ".keys";
+    }
+};
+
+std::string nameOf(const testing::TestParamInfo<std::string>& info) {
+    return std::filesystem::path(info.param).stem().string();
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, Course, testing::ValuesIn(shippedLevels()), nameOf);
+
+TEST_P(Course, IsDrivenToItsGoalAtAnyFrameRate) {
+    const RunState start = runState();
+    for (const int ticksPerSecond : {30, 60, 144}) {
+        setRunState(start);
+        Driver driver(level);
+        const Drive drive =
+            driveToEnd(ticksPerSecond, [&](float dt) { return driver.keysFor(dt); });
+        EXPECT_TRUE(drive.end.done) << ticksPerSecond << " ticks a second";
+        EXPECT_EQ(drive.end.catches, 0) << ticksPerSecond << " ticks a second";
+        EXPECT_LT(drive.end.result, levelTime - timeToSpare) << ticksPerSecond;
+    }
+}
+
+TEST_P(Course, EndsARecordedDriveToTheLastBit) {
+    KeyFile keys;
+    std::string error;
+    ASSERT_TRUE(readKeyFile(keyFile(), keys, error)) << error;
+    const Drive drive = replay(keys);
+    EXPECT_TRUE(drive.end.done);
+    EXPECT_EQ(drive.keys.time, keys.time) << "physics or course have changed: record it anew";
+}
+
+TEST_P(Course, GivesEveryMarbleBackAndIsGood) {
+    for (const Return& back : findReturns()) EXPECT_TRUE(back.found) << "hole " << back.hole + 1;
+    EXPECT_EQ(checkLevels({{GetParam()}}), allWell);
+}
+
+TEST(FirstCourse, IsFinishedByHoldingUpAlone) {
+    std::filesystem::current_path(GLORBIX_GAME_DIR);
+    ASSERT_TRUE(startRun(shippedLevels().front().c_str()));
+    const Drive drive = driveToEnd(60, [](float) { return upKey; });
+    EXPECT_TRUE(drive.end.done);
+    EXPECT_EQ(drive.end.catches, 0);
+}
+
+struct Fault {
+    const char* text;
+    const char* told; // the beginning of what an author reads
+};
+
+TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
+    const Fault faults[] = {
+        {"", "1:1: the file is empty"},
+        {"fogcolor=12", "1:1: there must be a blank behind"},
+        {"fogcolor= 1\nroom", "2:1: unknown word \"room\""},
+        {"fogcolor= red", "1:11: expected a whole number"},
+        {"holecount= 1\n.data\n 1 2 x 4 .end", "3:6: expected number 3 of the 4"},
+        {"holecount= 1 .data 1 2 3 4 5 .end", "1:28: expected .end behind 1 holes, not \"5\""},
+        {"holecount= -1", "1:12: a count of holes is not negative"},
+        {"holecount= 0 .data .end\n", "1:20: the file goes on behind \".end\""},
+        {"holecount= 0 .data .end", ""},
+    };
+    const std::string file = testing::TempDir() + "glorbix_fault.lev";
+    for (const Fault& fault : faults) {
+        std::ofstream(file, std::ios::binary) << fault.text;
+        LevelText text;
+        ASSERT_TRUE(readLevelText(file, text));
+        const std::string told = findFault(text);
+        EXPECT_EQ(told.substr(0, std::string(fault.told).size()), fault.told) << fault.text;
+        EXPECT_EQ(told.empty(), *fault.told == '\0') << told;
+    }
+    std::remove(file.c_str());
+}
+
+} // namespace
