@@ -56,7 +56,8 @@ bool openDevice() {
 Mix_Chunk* effectNamed(const std::string& fileName) {
     const auto known = sound.effects.find(fileName);
     if (known != sound.effects.end()) return known->second.get();
-    Chunk loaded(Mix_LoadWAV(fileName.c_str()));
+    SDL_RWops* file = SDL_RWFromFile(fileName.c_str(), "rb");
+    Chunk loaded(file ? Mix_LoadWAV_RW(file, 1) : nullptr);
     if (!loaded) complain("cannot play " + fileName + ": " + SDL_GetError());
     return sound.effects.emplace(fileName, std::move(loaded)).first->second.get();
 }

@@ -1,0 +1,150 @@
+// The machine behind the door: what can be decided without a display, and the order of messages.
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <SDL.h>
+#include <gtest/gtest.h>
+
+#include "platform/sdl/key_map.h"
+#include "platform/sdl/letterbox.h"
+#include "platform/sdl/midi_file.h"
+#include "platform/sdl/working_directory.h"
+#include "platform/windows_api.h"
+
+using namespace std::string_view_literals;
+namespace fs = std::filesystem;
+
+namespace {
+
+// Two tracks of 96 ticks a beat: the tempo falls from half a second to one after two beats, and the
+// note ends on the fourth.
+constexpr auto header = "MThd\0\0\0\6\0\1\0\2\0\x60"sv;
+constexpr auto tempoTrack = "MTrk\0\0\0\x0C\x81\x40\xFF\x51\x03\x0F\x42\x40\0\xFF\x2F\0"sv;
+constexpr auto noteTrack = "MTrk\0\0\0\x0C\0\x90\x3C\x40\x83\0\x3C\0\0\xFF\x2F\0"sv;
+
+std::optional<double> secondsOf(const std::string& file) {
+    return midiSeconds({reinterpret_cast<const std::uint8_t*>(file.data()), file.size()});
+}
+
+std::string piece() {
+    return std::string(header) + std::string(tempoTrack) + std::string(noteTrack);
+}
+
+std::string changed(std::string text, std::size_t at, char byte) {
+    text.at(at) = byte;
+    return text;
+}
+
+TEST(MidiFile, LastsUntilItsLastTrackEndsUnderAllTempoChanges) {
+    EXPECT_DOUBLE_EQ(secondsOf(piece()).value_or(-1.0), 2 * 0.5 + 2 * 1.0);
+    const std::string otherChunk = std::string(header) + "XFIH" + std::string("\0\0\0\2ab", 6);
+    const std::string rest = std::string(tempoTrack) + std::string(noteTrack);
+    EXPECT_DOUBLE_EQ(secondsOf(otherChunk + rest).value_or(-1.0), 3.0);
+}
+
+TEST(MidiFile, IsRefusedWhenItBeginsLikeMusicAndGoesOnAsJunk) {
+    const std::string good = piece();
+    for (std::size_t length = 0; length < good.size(); ++length)
+        EXPECT_FALSE(secondsOf(good.substr(0, length))) << length << " bytes";
+    EXPECT_FALSE(secondsOf("MThd" + std::string("\0\0\0\6", 4) + std::string(300, 'j')));
+    EXPECT_FALSE(secondsOf(changed(good, 9, 2))) << "songs in a row";
+    EXPECT_FALSE(secondsOf(changed(good, 12, '\xE8'))) << "film time";
+    EXPECT_FALSE(secondsOf(changed(good, header.size() + tempoTrack.size() + 10, '\x95')))
+        << "a status in the place of a note's number";
+    const auto silent = "MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\4\0\xFF\x2F\0"sv;
+    EXPECT_FALSE(secondsOf(std::string(silent))) << "it would end at once, for ever";
+}
+
+TEST(Letterbox, KeepsTheShapeInTheMiddleOfAnyWindow) {
+    struct Case {
+        int width, height;
+        std::array<int, 4> picture; // x, y, width, height
+    };
+    for (const Case& c : {Case{640, 480, {0, 0, 640, 480}}, Case{1920, 1080, {240, 0, 1440, 1080}},
+                          Case{700, 900, {0, 187, 700, 525}}, Case{0, 0, {0, 0, 0, 0}}}) {
+        const PixelRect r = letterbox(c.width, c.height);
+        EXPECT_EQ((std::array{r.x, r.y, r.width, r.height}), c.picture) << c.width;
+    }
+}
+
+TEST(KeyMap, GoesByLabelForLettersAndByPlaceForTheRest) {
+    struct Case {
+        const char* what;
+        SDL_Scancode place;
+        SDL_Keycode label;
+        bool numberLock;
+        int key;
+    };
+    for (const Case& c : {
+             Case{"A on a French keyboard", SDL_SCANCODE_Q, SDLK_a, false, 'A'},
+             Case{"its comma, where others have M", SDL_SCANCODE_M, SDLK_COMMA, false, 188},
+             Case{"its 1, labelled &", SDL_SCANCODE_1, SDLK_AMPERSAND, false, '1'},
+             Case{"Cyrillic, in the place of D", SDL_SCANCODE_D, 0x432, false, 'D'},
+             Case{"right Shift", SDL_SCANCODE_RSHIFT, SDLK_RSHIFT, false, VK_SHIFT},
+             Case{"keypad 9", SDL_SCANCODE_KP_9, SDLK_KP_9, true, 105},
+             Case{"keypad 4, number lock off", SDL_SCANCODE_KP_4, SDLK_KP_4, false, VK_LEFT},
+             Case{"keypad point", SDL_SCANCODE_KP_PERIOD, SDLK_KP_PERIOD, true, 110},
+             Case{"F13", SDL_SCANCODE_F13, SDLK_F13, false, VK_F12 + 1},
+             Case{"a key without a code", SDL_SCANCODE_MUTE, SDLK_MUTE, false, 0},
+         })
+        EXPECT_EQ(virtualKeyFor(c.place, c.label, c.numberLock), c.key) << c.what;
+}
+
+TEST(WorkingDirectory, LinksTheDataAndKeepsWhatIsThePlayersOwn) {
+    const fs::path root = fs::temp_directory_path() / "glorbix_platform_test";
+    fs::remove_all(root);
+    for (const char* folder : {"data/maps", "data/graphics", "data/sounds", "own/sounds"})
+        fs::create_directories(root / folder);
+    EXPECT_FALSE(findGameData({root / "none", root / "data"})) << "no list of levels yet";
+    std::ofstream(root / "data/maps/maplist.dat") << "levels=0";
+    EXPECT_EQ(findGameData({root / "none", root / "data"}), root / "data");
+
+    fs::create_directory_symlink(root / "moved", root / "own/maps");
+    std::string why;
+    ASSERT_TRUE(linkGameData(root / "data", root / "own", why)) << why;
+    EXPECT_EQ(fs::read_symlink(root / "own/maps"), root / "data/maps");
+    EXPECT_EQ(fs::read_symlink(root / "own/graphics"), root / "data/graphics");
+    EXPECT_FALSE(fs::is_symlink(root / "own/sounds"));
+    EXPECT_FALSE(linkGameData(root / "data", root / "none", why));
+    EXPECT_NE(why.find("none/maps"), std::string::npos) << why;
+    fs::remove_all(root);
+}
+
+LRESULT CALLBACK leaveAlone(HWND window, UINT message, WPARAM, LPARAM) {
+    return message == WM_CREATE ? 0 : DefWindowProcA(window, message, 0, 0);
+}
+
+TEST(Messages, ComeOutPostedFirstThenQuitInputPaintAndTimers) {
+    SDL_SetHint(SDL_HINT_VIDEODRIVER, "offscreen");
+    WNDCLASSA windowClass = {};
+    windowClass.lpszClassName = "Test";
+    windowClass.lpfnWndProc = leaveAlone;
+    ASSERT_NE(RegisterClassA(&windowClass), 0);
+    const HWND window =
+        CreateWindowExA(0, "Test", "", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_NE(window, nullptr);
+    ShowWindow(window, SW_SHOW);
+    SetTimer(window, 1, 10, nullptr);
+    SDL_Delay(35); // due three times, told once
+    SDL_Event key = {};
+    key.type = SDL_KEYDOWN;
+    key.key.keysym = {SDL_SCANCODE_J, SDLK_j, KMOD_NONE, 0};
+    SDL_PushEvent(&key);
+    PostQuitMessage(7);
+    PostMessageA(window, WM_USER, 0, 0);
+    std::vector<UINT> order;
+    MSG message;
+    while (order.size() < 9 && PeekMessageA(&message, window, 0, 0, PM_REMOVE)) {
+        order.push_back(message.message);
+        DispatchMessageA(&message);
+    }
+    EXPECT_EQ(order, (std::vector<UINT>{WM_USER, WM_QUIT, WM_KEYDOWN, WM_PAINT, WM_TIMER}));
+    DefWindowProcA(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(GetDC(window), nullptr) << "the window is gone";
+}
+
+} // namespace
