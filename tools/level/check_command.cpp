@@ -127,6 +127,7 @@ int explainList() {
 int checkList() {
     if (!loadLevelList()) return explainList();
     std::vector<std::string> files;
+    files.reserve(static_cast<std::size_t>(Game.levelCount));
     for (std::int32_t i = 0; i < Game.levelCount; ++i)
         files.emplace_back(Game.levelFiles[i].get());
     std::printf("%s: good, %zu levels\n", levelListFile, files.size());

@@ -55,7 +55,7 @@ void showProgress(float y) {
 
 Drive driveAlone(const Order& order) {
     Driver driver(level);
-    const Drive drive = driveToEnd(order.ticksPerSecond, [&](float dt) {
+    Drive drive = driveToEnd(order.ticksPerSecond, [&](float dt) {
         showProgress(marble.position.y);
         return order.holdUp ? upKey : driver.keysFor(dt);
     });

@@ -1,6 +1,6 @@
 #include "tools/level/level_run.h"
 
-#include <cstring>
+#include <cstdio>
 
 #include "app/game.h"
 #include "app/level_run.h"
@@ -21,8 +21,8 @@ void listLevel(const char* levelFile) {
     Game.levelTimes.reset(new float[levelsInRun]{levelTime, levelTime});
     Game.levelFiles.reset(new std::unique_ptr<char[]>[levelsInRun]);
     for (int i = 0; i < levelsInRun; ++i) {
-        Game.levelFiles[i].reset(new char[std::strlen(levelFile) + 1]);
-        std::strcpy(Game.levelFiles[i].get(), levelFile);
+        Game.levelFiles[i].reset(new char[LEVEL_NAME_CAPACITY]);
+        std::snprintf(Game.levelFiles[i].get(), LEVEL_NAME_CAPACITY, "%s", levelFile);
     }
     Game.levelNumber = levelsInRun - 1;
 }
