@@ -16,6 +16,13 @@ float spacings(float units) {
     return static_cast<float>(units * spacingsPerUnit);
 }
 
+// From a point to a hole's centre, all in spacings.
+double squaredDistance(const Hole& hole, float xs, float ys) {
+    const double dx = xs - hole.x * spacingsPerUnit;
+    const float dy = static_cast<float>(ys - hole.y * spacingsPerUnit);
+    return dx * dx + static_cast<double>(dy) * dy;
+}
+
 } // namespace
 
 float Level::heightAt(float x, float y) const {
@@ -25,10 +32,7 @@ float Level::heightAt(float x, float y) const {
     for (std::int32_t i = 0; i < holeCount; ++i) {
         const Hole& hole = holes[i];
         const float w = spacings(hole.width);
-        const double dx = xs - hole.x * spacingsPerUnit;
-        const float dy = static_cast<float>(ys - hole.y * spacingsPerUnit);
-        const double r =
-            std::sqrt(dx * dx + static_cast<double>(dy) * dy + static_cast<double>(w) * w);
+        const double r = std::sqrt(squaredDistance(hole, xs, ys) + static_cast<double>(w) * w);
         sum += static_cast<double>(w) * hole.depth / r;
     }
     return static_cast<float>(sum);
@@ -42,9 +46,7 @@ float Level::holeAt(float x, float y) const {
         const Hole& hole = holes[i];
         if (!(hole.depth > 0.0F)) continue;
         const float w = spacings(hole.width);
-        const double dx = xs - hole.x * spacingsPerUnit;
-        const float dy = static_cast<float>(ys - hole.y * spacingsPerUnit);
-        const double d = std::sqrt(dx * dx + static_cast<double>(dy) * dy);
+        const double d = std::sqrt(squaredDistance(hole, xs, ys));
         if (d * unitsPerSpacing < nearest) nearest = static_cast<float>(d * unitsPerSpacing);
         if (d <= catchRadiusInWidths * w) return static_cast<float>(w * unitsPerSpacing);
     }
