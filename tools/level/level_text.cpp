@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -21,15 +23,16 @@ std::string quoted(const std::string& text) {
 
 bool isInteger(const std::string& text) {
     char* end = nullptr;
-    std::strtoll(text.c_str(), &end, 0);
-    return !text.empty() && *end == '\0';
+    const long long value = std::strtoll(text.c_str(), &end, 0);
+    const bool fits = value >= INT32_MIN && value <= UINT32_MAX;
+    return !text.empty() && *end == '\0' && fits;
 }
 
 bool isDecimal(const std::string& text) {
     char* end = nullptr;
-    std::strtod(text.c_str(), &end);
+    const double value = std::strtod(text.c_str(), &end);
     return text.find_first_not_of("+-0123456789.eE") == std::string::npos && !text.empty() &&
-           *end == '\0';
+           *end == '\0' && std::isfinite(static_cast<float>(value));
 }
 
 bool isKeyWithWord(const std::string& word) {
