@@ -16,11 +16,13 @@ gameFolder=''
 displayProcess=''
 gameProcess=''
 
+# Without -noreset the server would start over whenever its last client leaves, as each look at the
+# windows is while the game has not connected yet.
 startDisplay() {
     local pipe
     pipe=$(mktemp -u)
     mkfifo "$pipe"
-    Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp 3> "$pipe" > /dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp -noreset 3> "$pipe" > /dev/null 2>&1 &
     displayProcess=$!
     read -r -t 20 gameDisplay < "$pipe" || {
         rm -f "$pipe"
