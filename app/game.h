@@ -1,11 +1,13 @@
 // The game-wide state, in one record that every part of the game reads and writes directly.
 //
-// The values beside the fields are those at program start; `Game = GameRecord{}` starts afresh.
-// The record is about 2 MB (two pictures), so it lives as a global and is assigned, not copied.
+// The values beside the fields are those at program start. The record is about 2 MB (two pictures)
+// and could overflow a stack, so there is only the global one, which is never copied or moved.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "platform/windows_api.h"
 
@@ -41,12 +43,20 @@ inline constexpr int screenHeight = 480; // pixels
 struct GameRecord {
     // Defined in app/globals.cpp, or the program file would carry two empty pictures.
     GameRecord();
+    GameRecord(const GameRecord&) = delete;
+    GameRecord& operator=(const GameRecord&) = delete;
 
     // No level runs any more: ticks only draw.
     void endLevel();
 
     // No level of the run is finished.
     void clearLevelTimes();
+
+    // The times of all levels of the run, and that of the level being played.
+    std::span<float> allLevelTimes() const {
+        return {levelTimes.get(), static_cast<std::size_t>(levelCount)};
+    }
+    float& timeOfLevel() const { return levelTimes[static_cast<std::size_t>(levelNumber - 1)]; }
 
     // Screens and menu
     Screen screen = Screen::Title;

@@ -33,7 +33,7 @@ void GameRecord::endLevel() {
 }
 
 void GameRecord::clearLevelTimes() {
-    for (std::int32_t i = 0; i < levelCount; ++i) {
-        levelTimes[i] = levelTime;
+    for (float& time : allLevelTimes()) {
+        time = levelTime;
     }
 }

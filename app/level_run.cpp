@@ -32,7 +32,8 @@ void beginRun() {
 }
 
 void loadLevel() {
-    if (!level.load(Game.levelFiles[Game.levelNumber - 1].get(), marble)) {
+    const auto index = static_cast<std::size_t>(Game.levelNumber - 1);
+    if (!level.load(Game.levelFiles[index].get(), marble)) {
         MessageBoxA(Game.window, "Unable to initialize map", fileErrorCaption, MB_OK);
         PostQuitMessage(0);
     }

@@ -103,7 +103,7 @@ void drawStatistics() {
 
 // At the goal the clock stops for the eye, while it runs on towards the next level.
 float shownClock() {
-    if (Game.levelDone) return levelTime - Game.levelTimes[Game.levelNumber - 1];
+    if (Game.levelDone) return levelTime - Game.timeOfLevel();
     return std::clamp(Game.clock, 0.0F, levelTime);
 }
 

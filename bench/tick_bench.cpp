@@ -20,13 +20,12 @@ constexpr int manyHoles = 160;
 void digHoles(int count) {
     level.holes.reset(new (std::nothrow) Hole[static_cast<std::size_t>(count)]);
     level.holeCount = count;
-    for (int i = 0; i < count; ++i) {
-        const auto along = static_cast<float>(i) / static_cast<float>(count);
-        const float side = i % 2 == 0 ? -1.0F : 1.0F;
-        level.holes[i].x = side * 600.0F;
-        level.holes[i].y = -5900.0F + 11800.0F * along;
-        level.holes[i].width = 60.0F;
-        level.holes[i].depth = side * 120.0F;
+    float side = -1.0F;
+    float along = 0.0F;
+    for (Hole& hole : level.allHoles()) {
+        hole = {side * 600.0F, -5900.0F + 11800.0F * along, 60.0F, side * 120.0F};
+        side = -side;
+        along += 1.0F / static_cast<float>(count);
     }
 }
 
@@ -37,7 +36,7 @@ void buildMesh() {
     for (int i = 0; i < groundVertices; ++i) {
         const auto x = static_cast<float>((i % groundColumns - groundCentreColumn) * groundSpacing);
         const auto y = static_cast<float>((i / groundColumns - groundCentreRow) * groundSpacing);
-        level.groundPoints[i].set(x, y, level.heightAt(x, y));
+        level.groundPoints[static_cast<std::size_t>(i)].set(x, y, level.heightAt(x, y));
     }
 }
 

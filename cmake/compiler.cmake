@@ -4,7 +4,8 @@ add_library(glorbix_compiler INTERFACE)
 # The marble must roll alike on every machine: no multiply-add is contracted behind our back.
 target_compile_options(glorbix_compiler INTERFACE -ffp-contract=off)
 target_compile_options(glorbix_compiler INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${GLORBIX_WERROR}>:-Werror>)
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+  $<$<BOOL:${GLORBIX_WERROR}>:-Werror>)
 
 # GCC 12 sees overlaps that are not there in the addition of strings (its bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)

@@ -67,8 +67,8 @@ bool replaceTable(const path& file) {
 
 float totalOfRun() {
     float total = 0.0F;
-    for (std::int32_t i = 0; i < Game.levelCount; ++i) {
-        total += Game.levelTimes[i];
+    for (const float time : Game.allLevelTimes()) {
+        total += time;
     }
     return total;
 }

@@ -32,10 +32,10 @@ void drawRunLabels() {
 float drawRunTimes() {
     float total = 0.0F;
     font.setPosition(runTimesX, runTop);
-    for (std::int32_t i = 0; i < Game.levelCount; ++i) {
+    for (const float time : Game.allLevelTimes()) {
         font.drawText("\n");
-        font.drawNumber(Game.levelTimes[i], 2);
-        total += Game.levelTimes[i];
+        font.drawNumber(time, 2);
+        total += time;
     }
     return total;
 }

@@ -19,15 +19,15 @@ inline constexpr float normalText = 1.0F;
 inline constexpr float smallText = 0.3939394F; // 13/33: lines 13 pixels apart
 inline constexpr int smallLine = 13;           // pixels
 
-// The one font; as a global it starts zeroed, so that characters without metrics have no size.
 struct Font {
     // Pixels of the glyphs in the picture, by character code, rows counted from its top.
-    float glyphLeft[256];
-    float glyphRight[256];
-    float glyphTop[256];
-    float glyphBottom[256];
+    // Characters without metrics have no size.
+    float glyphLeft[256] = {};
+    float glyphRight[256] = {};
+    float glyphTop[256] = {};
+    float glyphBottom[256] = {};
 
-    std::uint8_t imageLevels[fontLevels][fontSize * fontSize * 3]; // grey, red byte counts
+    std::uint8_t imageLevels[fontLevels][fontSize * fontSize * 3] = {}; // grey, red byte counts
     std::int32_t firstChar; // the drawable range of character codes; -1 until loaded
     std::int32_t lastChar;
     bool loaded;      // text is drawn only once this is set

@@ -5,8 +5,10 @@
 // depths (z points down), and the course spans x -750..720 and y -6000..5970.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "sim/vector.h"
 
@@ -61,6 +63,8 @@ struct Level {
     bool load(const char* fileName, Marble& playerMarble);
 
     std::uint32_t getFogColourCode() const { return fogColourCode; }
+
+    std::span<Hole> allHoles() const { return {holes.get(), static_cast<std::size_t>(holeCount)}; }
 
     // The ground field (sim/ground_field.cpp). Each question sums over all holes; x and y are
     // world units. Where there are no holes the ground is level at height 0.

@@ -128,8 +128,7 @@ bool readHoleCount(TokenReader& reader, Level& into) {
 }
 
 bool readHoles(TokenReader& reader, Level& into) {
-    for (std::int32_t i = 0; i < into.holeCount; ++i) {
-        Hole& hole = into.holes[i];
+    for (Hole& hole : into.allHoles()) {
         if (!reader.readFloat(hole.x) || !reader.readFloat(hole.y) ||
             !reader.readFloat(hole.width) || !reader.readFloat(hole.depth)) {
             return false;
@@ -177,7 +176,7 @@ bool allocateMesh(Level& into) {
 void buildMesh(Level& into) {
     for (int c = 0; c < groundColumns; ++c) {
         for (int r = 0; r < groundRows; ++r) {
-            const int index = r * groundColumns + c;
+            const auto index = static_cast<std::size_t>(r * groundColumns + c);
             const int column = c - groundCentreColumn;
             const int row = r - groundCentreRow;
             const float x = static_cast<float>(column * groundSpacing);

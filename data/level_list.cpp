@@ -39,7 +39,8 @@ bool loadLevelList() {
     reader.readInteger(Game.levelCount);
     if (Game.levelCount <= 0 || Game.levelCount > mostLevels) return false;
     if (!allocateList(Game.levelCount)) return false;
-    for (std::int32_t i = 0; i < Game.levelCount; ++i) {
+    const auto count = static_cast<std::size_t>(Game.levelCount);
+    for (std::size_t i = 0; i < count; ++i) {
         Game.levelTimes[i] = levelTime;
         if (!readLevelName(reader, Game.levelFiles[i])) return false;
     }

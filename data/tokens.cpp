@@ -2,7 +2,11 @@
 
 #include <cctype>
 #include <charconv>
+#include <clocale>
 #include <cmath>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iomanip>
 #include <limits>
@@ -41,20 +45,38 @@ bool parseInteger(const char* token, std::int64_t& value) {
     return true;
 }
 
-// A number nearer to 0 than any that the parser knows; too large ones have no such exponent.
-bool isTiny(const char* text) {
-    const char* exponent = std::strpbrk(text, "eE");
-    return exponent != nullptr && exponent[1] == '-';
+// Steps over digits; how many there were.
+std::size_t takeDigits(const char*& text) {
+    const std::size_t count = std::strspn(text, "0123456789");
+    text += count;
+    return count;
 }
 
-// Narrower than the library's parser, which would take "inf", "nan" and a second sign.
+// Digits, optional point and fraction, optional exponent, and nothing else.
+bool isDecimal(const char* text) {
+    std::size_t digits = takeDigits(text);
+    if (*text == '.') digits += takeDigits(++text);
+    if (digits == 0) return false;
+    if (*text == 'e' || *text == 'E') {
+        takeSign(++text);
+        if (takeDigits(text) == 0) return false;
+    }
+    return *text == '\0';
+}
+
+// The library's parser takes the decimal point of the current locale. Its std::from_chars, which
+// takes none, is not everywhere.
+double convertDecimal(std::string text) {
+    const std::size_t point = text.find('.');
+    if (point != std::string::npos) text.replace(point, 1, std::localeconv()->decimal_point);
+    return std::strtod(text.c_str(), nullptr);
+}
+
+// A number too near to 0 for a float is 0.
 bool parseFloat(const char* token, float& value) {
     const bool negative = takeSign(token);
-    if (std::strspn(token, "0123456789.") == 0) return false;
-    const char* end = token + std::strlen(token);
-    double magnitude = 0.0;
-    const auto [stop, error] = std::from_chars(token, end, magnitude);
-    if (stop != end || (error != std::errc() && !isTiny(token))) return false;
+    if (!isDecimal(token)) return false;
+    const double magnitude = convertDecimal(token);
     value = static_cast<float>(negative ? -magnitude : magnitude);
     return !std::isinf(value);
 }

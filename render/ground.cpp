@@ -43,8 +43,8 @@ struct Quadrant {
     int columnStep; // +1 right, -1 left
 };
 
-int indexOf(int row, int column) {
-    return row * groundColumns + column;
+std::size_t indexOf(int row, int column) {
+    return static_cast<std::size_t>(row * groundColumns + column);
 }
 
 void setGroundState(const Level& ground, bool fogOn) {
@@ -69,13 +69,13 @@ void setGroundState(const Level& ground, bool fogOn) {
 }
 
 // Projects a vertex on its first use in this call: NDC x and y, and the inverse depth.
-void project(GroundWalk& walk, int index) {
-    if (walk.projected[static_cast<std::size_t>(index)]) return;
+void project(GroundWalk& walk, std::size_t index) {
+    if (walk.projected[index]) return;
     const Vector3 q = walk.rotation * (walk.ground.groundPoints[index] - walk.eye);
     walk.ground.groundScreen[index].set(static_cast<float>(q.x * focalX / q.z),
                                         static_cast<float>(q.y * focalY / q.z),
                                         static_cast<float>(1.0 / q.z));
-    walk.projected[static_cast<std::size_t>(index)] = true;
+    walk.projected[index] = true;
 }
 
 void projectCorners(GroundWalk& walk, int row, int column) {
@@ -105,14 +105,14 @@ bool rowScanGoesOn(const GroundWalk& walk, Quadrant quadrant, int row, int colum
     return screen[indexOf(row, column)].y > -1.0F || screen[indexOf(row, column + 1)].y > -1.0F;
 }
 
-void putVertex(const Level& ground, int index) {
+void putVertex(const Level& ground, std::size_t index) {
     const Vector3& texture = ground.groundTexCoords[index];
     const Vector3& screen = ground.groundScreen[index];
     glTexCoord2f(texture[0], texture[1]);
     glVertex3f(screen.x, screen.y, screen.z);
 }
 
-void drawTriangle(GroundWalk& walk, int first, int second, int third) {
+void drawTriangle(GroundWalk& walk, std::size_t first, std::size_t second, std::size_t third) {
     glBegin(GL_TRIANGLES);
     putVertex(walk.ground, first);
     putVertex(walk.ground, second);
@@ -122,8 +122,8 @@ void drawTriangle(GroundWalk& walk, int first, int second, int third) {
 }
 
 void drawCell(GroundWalk& walk, int row, int column) {
-    const int corner = indexOf(row, column);
-    const int opposite = indexOf(row + 1, column + 1);
+    const std::size_t corner = indexOf(row, column);
+    const std::size_t opposite = indexOf(row + 1, column + 1);
     drawTriangle(walk, corner, indexOf(row + 1, column), opposite);
     drawTriangle(walk, corner, opposite, indexOf(row, column + 1));
 }

@@ -29,8 +29,7 @@ float Level::heightAt(float x, float y) const {
     const float xs = spacings(x);
     const float ys = spacings(y);
     double sum = 0.0;
-    for (std::int32_t i = 0; i < holeCount; ++i) {
-        const Hole& hole = holes[i];
+    for (const Hole& hole : allHoles()) {
         const float w = spacings(hole.width);
         const double r = std::sqrt(squaredDistance(hole, xs, ys) + static_cast<double>(w) * w);
         sum += static_cast<double>(w) * hole.depth / r;
@@ -42,8 +41,7 @@ float Level::holeAt(float x, float y) const {
     const float xs = spacings(x);
     const float ys = spacings(y);
     float nearest = 100000.0F;
-    for (std::int32_t i = 0; i < holeCount; ++i) {
-        const Hole& hole = holes[i];
+    for (const Hole& hole : allHoles()) {
         if (!(hole.depth > 0.0F)) continue;
         const float w = spacings(hole.width);
         const double d = std::sqrt(squaredDistance(hole, xs, ys));

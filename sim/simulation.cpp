@@ -85,7 +85,7 @@ void checkBack() {
 void checkGoal() {
     if (!(marble.getPosition().y > goalLine) || Game.levelDone) return;
     playEffect(goalSound);
-    Game.levelTimes[Game.levelNumber - 1] = levelTime - Game.clock;
+    Game.timeOfLevel() = levelTime - Game.clock;
     Game.levelDone = 1;
     Game.levelEndAt = Game.clock - 1.0F;
 }

@@ -4,7 +4,15 @@
 // so a ground height is a depth and "up" is -z. Nothing here checks a range or allocates.
 #pragma once
 
+#include <cfloat>
 #include <cmath>
+
+// With x87 arithmetic, for one, recorded drives would not end at the same time as elsewhere.
+static_assert(
+    FLT_EVAL_METHOD == 0,
+    "float and double expressions must be evaluated in their own precision, or the marble "
+    "rolls differently from machine to machine; on 32-bit x86 compile with -msse2 "
+    "-mfpmath=sse");
 
 // A position, direction or force. A default-constructed vector is not set.
 struct Vector3 {

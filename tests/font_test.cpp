@@ -100,10 +100,11 @@ TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
     ASSERT_TRUE(font.load(fontBaseName, fontMetricsFile));
     EXPECT_EQ(font.firstChar, 33);
     EXPECT_EQ(font.lastChar, 200);
-    EXPECT_EQ(font.glyphLeft['A'], 1);
-    EXPECT_EQ(font.glyphTop['A'], 2);
-    EXPECT_EQ(font.glyphRight['A'], 3);
-    EXPECT_EQ(font.glyphBottom['A'], 4);
-    EXPECT_EQ(font.glyphLeft['5'], 5.5F);
+    constexpr int letter = 'A', digit = '5';
+    EXPECT_EQ(font.glyphLeft[letter], 1);
+    EXPECT_EQ(font.glyphTop[letter], 2);
+    EXPECT_EQ(font.glyphRight[letter], 3);
+    EXPECT_EQ(font.glyphBottom[letter], 4);
+    EXPECT_EQ(font.glyphLeft[digit], 5.5F);
     EXPECT_EQ(font.textWidth("\xC3"), 10); // codes from 128 on count as negative
 }

@@ -53,7 +53,8 @@ TEST_F(Damaged, FilesNeverBringTheGameDown) {
     feed(levelListFile, [] {
         if (!loadLevelList()) return;
         ASSERT_GT(Game.levelCount, 0);
-        for (int i = 0; i < Game.levelCount; ++i) EXPECT_NE(Game.levelFiles[i][0], '\0');
+        const auto count = static_cast<std::size_t>(Game.levelCount);
+        for (std::size_t i = 0; i < count; ++i) EXPECT_NE(Game.levelFiles[i][0], '\0');
     });
     feed(bestTimesFile, [] {
         EXPECT_TRUE(loadBestTimes());

@@ -39,7 +39,7 @@ struct GroundOnScreen : Story {
 
 // Where a vertex of the mesh lies on the screen, with its inverse depth, in double precision.
 GlCall project(const View& view, int row, int column) {
-    const Vector3 p = level.groundPoints[row * 50 + column];
+    const Vector3 p = level.groundPoints[static_cast<std::size_t>(row * 50 + column)];
     const double x = p.x - static_cast<double>(view.eye.x),
                  y = p.y - static_cast<double>(view.eye.y),
                  z = p.z - static_cast<double>(view.eye.z);

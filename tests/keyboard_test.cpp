@@ -58,11 +58,12 @@ TEST_F(Keyboard, EscapeOpensTheMenuAndGoesBackInIt) {
 }
 
 TEST_F(Keyboard, EnterRightAndLeftChooseALine) {
+    using Flag = std::uint8_t GameRecord::*;
     const struct {
         int item;
-        int lastKey;                    // that the choice leaves behind, 0: the chosen key itself
-        int next;                       // the selected line afterwards
-        std::uint8_t GameRecord::*flag; // that it toggles
+        int lastKey; // that the choice leaves behind, 0: the chosen key itself
+        int next;    // the selected line afterwards
+        Flag flag;   // that it toggles
     } cases[] = {{MenuItem::Options, 0, 5, nullptr},
                  {MenuItem::Statistics, VK_F2, 5, &GameRecord::showStatistics},
                  {MenuItem::Fog, VK_F5, 6, &GameRecord::fogOn},

@@ -40,7 +40,7 @@ TEST_F(LevelFile, FillsTheLevelAndColoursTheMarble) {
 TEST_F(LevelFile, BuildsTheMeshOverTheHoles) {
     ASSERT_TRUE(load("holecount= 1 .data 0 0 30 100 .end"));
     const auto expectVertex = [](int column, int row, float x, float y, double s, double t) {
-        const int i = row * 50 + column;
+        const auto i = static_cast<std::size_t>(row * 50 + column);
         expectVector(level.groundPoints[i], x, y, level.heightAt(x, y), 0);
         EXPECT_EQ(level.groundTexCoords[i].x, s);
         EXPECT_EQ(level.groundTexCoords[i].y, t);

@@ -57,7 +57,8 @@ void coverDesktop() {
 void becomeWindow() {
     const int scale = windowScale();
     SDL_SetWindowSize(window.sdl, displayWidth * scale, displayHeight * scale);
-    const int centre = SDL_WINDOWPOS_CENTERED_DISPLAY(displayOfWindow());
+    const auto display = static_cast<unsigned>(displayOfWindow());
+    const auto centre = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(display));
     SDL_SetWindowPosition(window.sdl, centre, centre);
 }
 

@@ -25,7 +25,7 @@ void renew(Object& object) {
 
 void startAfresh() {
     machine = MachineRecord{};
-    Game = GameRecord{};
+    renew(Game);
     renew(viewFrame);
     renew(level);
     renew(marble);

@@ -30,7 +30,7 @@ struct Findings {
 };
 
 std::string holeName(int index) {
-    const Hole& hole = level.holes[index];
+    const Hole& hole = level.allHoles()[static_cast<std::size_t>(index)];
     char text[120];
     std::snprintf(text, sizeof text, "hole %d (%g %g %g %g)", index + 1,
                   static_cast<double>(hole.x), static_cast<double>(hole.y),
@@ -46,7 +46,7 @@ double colourDistance(std::uint32_t a, std::uint32_t b) {
 }
 
 void checkHole(int index, Findings& findings) {
-    const Hole& hole = level.holes[index];
+    const Hole& hole = level.allHoles()[static_cast<std::size_t>(index)];
     if (!(hole.width > 0.0F)) findings.add(holeName(index) + " has no width above 0");
     if (hole.depth == 0.0F) findings.add(holeName(index) + " has the depth 0 and does nothing");
     if (!(hole.depth > 0.0F)) return;
@@ -127,8 +127,9 @@ int explainList() {
 int checkList() {
     if (!loadLevelList()) return explainList();
     std::vector<std::string> files;
-    files.reserve(static_cast<std::size_t>(Game.levelCount));
-    for (std::int32_t i = 0; i < Game.levelCount; ++i)
+    const auto count = static_cast<std::size_t>(Game.levelCount);
+    files.reserve(count);
+    for (std::size_t i = 0; i < count; ++i)
         files.emplace_back(Game.levelFiles[i].get());
     std::printf("%s: good, %zu levels\n", levelListFile, files.size());
     int worst = allWell;

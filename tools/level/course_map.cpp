@@ -202,8 +202,9 @@ Picture drawCourseMap(const Level& course, const std::vector<Vector3>& returnSpo
     mapper.drawRelief();
     mapper.drawBars();
     mapper.drawTicks();
-    for (int i = 0; i < course.holeCount; ++i)
-        mapper.drawHole(course.holes[i]);
+    for (const Hole& hole : course.allHoles()) {
+        mapper.drawHole(hole);
+    }
     mapper.drawLine(line);
     for (const Vector3& spot : returnSpots)
         mapper.drawSpot(spot);

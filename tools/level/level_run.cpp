@@ -20,7 +20,7 @@ void listLevel(const char* levelFile) {
     Game.levelCount = levelsInRun;
     Game.levelTimes.reset(new float[levelsInRun]{levelTime, levelTime});
     Game.levelFiles.reset(new std::unique_ptr<char[]>[levelsInRun]);
-    for (int i = 0; i < levelsInRun; ++i) {
+    for (std::size_t i = 0; i < levelsInRun; ++i) {
         Game.levelFiles[i].reset(new char[LEVEL_NAME_CAPACITY]);
         std::snprintf(Game.levelFiles[i].get(), LEVEL_NAME_CAPACITY, "%s", levelFile);
     }

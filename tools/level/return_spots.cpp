@@ -27,7 +27,7 @@ std::vector<Return> findReturns() {
     const RunState before = runState();
     std::vector<Return> returns;
     for (int i = 0; i < level.holeCount; ++i) {
-        const Hole& hole = level.holes[i];
+        const Hole& hole = level.allHoles()[static_cast<std::size_t>(i)];
         if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) continue;
         for (const float side : {-catchRadii, catchRadii}) {
             Return back = {i, false, {}};

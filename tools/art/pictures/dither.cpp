@@ -46,7 +46,8 @@ void diffuse(Plane& plane, int bits, std::uint8_t* firstByte) {
 } // namespace
 
 Picture ditheredTo565(const Canvas& canvas) {
-    constexpr float Colour::*channels[] = {&Colour::red, &Colour::green, &Colour::blue};
+    using Channel = float Colour::*;
+    constexpr Channel channels[] = {&Colour::red, &Colour::green, &Colour::blue};
     constexpr int bits[] = {5, 6, 5};
     Picture picture(canvas.width, canvas.height);
     for (int c = 0; c < 3; ++c) {
