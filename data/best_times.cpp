@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <system_error>
+#include <sstream>
+#include <string>
 
 #include "app/game.h"
+#include "data/safe_file.h"
 
 namespace {
-
-using std::filesystem::path;
 
 constexpr const char* defaultName = "aaa";
 
@@ -30,39 +28,12 @@ bool readTable() {
     return true;
 }
 
-bool writeTable(std::ofstream& file) {
+std::string textOfTable() {
+    std::ostringstream text;
     for (int i = 0; i < bestTimesShown; ++i) {
-        file << bestTimes.slots[i].time << ' ' << bestTimes.slots[i].name << ' ';
+        text << bestTimes.slots[i].time << ' ' << bestTimes.slots[i].name << ' ';
     }
-    file.close();
-    return file.good();
-}
-
-std::ofstream create(const path& file) {
-    return std::ofstream(file, std::ios::out | std::ios::binary | std::ios::trunc);
-}
-
-// Makes the file where there is none; false when it may not be written.
-bool mayBeWritten(const path& file) {
-    return std::ofstream(file, std::ios::app).is_open();
-}
-
-// Writes the table in full beside its file before it takes its place, so that a full disk costs
-// nothing. In a folder that takes no new file the table is written over.
-bool replaceTable(const path& file) {
-    const path newFile = path(file) += ".new";
-    std::ofstream beside = create(newFile);
-    if (!beside.is_open()) {
-        std::ofstream over = create(file);
-        return writeTable(over);
-    }
-    std::error_code error;
-    if (writeTable(beside)) {
-        std::filesystem::rename(newFile, file, error);
-        if (!error) return true;
-    }
-    std::filesystem::remove(newFile, error);
-    return false;
+    return text.str();
 }
 
 float totalOfRun() {
@@ -101,10 +72,13 @@ bool loadBestTimes() {
 }
 
 bool saveBestTimes() {
-    if (!mayBeWritten(bestTimesFile)) return false;
-    std::error_code error;
-    const path file = std::filesystem::canonical(bestTimesFile, error); // behind a link
-    return !error && replaceTable(file);
+    std::string why;
+    if (replaceFile(bestTimesFile, textOfTable(), why)) {
+        return true;
+    }
+    std::fprintf(stderr, "glorbix: the best times are not saved: %s: %s\n", bestTimesFile,
+                 why.c_str());
+    return false;
 }
 
 int compareBestTimes(const BestTimeEntry& first, const BestTimeEntry& second) {

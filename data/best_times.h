@@ -28,8 +28,8 @@ extern BestTimes bestTimes;
 // the total of a run in which no level was finished. Always true. Needs Game.levelCount.
 bool loadBestTimes();
 
-// Writes the table to its file; false when that fails. The old file stays until the new one is
-// complete.
+// Writes the table to its file. When that fails, says why on standard error and returns false; the
+// old table is then still there.
 bool saveBestTimes();
 
 // 1 when the first entry's time is greater than the second's, otherwise -1; never 0.

@@ -23,6 +23,10 @@ struct Hole {
     float depth = 0.0F; // the well's own height at its centre; only positive depths catch
 };
 
+// A level file with more of them is refused as if memory had run out: with so many, building the
+// mesh takes some ten seconds, and a frame no shorter a time.
+inline constexpr std::int32_t mostHoles = 100'000;
+
 // The ground mesh: vertex (column c, row r) has the index r * groundColumns + c and stands at
 // x = (c - 25) * groundSpacing, y = (r - 200) * groundSpacing.
 inline constexpr int groundColumns = 50;
@@ -59,7 +63,7 @@ struct Level {
     // base name, "fogcolor=" and "marblecolor=" 0xRRGGBB, "holecount=" H, then ".data", H times
     // x y width depth, ".end". It must end directly after its last token.
     //
-    // On failure a message box says why, where there is something to say, and false comes back.
+    // At most `mostHoles` holes. On failure a message box says why, where there is something to say, and false comes back.
     bool load(const char* fileName, Marble& playerMarble);
 
     std::uint32_t getFogColourCode() const { return fogColourCode; }

@@ -28,9 +28,6 @@ constexpr MipChain groundChain = {
 constexpr double texturePerColumn = 0.1875;
 constexpr double texturePerRow = 0.25;
 
-// A count beyond this is refused as if memory had run out.
-constexpr std::int32_t mostHoles = 10'000'000;
-
 enum class Directive { TextureFile, FogColour, MarbleColour, HoleCount, Data, Unknown };
 
 struct DirectiveKey {

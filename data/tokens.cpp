@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <iomanip>
 #include <limits>
 #include <string>
@@ -99,10 +100,9 @@ bool readIntegerAs(TokenReader& reader, T& value) {
 } // namespace
 
 bool TokenReader::open(const char* fileName) {
+    std::error_code error; // a pipe would wait for somebody who writes to it
+    if (!std::filesystem::is_regular_file(fileName, error)) return false;
     stream.open(fileName, std::ios::in | std::ios::binary);
-    stream.peek(); // only this tells a folder from a file
-    if (stream.bad()) return false;
-    stream.clear();
     return stream.is_open();
 }
 

@@ -12,7 +12,7 @@ inline constexpr int tokenCapacity = 256; // bytes: 255 characters and the closi
 struct TokenReader {
     std::ifstream stream;
 
-    // Opens an existing file; it is never created. A folder is no file.
+    // Opens an existing file; it is never created. A folder, a pipe or a device is not a file.
     bool open(const char* fileName);
 
     // One token, zero-terminated. A token of more than 255 characters is refused.

@@ -1,9 +1,31 @@
 // The ten best runs: their file, the place of a new one, its name, their picture.
 #include "data/best_times.h"
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <fstream>
+
 #include "fakes/play.h"
 
 namespace {
+
+namespace fs = std::filesystem;
+
+// A disk that takes a thousand bytes in a file, while it lives.
+struct FullDisk {
+    rlimit before = {};
+
+    FullDisk() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit small = {1000, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
+};
 
 struct TenBest : Story {
     TenBest() {
@@ -27,6 +49,17 @@ struct TenBest : Story {
             pressKey(key);
             tick(0.1);
         }
+    }
+
+    // The reason on standard error.
+    template <class Trouble>
+    static std::string failedSave(const Trouble&) {
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(saveBestTimes());
+        const std::string line = testing::internal::GetCapturedStderr();
+        const std::string start = "glorbix: the best times are not saved: highScore.dat: ";
+        EXPECT_TRUE(line.starts_with(start)) << line;
+        return line.substr(std::min(line.size(), start.size()));
     }
 
     static Lines names() {
@@ -74,29 +107,76 @@ TEST_F(TenBest, StartAfreshWithoutAWholeFile) {
     EXPECT_EQ(names()[9], std::string(255, 'n'));
 }
 
-TEST_F(TenBest, SurviveAFileThatCannotBeWritten) {
-    namespace fs = std::filesystem;
+TEST_F(TenBest, TakeThePlaceOfTheOldFileAsAWhole) {
     const std::string before = readFile("highScore.dat");
+    writeFile("other.dat", "a player's own");
+    fs::create_symlink("other.dat", "highScore.dat.new"); // no save of ours made that
+    fs::permissions("highScore.dat", fs::perms(0640));
+    std::ifstream reader("highScore.dat");
     bestTimes.slots[0].time = 1;
-    fs::create_symlink("/dev/full", "highScore.dat.new"); // no room on the disk
-    EXPECT_FALSE(saveBestTimes());
-    EXPECT_EQ(readFile("highScore.dat"), before);
-    EXPECT_FALSE(fs::exists(fs::symlink_status("highScore.dat.new")));
+    ASSERT_TRUE(saveBestTimes());
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), before);
+    EXPECT_EQ(readFile("other.dat"), "a player's own");
+    EXPECT_EQ(fs::status("highScore.dat").permissions(), fs::perms(0640));
 
-    fs::create_directory("highScore.dat.new"); // no room beside the table
-    EXPECT_TRUE(saveBestTimes());
-    EXPECT_TRUE(readFile("highScore.dat").starts_with("1 aaa 110 bbb "));
+    writeFile("highScore.dat.new", std::string(9000, '9')); // a save that was killed
+    fs::create_directory("kept");
+    fs::rename("highScore.dat", "kept/a.dat"); // the player keeps it elsewhere
+    fs::create_symlink("kept/a.dat", "highScore.dat");
+    for (const float time : {2.0F, 3.0F}) {
+        bestTimes.slots[0].time = time;
+        ASSERT_TRUE(saveBestTimes());
+        EXPECT_TRUE(fs::is_symlink("highScore.dat"));
+        EXPECT_TRUE(readFile("kept/a.dat").starts_with(std::to_string(int(time)) + " aaa "));
+        fs::remove("kept/a.dat"); // the link is left, and makes the file again
+    }
+    EXPECT_TRUE(fs::is_empty("kept"));
+}
+
+TEST_F(TenBest, AreWrittenOverWhereNoFileCanBeMade) {
+    fs::create_directory("highScore.dat.new");
+    fs::permissions("highScore.dat", fs::perms(0640));
+    for (const std::string& name : {std::string(200, 'n'), std::string("b")}) {
+        std::snprintf(bestTimes.slots[9].name, tokenCapacity, "%s", name.c_str());
+        ASSERT_TRUE(saveBestTimes());
+        EXPECT_TRUE(readFile("highScore.dat").ends_with("180 iii 190 " + name + " "));
+    }
+    EXPECT_EQ(fs::status("highScore.dat").permissions(), fs::perms(0640));
+}
+
+TEST_F(TenBest, LoseNothingOnAFullDisk) {
+    const std::string before = readFile("highScore.dat");
+    for (BestTimeEntry& entry : bestTimes.slots)
+        std::snprintf(entry.name, tokenCapacity, "%s", std::string(250, 'n').c_str());
+    for (const bool roomForAFile : {true, false}) {
+        if (!roomForAFile) fs::create_directory("highScore.dat.new");
+        EXPECT_EQ(failedSave(FullDisk()), "File too large\n");
+        EXPECT_EQ(readFile("highScore.dat"), before);
+        EXPECT_NE(fs::exists("highScore.dat.new"), roomForAFile);
+    }
     fs::remove("highScore.dat.new");
-
-    fs::rename("highScore.dat", "kept.dat");
-    fs::create_symlink("kept.dat", "highScore.dat"); // the player keeps it elsewhere
-    bestTimes.slots[0].time = 2;
-    EXPECT_TRUE(saveBestTimes());
-    EXPECT_TRUE(fs::is_symlink("highScore.dat") && readFile("kept.dat").starts_with("2 aaa "));
-
     fs::remove("highScore.dat");
-    fs::create_directory("highScore.dat");
-    EXPECT_FALSE(saveBestTimes());
+    EXPECT_EQ(failedSave(FullDisk()), "File too large\n");
+    EXPECT_FALSE(fs::exists("highScore.dat") || fs::exists("highScore.dat.new"));
+}
+
+TEST_F(TenBest, GoOnWhereTheirNameStandsForSomethingElse) {
+    alarm(10); // a pipe must not keep the game waiting
+    const std::function<void()> makers[] = {
+        [] { mkfifo("highScore.dat", 0600); },
+        [] { fs::create_directory("highScore.dat"); },
+        [] { fs::create_symlink("/dev/full", "highScore.dat"); },
+        [] { fs::create_symlink("highScore.dat", "highScore.dat"); },
+    };
+    for (const auto& make : makers) {
+        fs::remove("highScore.dat");
+        make();
+        machine.lines.clear();
+        EXPECT_TRUE(loadBestTimes());
+        EXPECT_EQ(boxes(), Lines{"Creating new highScores file | Notice | nobody"});
+        EXPECT_EQ(failedSave(0), "it is not a file\n");
+    }
+    alarm(0);
 }
 
 TEST_F(TenBest, CompareByTimeAlone) {
