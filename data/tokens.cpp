@@ -34,17 +34,23 @@ int takeBase(const char*& text) {
     return 8;
 }
 
-// All of the token as an integer of 33 bits or fewer.
+} // namespace
+
 bool parseInteger(const char* token, std::int64_t& value) {
     const bool negative = takeSign(token);
     const int base = takeBase(token);
     const char* end = token + std::strlen(token);
-    std::uint32_t magnitude = 0;
+    std::int64_t magnitude = 0;
     const auto [stop, error] = std::from_chars(token, end, magnitude, base);
-    if (error != std::errc() || stop != end) return false;
-    value = negative ? -static_cast<std::int64_t>(magnitude) : magnitude;
+    if (error == std::errc::invalid_argument || stop != end || *token == '-') return false;
+    if (error == std::errc::result_out_of_range) {
+        magnitude = std::numeric_limits<std::int64_t>::max();
+    }
+    value = negative ? -magnitude : magnitude;
     return true;
 }
+
+namespace {
 
 // Steps over digits; how many there were.
 std::size_t takeDigits(const char*& text) {

@@ -9,6 +9,11 @@
 
 inline constexpr int tokenCapacity = 256; // bytes: 255 characters and the closing zero
 
+// All of the token as an integer: an optional sign, then "0x" or "0X" and hexadecimal digits, "0"
+// and octal digits, or decimal digits. False for anything else. One that is too large for 64 bits
+// becomes the nearest that is not.
+bool parseInteger(const char* token, std::int64_t& value);
+
 struct TokenReader {
     std::ifstream stream;
 
@@ -21,8 +26,7 @@ struct TokenReader {
     // The next character that is not white space, whatever follows it.
     bool readCharacter(char& character);
 
-    // An integer: an optional sign, then "0x" or "0X" and hexadecimal digits, "0" and octal
-    // digits, or decimal digits. One that does not fit the type is malformed.
+    // An integer, see parseInteger. One that does not fit the type is malformed.
     bool readInteger(std::int32_t& value);
     bool readUnsigned(std::uint32_t& value);
 

@@ -1,5 +1,7 @@
 // The shipped courses, proved playable: an automatic driver, which has nothing but the five keys,
 // reaches every goal in time and without a catch, and recorded drives still end as they did.
+#include <unistd.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -79,6 +81,14 @@ TEST(FirstCourse, IsFinishedByHoldingUpAlone) {
     EXPECT_EQ(drive.end.catches, 0);
 }
 
+// A file of this test run, while it lives.
+struct HandWritten {
+    std::string name = testing::TempDir() + "glorbix_" + std::to_string(getpid());
+
+    ~HandWritten() { std::remove(name.c_str()); }
+    void write(const std::string& text) const { std::ofstream(name, std::ios::binary) << text; }
+};
+
 struct Fault {
     const char* text;
     const char* told; // the beginning of what an author reads
@@ -89,23 +99,72 @@ TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
         {"", "1:1: the file is empty"},
         {"fogcolor=12", "1:1: there must be a blank behind"},
         {"fogcolor= 1\nroom", "2:1: unknown word \"room\""},
-        {"fogcolor= red", "1:11: expected a whole number"},
+        {"fogcolor= red",
+         "1:11: expected a whole number from 0 to 4294967295 behind \"fogcolor=\", not \"red\""},
+        {"fogcolor= -1", "1:11: expected a whole number from 0 to 4294967295 behind "
+                         "\"fogcolor=\": \"-1\" is negative"},
+        {"fogcolor= 0x100000000", "1:11: expected a whole number from 0 to 4294967295 behind "
+                                  "\"fogcolor=\": \"0x100000000\" is too large"},
+        {"marblecolor=", "1:1: the file ends behind \"marblecolor=\""},
+        {"holecount= 4294967295", "1:12: expected a whole number from 0 to 100000 behind "
+                                  "\"holecount=\": \"4294967295\" is too large"},
+        {"holecount= 100001", "1:12: expected a whole number from 0 to 100000 behind"},
+        {"holecount= 1 .data 1 2 3 1e99", "1:26: expected number 4 of the 4 of 1 holes (x y width "
+                                          "depth): \"1e99\" is too large"},
+        {"holecount= 1 .data 1 2 3", "1:24: expected number 4 of the 4 of 1 holes (x y width "
+                                     "depth): the file ends here"},
         {"holecount= 1\n.data\n 1 2 x 4 .end", "3:6: expected number 3 of the 4"},
         {"holecount= 1 .data 1 2 3 4 5 .end", "1:28: expected .end behind 1 holes, not \"5\""},
-        {"holecount= -1", "1:12: a count of holes is not negative"},
         {"holecount= 0 .data .end\n", "1:20: the file goes on behind \".end\""},
         {"holecount= 0 .data .end", ""},
     };
-    const std::string file = testing::TempDir() + "glorbix_fault.lev";
+    const HandWritten file;
     for (const Fault& fault : faults) {
-        std::ofstream(file, std::ios::binary) << fault.text;
+        file.write(fault.text);
         LevelText text;
-        ASSERT_TRUE(readLevelText(file, text));
+        std::string error;
+        ASSERT_TRUE(readLevelText(file.name, text, error)) << error;
         const std::string told = findFault(text);
         EXPECT_EQ(told.substr(0, std::string(fault.told).size()), fault.told) << fault.text;
         EXPECT_EQ(told.empty(), *fault.told == '\0') << told;
     }
-    std::remove(file.c_str());
+}
+
+TEST(Drives, AreRefusedWithTheLineAndTheReason) {
+    const std::string noRate = ":1: \"ticks\" takes one whole number, 10 to 10000";
+    const Fault faults[] = {
+        {"ticks 600000", noRate.c_str()},
+        {"ticks 60 junk", noRate.c_str()},
+        {"ticks 9", noRate.c_str()},
+        {"ticks 60.5", noRate.c_str()},
+        {"ticks 60\n\n12up", ":3: expected \"ticks N\", \"time T\", or a number of ticks"},
+        {"12", ":1: expected \"ticks N\""},
+        {"12 up fly", ":1: unknown key \"fly\""},
+        {"time 1 2", ":1: \"time\" takes one number"},
+        {"999999 up\n2 down", ":2: more than 1000000 ticks in all"},
+        {"ticks 10000\ntime 12.5\n1000000 up left", ""},
+    };
+    const HandWritten file;
+    KeyFile keys;
+    std::string error;
+    for (const Fault& fault : faults) {
+        file.write(fault.text);
+        keys = {};
+        EXPECT_EQ(readKeyFile(file.name, keys, error), *fault.told == '\0') << fault.text;
+        EXPECT_TRUE(error.starts_with(file.name + fault.told) || *fault.told == '\0') << error;
+    }
+    EXPECT_FALSE(readKeyFile("/", keys, error));
+    EXPECT_EQ(error, "/: cannot be read: it is not a file");
+    EXPECT_EQ(driveLevel({{"any.lev", "--tick", "60junk"}}), cannotDo);
+}
+
+TEST(Drives, EndForAMarbleThatIsCaughtForEver) {
+    const HandWritten file;
+    file.write("holecount= 1 .data 0 0 1e30 1 .end");
+    ASSERT_TRUE(startRun(file.name.c_str()));
+    const Drive drive = driveToEnd(10, [](float) { return upKey; });
+    EXPECT_FALSE(drive.end.done);
+    EXPECT_EQ(drive.keys.ticks.size(), 1000U);
 }
 
 } // namespace

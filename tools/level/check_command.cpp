@@ -59,7 +59,12 @@ void checkHole(int index, Findings& findings) {
 
 void checkReturns(Findings& findings) {
     int reported = -1;
-    for (const Return& back : findReturns()) {
+    const std::vector<Return> returns = findReturns();
+    if (wellsTried() < level.holeCount) {
+        std::printf("%s: so many holes that the marble was dropped into the first %d alone\n",
+                    findings.file.c_str(), wellsTried());
+    }
+    for (const Return& back : returns) {
         if (back.found || back.hole == reported) continue;
         reported = back.hole;
         findings.add(holeName(back.hole) +
@@ -101,7 +106,8 @@ void explainRefusal(const LevelText& text, Findings& findings) {
 
 int checkLevel(const std::string& file) {
     LevelText text;
-    if (!readLevelText(file, text)) return refuseFile(file + ": cannot be read");
+    std::string error;
+    if (!readLevelText(file, text, error)) return refuseFile(error);
     Findings findings = {file};
     takeBoxes();
     level.fogColourCode = level.marbleColourCode = 0;

@@ -16,6 +16,9 @@ constexpr int stripHeight = static_cast<int>((courseRight - courseLeft) / unitsP
 constexpr int pictureWidth = stripPixels + 2 * border;
 constexpr int pictureHeight = strips * (stripHeight + border) + border;
 constexpr float catchRadii = 1.5F; // hole widths
+constexpr float mostHeight = 1.0e6F;
+constexpr double mostRadius = 2.0 * pictureWidth; // pixels: that covers the picture
+constexpr double farAway = 4.0 * pictureWidth;    // pixels: nothing there reaches the picture
 constexpr int tickUnits = 1000;
 
 constexpr PaletteColour paper = {24, 26, 30};
@@ -82,6 +85,12 @@ struct Mapper {
         turboColour = picture.addColour({255, 90, 255});
     }
 
+    // Within bounds also where the numbers of a hole give none.
+    float heightUpwards(float x, float y) const {
+        const float height = -course.heightAt(x, y);
+        return std::isfinite(height) ? std::clamp(height, -mostHeight, mostHeight) : 0.0F;
+    }
+
     // Heights upwards, of one strip with a further row and column for the differences.
     std::vector<float> stripHeights(int strip) const {
         std::vector<float> heights;
@@ -90,7 +99,7 @@ struct Mapper {
                 const float x = courseLeft + static_cast<float>(row * unitsPerPixel);
                 const float y = courseBack + static_cast<float>(strip) * stripLength +
                                 static_cast<float>(column * unitsPerPixel);
-                heights.push_back(-course.heightAt(x, y));
+                heights.push_back(heightUpwards(x, y));
             }
         }
         return heights;
@@ -141,9 +150,10 @@ struct Mapper {
 
     void drawHole(const Hole& hole) {
         if (hole.depth <= 0.0F) return;
-        const double radius = catchRadii * hole.width / unitsPerPixel;
+        const double radius = std::min<double>(catchRadii * hole.width / unitsPerPixel, mostRadius);
         const double x = pictureX(hole.y);
         const double y = pictureY(hole.x, hole.y);
+        if (std::abs(x) > farAway || std::abs(y) > farAway) return;
         for (double r = 0.0; r < radius; r += 0.5)
             picture.circle(x, y, r, 1, darkRed);
         picture.circle(x, y, radius, 1, red);

@@ -15,7 +15,8 @@ Drive driveToEnd(int ticksPerSecond, const KeyHolder& holder) {
     Drive drive;
     drive.keys.ticksPerSecond = ticksPerSecond;
     const float dt = 1.0F / static_cast<float>(ticksPerSecond);
-    while (!runIsOver()) {
+    const auto mostTicks = static_cast<std::size_t>(longestDrive * ticksPerSecond);
+    while (!runIsOver() && drive.keys.ticks.size() < mostTicks) {
         const Keys held = holder(dt);
         const int catchesBefore = runState().catches;
         tickRun(held, dt);

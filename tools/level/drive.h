@@ -16,7 +16,8 @@ struct Drive {
 // The keys to hold in the next tick of `dt` seconds.
 using KeyHolder = std::function<Keys(float dt)>;
 
-// Drives a started run (startRun) to its end.
+// Drives a started run (startRun) to its end, or for `longestDrive` seconds: a marble that is caught
+// for ever also keeps the clock from running out.
 Drive driveToEnd(int ticksPerSecond, const KeyHolder& holder);
 
 // Drives a started run by the keys of a file; after its last key none is held.

@@ -1,6 +1,5 @@
 // glorbix-level drive: plays a level and tells how it went.
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 
 #include <unistd.h>
@@ -29,9 +28,10 @@ std::string wholePath(const std::string& file) {
 // Understands the words; the reason when they are wrong.
 std::string readOrder(Words& words, Order& order) {
     if (const auto tick = words.takeOption("--tick")) {
-        order.ticksPerSecond = std::atoi(tick->c_str());
-        if (order.ticksPerSecond < 10 || order.ticksPerSecond > 10000)
-            return "--tick takes 10 to 10000 ticks a second";
+        if (!readTicksPerSecond(*tick, order.ticksPerSecond)) {
+            return "--tick takes " + std::to_string(fewestTicksPerSecond) + " to " +
+                   std::to_string(mostTicksPerSecond) + " ticks a second, a whole number";
+        }
     }
     if (const auto keys = words.takeOption("--keys")) order.keysOut = wholePath(*keys);
     if (const auto play = words.takeOption("--play")) order.keysIn = wholePath(*play);
@@ -71,7 +71,8 @@ int report(const Order& order, const Drive& drive) {
                     static_cast<double>(drive.end.result), drive.end.catches, many, turbo);
         return allWell;
     }
-    std::printf("%s: time is up at y = %.0f, %d %s, %.1f s of turbo left\n", order.level.c_str(),
+    const char* what = drive.end.clock < 0.0F ? "time is up" : "caught for ever";
+    std::printf("%s: %s at y = %.0f, %d %s, %.1f s of turbo left\n", order.level.c_str(), what,
                 static_cast<double>(drive.end.rolling.position.y), drive.end.catches, many, turbo);
     return levelHasFaults;
 }

@@ -73,7 +73,7 @@ struct Search {
     }
 
     void offer(std::size_t index, float seconds) {
-        if (seconds >= guide.seconds[index]) return;
+        if (!(seconds < guide.seconds[index])) return; // nor one that is no number
         guide.seconds[index] = seconds;
         next.emplace(seconds, index);
     }

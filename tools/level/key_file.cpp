@@ -1,52 +1,104 @@
 #include "tools/level/key_file.h"
 
+#include <charconv>
+#include <cmath>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <limits>
 #include <sstream>
+#include <system_error>
+
+#include "tools/level/text_file.h"
 
 namespace {
 
-constexpr int mostTicks = 1'000'000; // more is no drive of this game
+constexpr int mostTicks = longestDrive * mostTicksPerSecond;
 
-bool readKeys(std::istringstream& line, Keys& keys) {
-    std::string name;
-    bool any = false;
-    while (line >> name) {
-        if (!addKey(name, keys)) return false;
-        any = true;
-    }
-    return any;
+// All of the word as a number; false when something else stands in it or it does not fit.
+bool readNumber(const std::string& word, int& value) {
+    const char* end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, value);
+    return error == std::errc() && stop == end;
 }
 
-bool readLine(const std::string& text, KeyFile& into) {
-    std::istringstream line(text);
-    std::string word;
-    if (!(line >> word)) return true;
-    if (word == "ticks") return line >> into.ticksPerSecond && into.ticksPerSecond > 0;
-    if (word == "time") return static_cast<bool>(line >> into.time);
+bool readTime(const std::string& word, float& time) {
+    std::istringstream text(word);
+    return text >> time && text.eof() && std::isfinite(time);
+}
+
+std::vector<std::string> wordsOf(const std::string& line) {
+    std::istringstream text(line);
+    return {std::istream_iterator<std::string>(text), {}};
+}
+
+// What is wrong with a line; empty when it is taken.
+std::string takeTicks(const std::vector<std::string>& words, KeyFile& into) {
+    if (words.size() == 2 && readTicksPerSecond(words[1], into.ticksPerSecond)) {
+        return {};
+    }
+    return "\"ticks\" takes one whole number, " + std::to_string(fewestTicksPerSecond) + " to " +
+           std::to_string(mostTicksPerSecond);
+}
+
+std::string takeTime(const std::vector<std::string>& words, KeyFile& into) {
+    const bool taken = words.size() == 2 && readTime(words[1], into.time);
+    return taken ? "" : "\"time\" takes one number of seconds";
+}
+
+std::string takeKeys(const std::vector<std::string>& words, KeyFile& into) {
     int count = 0;
+    if (!readNumber(words[0], count) || count < 1 || words.size() < 2) {
+        return "expected \"ticks N\", \"time T\", or a number of ticks and the keys held";
+    }
+    if (count > mostTicks - static_cast<int>(into.ticks.size())) {
+        return "more than " + std::to_string(mostTicks) + " ticks in all";
+    }
     Keys keys = noKey;
-    if (!(std::istringstream(word) >> count) || count < 1 || !readKeys(line, keys)) return false;
-    if (count > mostTicks - static_cast<int>(into.ticks.size())) return false;
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        if (!addKey(words[i], keys)) {
+            return "unknown key \"" + words[i] + "\", expected up, down, left, right, shift or -";
+        }
+    }
     into.ticks.insert(into.ticks.end(), static_cast<std::size_t>(count), keys);
-    return true;
+    return {};
+}
+
+std::string takeLine(const std::string& line, KeyFile& into) {
+    const std::vector<std::string> words = wordsOf(line);
+    if (words.empty()) {
+        return {};
+    }
+    if (words[0] == "ticks") {
+        return takeTicks(words, into);
+    }
+    return words[0] == "time" ? takeTime(words, into) : takeKeys(words, into);
 }
 
 } // namespace
 
-bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error) {
-    std::ifstream file(fileName);
-    if (!file) {
-        error = fileName + ": cannot be read";
+bool readTicksPerSecond(const std::string& word, int& ticksPerSecond) {
+    int number = 0;
+    if (!readNumber(word, number) || number < fewestTicksPerSecond || number > mostTicksPerSecond) {
         return false;
     }
-    std::string line;
-    for (int number = 1; std::getline(file, line); ++number) {
-        if (readLine(line, into)) continue;
-        error = fileName + ":" + std::to_string(number) +
-                ": expected \"ticks N\", \"time T\", or a number of ticks and the keys held";
+    ticksPerSecond = number;
+    return true;
+}
+
+bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error) {
+    std::string text;
+    if (!readTextFile(fileName, text, error)) {
         return false;
+    }
+    std::istringstream lines(text);
+    std::string line;
+    for (int number = 1; std::getline(lines, line); ++number) {
+        const std::string wrong = takeLine(line, into);
+        if (!wrong.empty()) {
+            error = fileName + ":" + std::to_string(number) + ": " + wrong;
+            return false;
+        }
     }
     return true;
 }

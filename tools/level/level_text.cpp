@@ -5,12 +5,15 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
+
+#include "data/level.h"
+#include "data/tokens.h"
+#include "tools/level/text_file.h"
 
 namespace {
 
 constexpr const char* keysWithWord[] = {"texturefile=", "fogcolor=", "marblecolor=", "holecount="};
+constexpr std::int64_t mostColour = UINT32_MAX; // only the lower 24 bits are a colour
 constexpr std::size_t longestWord = 255;
 
 std::string at(const Word& word, const std::string& what) {
@@ -21,18 +24,20 @@ std::string quoted(const std::string& text) {
     return "\"" + text + "\"";
 }
 
-bool isInteger(const std::string& text) {
-    char* end = nullptr;
-    const long long value = std::strtoll(text.c_str(), &end, 0);
-    const bool fits = value >= INT32_MIN && value <= UINT32_MAX;
-    return !text.empty() && *end == '\0' && fits;
+// Why the word is no whole number from 0 to `most`; empty when it is one.
+std::string whyNoCount(const std::string& word, std::int64_t most, std::int64_t& value) {
+    if (!parseInteger(word.c_str(), value)) return ", not " + quoted(word);
+    if (value < 0) return ": " + quoted(word) + " is negative";
+    return value > most ? ": " + quoted(word) + " is too large" : "";
 }
 
-bool isDecimal(const std::string& text) {
+// Why the word is no number of a hole; empty when it is one.
+std::string whyNoDecimal(const std::string& word) {
     char* end = nullptr;
-    const double value = std::strtod(text.c_str(), &end);
-    return text.find_first_not_of("+-0123456789.eE") == std::string::npos && !text.empty() &&
-           *end == '\0' && std::isfinite(static_cast<float>(value));
+    const double value = std::strtod(word.c_str(), &end);
+    if (word.find_first_not_of("+-0123456789.eE") != std::string::npos || *end != '\0')
+        return ", not " + quoted(word);
+    return std::isfinite(static_cast<float>(value)) ? "" : ": " + quoted(word) + " is too large";
 }
 
 bool isKeyWithWord(const std::string& word) {
@@ -44,7 +49,7 @@ bool isKeyWithWord(const std::string& word) {
 struct Walk {
     const std::vector<Word>& words;
     std::size_t next = 0;
-    long holes = 0;
+    std::int64_t holes = 0;
     std::string fault;
 
     bool fail(const std::string& what) {
@@ -68,26 +73,29 @@ struct Walk {
         if (key == ".data") return takeHoles();
         if (!isKeyWithWord(key)) return takeUnknown();
         if (++next >= words.size()) return fail("the file ends behind " + quoted(key));
-        const std::string& value = words[next].text;
-        if (key != "texturefile=" && !isInteger(value)) {
-            return fail("expected a whole number behind " + quoted(key) + ", not " + quoted(value));
-        }
-        if (key == "holecount=") holes = std::strtol(value.c_str(), nullptr, 0);
-        if (key == "holecount=" && holes < 0) return fail("a count of holes is not negative");
+        std::int64_t colour = 0;
+        if (key == "holecount=" && !takeCount(key, mostHoles, holes)) return false;
+        if (key.ends_with("color=") && !takeCount(key, mostColour, colour)) return false;
         ++next;
         return true;
     }
 
+    bool takeCount(const std::string& key, std::int64_t most, std::int64_t& value) {
+        const std::string why = whyNoCount(words[next].text, most, value);
+        return why.empty() || fail("expected a whole number from 0 to " + std::to_string(most) +
+                                   " behind " + quoted(key) + why);
+    }
+
     bool takeHoles() {
         ++next;
-        const long numbers = 4 * holes;
-        for (long i = 0; i < numbers; ++i, ++next) {
-            const bool here = next < words.size() && isDecimal(words[next].text);
-            if (here) continue;
+        const std::int64_t numbers = 4 * holes;
+        for (std::int64_t i = 0; i < numbers; ++i, ++next) {
+            const bool ends = next >= words.size();
+            const std::string why = ends ? ": the file ends here" : whyNoDecimal(words[next].text);
+            if (why.empty()) continue;
             return fail("expected number " + std::to_string(i + 1) + " of the " +
                         std::to_string(numbers) + " of " + std::to_string(holes) +
-                        " holes (x y width depth)" +
-                        (next < words.size() ? ", not " + quoted(words[next].text) : ""));
+                        " holes (x y width depth)" + why);
         }
         if (next >= words.size() || words[next].text != ".end") {
             return fail("expected .end behind " + std::to_string(holes) + " holes" +
@@ -101,20 +109,21 @@ struct Walk {
 
 } // namespace
 
-bool readLevelText(const std::string& fileName, LevelText& into) {
-    std::ifstream file(fileName, std::ios::binary);
-    if (!file || file.peek() == EOF) return file.is_open() && !file.bad();
+bool readLevelText(const std::string& fileName, LevelText& into, std::string& error) {
+    std::string text;
+    if (!readTextFile(fileName, text, error)) {
+        return false;
+    }
     int line = 1;
     int column = 0;
     bool inWord = false;
-    for (auto c = std::istreambuf_iterator<char>(file); c != std::istreambuf_iterator<char>();
-         ++c) {
+    for (const char c : text) {
         ++column;
-        const bool blank = std::isspace(static_cast<unsigned char>(*c)) != 0;
+        const bool blank = std::isspace(static_cast<unsigned char>(c)) != 0;
         if (!blank && !inWord) into.words.push_back({"", line, column});
-        if (!blank) into.words.back().text += *c;
+        if (!blank) into.words.back().text += c;
         inWord = !blank;
-        if (*c == '\n') {
+        if (c == '\n') {
             ++line;
             column = 0;
         }
@@ -127,6 +136,7 @@ std::string findFault(const LevelText& text) {
     if (text.words.empty()) return "1:1: the file is empty";
     for (const Word& word : text.words) {
         if (word.text.size() > longestWord) return at(word, "longer than 255 characters");
+        if (word.text.find('\0') != std::string::npos) return at(word, "a zero byte in a word");
     }
     Walk walk = {text.words, 0, 0, {}};
     while (walk.next < text.words.size()) {

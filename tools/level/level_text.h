@@ -17,8 +17,8 @@ struct LevelText {
     bool endsWithWord = false; // nothing follows the last word, not even a line break
 };
 
-// False when the file cannot be read.
-bool readLevelText(const std::string& fileName, LevelText& into);
+// False with the reason in `error` when the file cannot be read.
+bool readLevelText(const std::string& fileName, LevelText& into, std::string& error);
 
 // The first place where the game stops reading, as "line:column: what is wrong"; empty when the
 // words are in order.

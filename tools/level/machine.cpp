@@ -6,6 +6,8 @@
 #include "tools/level/machine.h"
 
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/windows_api.h"
@@ -42,7 +44,9 @@ int WINAPI MessageBoxA(HWND, const char* text, const char*, UINT) {
 
 HANDLE WINAPI CreateFileA(const char* fileName, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD,
                           HANDLE) {
-    std::FILE* file = std::fopen(fileName, "rb");
+    std::error_code error; // a pipe would wait for somebody who writes to it
+    const bool isFile = std::filesystem::is_regular_file(fileName, error);
+    std::FILE* file = isFile ? std::fopen(fileName, "rb") : nullptr;
     return file == nullptr ? INVALID_HANDLE_VALUE : file;
 }
 

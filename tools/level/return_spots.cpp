@@ -1,6 +1,7 @@
 #include "tools/level/return_spots.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "app/game.h"
 #include "data/level.h"
@@ -9,7 +10,8 @@
 
 namespace {
 
-constexpr float catchRadii = 1.4F; // hole widths: just within the catch radius
+constexpr int mostPairs = 2'000'000; // of a tried well and a hole near it or not: some seconds
+constexpr float catchRadii = 1.4F;   // hole widths: just within the catch radius
 
 // Lets the game find a marble in a hole, while the marble is held and the clock stands.
 bool dropInto(float x, float y, Vector3& spot) {
@@ -23,12 +25,17 @@ bool dropInto(float x, float y, Vector3& spot) {
 
 } // namespace
 
+int wellsTried() {
+    return std::min(level.holeCount, mostPairs / std::max(level.holeCount, 1));
+}
+
 std::vector<Return> findReturns() {
     const RunState before = runState();
     std::vector<Return> returns;
-    for (int i = 0; i < level.holeCount; ++i) {
+    for (int i = 0; i < wellsTried(); ++i) {
         const Hole& hole = level.allHoles()[static_cast<std::size_t>(i)];
         if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) continue;
+        if (std::abs(hole.y) > -courseBack) continue; // no marble gets there
         for (const float side : {-catchRadii, catchRadii}) {
             Return back = {i, false, {}};
             back.found = dropInto(hole.x, hole.y + side * hole.width, back.spot);

@@ -12,7 +12,11 @@ struct Return {
     Vector3 spot; // where it came back to
 };
 
-// For each well of the course the spot it returns a marble to, from the near and the far edge of
+// How many of the level's holes findReturns looks at: all of some thousand. Trying one asks for its
+// distance to all others hundreds of times.
+int wellsTried();
+
+// For each well of the course, of the holes that it looks at, the spot it returns a marble to, from the near and the far edge of
 // its catch radius in turn. Needs a started run (tools/level/level_run.h), which it leaves as it
 // was.
 std::vector<Return> findReturns();
