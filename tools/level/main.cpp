@@ -29,7 +29,7 @@ constexpr Verb verbs[] = {
      "  Plays the level by the game's own rules, through held keys alone, and prints the time, "
      "the\n"
      "  catches and the turbo left. Ends with 0 when the goal was reached, 1 when not.\n"
-     "    --tick N     ticks a second, 60 unless told\n"
+     "    --tick N     ticks a second, 10 to 10000; 60 unless told\n"
      "    --keys KEYS  writes the keys that were held to this file\n"
      "    --hold-up    holds Up and nothing else, as a beginner does\n"
      "    --play KEYS  plays the keys of such a file again, to the same result\n"},

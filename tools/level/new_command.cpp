@@ -27,8 +27,11 @@ int newLevel(Words words) {
     if (words.words.size() != 1) return refuseWords("new", "takes one file");
     const std::string& file = words.words[0];
     std::error_code ignored;
-    if (!force && std::filesystem::exists(file, ignored))
-        return refuseFile(file + " is there already; --force replaces it");
+    const std::filesystem::file_status there = std::filesystem::status(file, ignored);
+    if (exists(there) && !is_regular_file(there)) {
+        return refuseFile(file + " is not a file");
+    }
+    if (!force && exists(there)) return refuseFile(file + " is there already; --force replaces it");
     std::ofstream out(file, std::ios::binary);
     out << smallLevel;
     out.close();

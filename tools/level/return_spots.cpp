@@ -38,7 +38,8 @@ std::vector<Return> findReturns() {
         if (std::abs(hole.y) > -courseBack) continue; // no marble gets there
         for (const float side : {-catchRadii, catchRadii}) {
             Return back = {i, false, {}};
-            back.found = dropInto(hole.x, hole.y + side * hole.width, back.spot);
+            const float y = std::clamp(hole.y + side * hole.width, courseBack, -courseBack);
+            back.found = dropInto(hole.x, y, back.spot);
             returns.push_back(back);
         }
     }
