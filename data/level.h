@@ -23,8 +23,8 @@ struct Hole {
     float depth = 0.0F; // the well's own height at its centre; only positive depths catch
 };
 
-// A level file with more of them is refused as if memory had run out: with so many, building the
-// mesh takes some ten seconds, and a frame no shorter a time.
+// A level file with more of them is refused as if memory had run out: building the mesh of so many
+// takes some ten seconds.
 inline constexpr std::int32_t mostHoles = 100'000;
 
 // The ground mesh: vertex (column c, row r) has the index r * groundColumns + c and stands at
