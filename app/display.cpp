@@ -19,22 +19,23 @@ bool isGameMode(const DEVMODEA& mode) {
            mode.dmPelsHeight == screenHeight;
 }
 
-// Looks through the display's modes for the game's own.
-bool findGameMode(DEVMODEA& mode) {
+// Looks through the display's modes for the game's own, which then stands in displayMode.
+bool findGameMode() {
+    displayMode.dmSize = sizeof displayMode;
     for (DWORD index = 0;; ++index) {
-        const bool exists = EnumDisplaySettingsA(nullptr, index, &mode) != FALSE;
-        if (isGameMode(mode)) return true;
+        const bool exists = EnumDisplaySettingsA(nullptr, index, &displayMode) != FALSE;
+        if (isGameMode(displayMode)) return true;
         if (!exists) return false;
     }
 }
 
 // Asks for nothing but size and colours, leaving the rest of the mode to the display.
-LONG switchBySize(DEVMODEA& mode) {
-    mode.dmBitsPerPel = colourBits;
-    mode.dmPelsWidth = screenWidth;
-    mode.dmPelsHeight = screenHeight;
-    mode.dmFields = DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT;
-    return ChangeDisplaySettingsA(&mode, 0);
+LONG switchBySize() {
+    displayMode.dmBitsPerPel = colourBits;
+    displayMode.dmPelsWidth = screenWidth;
+    displayMode.dmPelsHeight = screenHeight;
+    displayMode.dmFields = DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT;
+    return ChangeDisplaySettingsA(&displayMode, 0);
 }
 
 bool refuseDisplay(const char* text, const char* caption) {
@@ -99,13 +100,11 @@ void setStartState() {
 } // namespace
 
 bool switchDisplayMode() {
-    DEVMODEA mode = {};
-    mode.dmSize = sizeof mode;
-    if (!findGameMode(mode)) {
+    if (!findGameMode()) {
         return refuseDisplay("640x480x65536 (16-bit color/Hicolor) is not supported", initError);
     }
-    if (ChangeDisplaySettingsA(&mode, 0) == DISP_CHANGE_SUCCESSFUL) return true;
-    const LONG result = switchBySize(mode);
+    if (ChangeDisplaySettingsA(&displayMode, 0) == DISP_CHANGE_SUCCESSFUL) return true;
+    const LONG result = switchBySize();
     return result == DISP_CHANGE_SUCCESSFUL || reportSwitch(result);
 }
 

@@ -6,6 +6,10 @@
 
 #include "platform/windows_api.h"
 
+// The display mode looked at last, in the end the game's own. The game sets its size, and otherwise
+// reads and writes only colour bits, width, height and the mask of fields.
+extern DEVMODEA displayMode;
+
 // Puts the primary display into that mode. False after a message; the game then starts all the
 // same, in the mode that the display has.
 bool switchDisplayMode();

@@ -1,6 +1,7 @@
 // The program-wide objects, defined in one file so that they are constructed in this order, before
 // the entry runs, and torn down in reverse after it has returned. Each is declared, and explained,
 // in its own header.
+#include "app/display.h"
 #include "app/game.h"
 #include "data/best_times.h"
 #include "data/font.h"
@@ -11,6 +12,7 @@
 #include "sim/view_frame.h"
 
 GameRecord Game;
+DEVMODEA displayMode = {};
 BestTimes bestTimes;
 
 ViewFrame viewFrame;

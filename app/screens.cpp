@@ -42,7 +42,7 @@ void setTextColour(Colour colour) {
 }
 
 void readPicture(const Picture& picture, std::uint8_t& pending, std::uint8_t* pixels) {
-    if (readBitmap(picture.fileName, screenWidth, screenHeight, pixels)) {
+    if (readBitmapOfSize(picture.fileName, screenWidth, screenHeight, pixels)) {
         pending = 0;
     } else {
         MessageBoxA(Game.window, picture.failure, errorCaption, MB_OK);

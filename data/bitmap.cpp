@@ -35,33 +35,52 @@ bool readHeaders(HANDLE file, BitmapInfo& info) {
     return true;
 }
 
-bool readPixels(HANDLE file, std::int32_t width, std::int32_t height, std::uint8_t* pixels) {
-    BitmapInfo info = {};
-    if (!readHeaders(file, info)) return false;
-    if (info.width != width || info.height != height) return false;
-    if (info.bitsPerPixel != 8 * bytesPerPixel) return false;
+// The picture's pixels, or -1 for a picture that the game cannot show.
+std::int64_t pixelCount(const BitmapInfo& info) {
+    if (info.width < 0 || info.height < 0) return -1;
+    if (info.bitsPerPixel != 8 * bytesPerPixel) return -1;
+    return std::int64_t{info.width} * info.height;
+}
+
+bool readPixels(HANDLE file, std::int64_t count, std::uint8_t* pixels) {
     DWORD got = 0;
-    const DWORD wanted = static_cast<DWORD>(bytesPerPixel * height * width);
-    return ReadFile(file, pixels, wanted, &got, nullptr) != FALSE;
+    return ReadFile(file, pixels, static_cast<DWORD>(bytesPerPixel * count), &got, nullptr) !=
+           FALSE;
 }
 
 // The file's blue, green, red becomes red, green, blue.
-void exchangeRedAndBlue(std::uint8_t* pixels, std::int32_t byteCount) {
-    for (std::int32_t i = 0; i < byteCount; i += bytesPerPixel) {
-        std::swap(pixels[i], pixels[i + 2]);
+void exchangeRedAndBlue(std::int64_t count, std::uint8_t* pixels) {
+    for (std::int64_t i = 0; i < count; ++i) {
+        std::swap(pixels[bytesPerPixel * i], pixels[bytesPerPixel * i + 2]);
     }
+}
+
+// Reads the picture if accepts(info) says that it fits the buffer.
+template <typename Accepts>
+bool readIfAccepted(const char* fileName, std::uint8_t* pixels, Accepts accepts) {
+    const HANDLE file = CreateFileA(fileName, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return false;
+    BitmapInfo info = {};
+    const bool read = readHeaders(file, info) && pixelCount(info) >= 0 && accepts(info) &&
+                      readPixels(file, pixelCount(info), pixels);
+    const bool closed = CloseHandle(file) != FALSE;
+    if (!read || !closed) return false;
+    exchangeRedAndBlue(pixelCount(info), pixels);
+    return true;
 }
 
 } // namespace
 
-bool readBitmap(const char* fileName, std::int32_t width, std::int32_t height,
-                std::uint8_t* pixels) {
-    const HANDLE file = CreateFileA(fileName, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
-    const bool read = readPixels(file, width, height, pixels);
-    const bool closed = CloseHandle(file) != FALSE;
-    if (!read || !closed) return false;
-    exchangeRedAndBlue(pixels, bytesPerPixel * height * width);
-    return true;
+bool readBitmap(const char* fileName, std::uint8_t* pixels, std::int32_t capacity) {
+    return readIfAccepted(fileName, pixels, [capacity](const BitmapInfo& info) {
+        return pixelCount(info) <= capacity / bytesPerPixel;
+    });
+}
+
+bool readBitmapOfSize(const char* fileName, std::int32_t width, std::int32_t height,
+                      std::uint8_t* pixels) {
+    return readIfAccepted(fileName, pixels, [width, height](const BitmapInfo& info) {
+        return info.width == width && info.height == height;
+    });
 }

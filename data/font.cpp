@@ -149,13 +149,11 @@ void Font::drawNumber(float value, int decimals) {
 }
 
 float Font::textWidth(const char* text) const {
-    float widest = 0.0F;
     float width = 0.0F;
-    for (; *text != '\0'; ++text) {
-        width = *text == lineBreak ? 0.0F : width + advanceOf(*this, *text);
-        widest = std::max(widest, width);
+    for (; *text != '\0' && *text != lineBreak; ++text) {
+        width += advanceOf(*this, *text);
     }
-    return widest;
+    return *text == lineBreak ? std::max(width, textWidth(text + 1)) : width;
 }
 
 void Font::drawGlyph(char character, float x, float y) const {

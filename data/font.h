@@ -57,7 +57,8 @@ struct Font {
     // Draws a number: with 0 decimals truncated towards zero, otherwise rounded to so many digits.
     void drawNumber(float value, int decimals);
 
-    // How far drawText would advance the pen; for a text of several lines, by the longest.
+    // How far drawText would advance the pen, the sum of the advances; a glyph whose right edge
+    // lies left of its left edge takes away from it. Of several lines the width of the widest.
     float textWidth(const char* text) const;
 
     // Draws one glyph with its top left corner at (x, y).

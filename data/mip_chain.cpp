@@ -11,8 +11,13 @@
 
 namespace {
 
-std::size_t slotSize(const MipChain& chain) {
-    return static_cast<std::size_t>(chain.size) * static_cast<std::size_t>(chain.size) * 3;
+int slotSize(const MipChain& chain) {
+    return chain.size * chain.size * 3; // bytes
+}
+
+// Where level k begins among the slots.
+std::size_t slotOffset(const MipChain& chain, int k) {
+    return static_cast<std::size_t>(k) * static_cast<std::size_t>(slotSize(chain));
 }
 
 void setParameter(GLenum name, int value) {
@@ -29,9 +34,7 @@ bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slo
     for (int k = 0; k < chain.levels; ++k) {
         char fileName[mipBaseNameCapacity + 16];
         std::snprintf(fileName, sizeof fileName, "%s_%d.bmp", baseName, k);
-        const int side = chain.size >> k;
-        if (!readBitmap(fileName, side, side,
-                        slots + static_cast<std::size_t>(k) * slotSize(chain))) {
+        if (!readBitmap(fileName, slots + slotOffset(chain, k), slotSize(chain))) {
             MessageBoxA(nullptr, fileName, fileErrorCaption, MB_OK);
             return false;
         }
@@ -49,6 +52,6 @@ void uploadMipChain(const MipChain& chain, const std::uint8_t* slots) {
     for (int k = 0; k < chain.levels; ++k) {
         const int side = chain.size >> k;
         glTexImage2D(GL_TEXTURE_2D, k, chain.internalFormat, side, side, 0, GL_RGB,
-                     GL_UNSIGNED_BYTE, slots + static_cast<std::size_t>(k) * slotSize(chain));
+                     GL_UNSIGNED_BYTE, slots + slotOffset(chain, k));
     }
 }

@@ -170,14 +170,17 @@ int startRowFor(const Vector3& eye) {
 } // namespace
 
 std::int32_t Level::drawGround(const ViewFrame& view, bool farSight, bool fogOn) {
-    if (!groundTexCoords) return 0; // a level failed to load, and the program is about to end
+    setGroundState(*this, fogOn);
+    if (!groundTexCoords) { // a level failed to load, and the program is about to end
+        glFlush();
+        return 0;
+    }
     const Vector3 eye = view.getPosition();
     const int startRow = startRowFor(eye);
     const bool endInSight = farSight || startRow + rowsInSight > lastCellRow;
     const int lastRow = endInSight ? lastCellRow : startRow + rowsInSight;
     GroundWalk walk = {*this, eye, view.getRotation(), startRow, startColumnFor(eye), lastRow};
 
-    setGroundState(*this, fogOn);
     walkQuadrant(walk, {+1, +1});
     walkQuadrant(walk, {+1, -1});
     walkQuadrant(walk, {-1, -1});

@@ -35,5 +35,9 @@ void Marble::step(const Level& ground, const Vector3& force, float dt) {
 }
 
 Vector3 marbleCentre(const Level& ground, const Vector3& contact) {
-    return contact + ground.normalAt(contact.x, contact.y) * marbleRadius;
+    constexpr double radius = marbleRadius;
+    const Vector3 up = ground.normalAt(contact.x, contact.y);
+    return {static_cast<float>(contact.x + up.x * radius),
+            static_cast<float>(contact.y + up.y * radius),
+            static_cast<float>(contact.z + up.z * radius)};
 }

@@ -38,7 +38,8 @@ struct Marble {
 // World units from the ground to the marble's centre, along the normal: its radius.
 inline constexpr float marbleRadius = 20.0F;
 
-// The world point that is the marble's centre when it touches the ground at `contact`.
+// The world point that is the marble's centre when it touches the ground at `contact`, worked out
+// in double precision.
 Vector3 marbleCentre(const Level& ground, const Vector3& contact);
 
 extern Marble marble;

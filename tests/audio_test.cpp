@@ -38,14 +38,11 @@ TEST_F(Music, RotatesWhileALevelIsPlayed) {
     }
     pressKey(VK_F1); // the next level does not disturb it
     EXPECT_EQ(music(), expected);
-}
-
-TEST_F(Music, BeginsAnewWithEachRun) {
-    startGame();
-    send(MM_MCINOTIFY);
-    machine.lines.clear();
-    startGame();
-    EXPECT_EQ(music(), Lines{"close 2"} + started(first, 3));
+    failNext("MCI_OPEN");
+    send(MM_MCINOTIFY); // the piece that follows is missing
+    EXPECT_TRUE(machine.devices.empty());
+    pressKey(VK_F6);
+    EXPECT_EQ(music().back(), "close stale 4"); // the device opened last
 }
 
 TEST_F(Music, IsSwitchedWithF6) {
@@ -67,13 +64,16 @@ TEST_F(Music, StopsWithTheLevel) {
     tick(0.1);
     EXPECT_EQ(music().back(), "close 1");
     startGame();
+    send(MM_MCINOTIFY);
     Game.screen = Screen::BestTimes;
-    tick(0.1);
-    tick(0.1);
-    EXPECT_EQ(music().back(), "close 2");
-    startGame();
-    send(WM_CLOSE);
+    ticks(2, 0.1);
     EXPECT_EQ(music().back(), "close 3");
+    startGame();
+    machine.lines.clear();
+    startGame(); // a new run begins with the first piece
+    EXPECT_EQ(music(), Lines{"close 4"} + started(first, 5));
+    send(WM_CLOSE);
+    EXPECT_EQ(music().back(), "close 5");
     EXPECT_TRUE(machine.devices.empty() && !Game.musicPlaying);
 }
 

@@ -9,7 +9,7 @@ namespace {
 struct Bitmap : Story {
     std::vector<std::uint8_t> pixels = std::vector<std::uint8_t>(12 + 100, 9);
 
-    bool read(const char* name = "a.bmp") { return readBitmap(name, 2, 2, pixels.data()); }
+    bool read(const char* name = "a.bmp") { return readBitmapOfSize(name, 2, 2, pixels.data()); }
     bool bufferIsUntouched() const { return pixels == std::vector<std::uint8_t>(pixels.size(), 9); }
 };
 
@@ -35,23 +35,34 @@ TEST_F(Bitmap, LooksOnlyAtSizeAndDepth) {
     EXPECT_TRUE(read());
 }
 
-TEST_F(Bitmap, OfAnotherShapeIsRefused) {
+TEST_F(Bitmap, OfAnotherShapeIsRefusedUnlessItFits) {
     const struct {
         const char* shape;
         std::size_t offset;
         int value;
-    } cases[] = {{"too wide", 18, 3},     {"too high", 23, 1}, {"top down", 25, 0xFF},
-                 {"not 24 bits", 28, 32}, {"8 bits", 28, 8},   {"no pixels", 18, 0},
-                 {"enormous", 21, 0x7F}};
+        bool fits; // where any size is taken
+    } cases[] = {{"too wide", 18, 3, false},   {"too high", 23, 1, false},
+                 {"top down", 25, 255, false}, {"not 24 bits", 28, 32, false},
+                 {"8 bits", 28, 8, false},     {"enormous", 21, 0x7F, false},
+                 {"smaller", 18, 1, true},     {"no pixels", 18, 0, true}};
     for (const auto& c : cases) {
-        writeBitmap("a.bmp", 2, 2);
+        writeBitmap("a.bmp", 2, 2, 0x090909);
         changeByte(c.offset, c.value);
         EXPECT_FALSE(read()) << c.shape;
+        EXPECT_EQ(readBitmap("a.bmp", pixels.data(), 12), c.fits) << c.shape;
+    }
+    for (const int value : {0x7F, 0xFF}) { // 4 * 10^18 pixels, both sizes negative
+        changeByte(21, value);
+        changeByte(25, value);
+        EXPECT_FALSE(readBitmap("a.bmp", pixels.data(), 12));
     }
     writeFile("a.bmp", "BM");
     EXPECT_FALSE(read());
     EXPECT_FALSE(read("none.bmp"));
     EXPECT_TRUE(bufferIsUntouched());
+    writeBitmap("a.bmp", 4, 1, 0x010203);
+    EXPECT_TRUE(readBitmap("a.bmp", pixels.data(), 12));
+    EXPECT_TRUE(pixels[9] == 1 && pixels[11] == 3 && pixels[12] == 9);
 }
 
 TEST_F(Bitmap, ThatEndsEarlyKeepsWhatTheBufferHeld) {

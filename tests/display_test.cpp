@@ -48,6 +48,9 @@ TEST_F(Start, GoesOnWhateverTheDisplaySays) {
     const std::string unsupported = "640x480x65536 (16-bit color/Hicolor) is not supported";
     const std::string found = "16 640 480 7", bySize = "16 640 480 1835008", restore = "restore";
     const DEVMODEA tooSmall = {sizeof(DEVMODEA), 7, 16, 320, 240};
+    const DEVMODEA tooLow = {sizeof(DEVMODEA), 7, 16, 640, 400};
+    const DEVMODEA tooWide = {sizeof(DEVMODEA), 7, 16, 720, 480};
+    const DEVMODEA tooDeep = {sizeof(DEVMODEA), 7, 32, 640, 480};
     const DEVMODEA right = {sizeof(DEVMODEA), 7, 16, 640, 480};
     const struct {
         std::vector<DEVMODEA> modes;
@@ -56,7 +59,10 @@ TEST_F(Start, GoesOnWhateverTheDisplaySays) {
         std::string message;
     } cases[] = {
         {{}, {}, {restore}, unsupported + " | Initialization Error | focus, stop"},
-        {{tooSmall}, {}, {restore}, unsupported + " | Initialization Error | focus, stop"},
+        {{tooLow, tooWide, tooDeep},
+         {},
+         {restore},
+         unsupported + " | Initialization Error | focus, stop"},
         {{tooSmall, tooSmall, right}, {0}, {found, restore}, ""},
         {{right}, {-1, 0}, {found, bySize, restore}, ""},
         {{right},

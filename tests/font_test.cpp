@@ -57,6 +57,7 @@ TEST_F(FontOnScreen, BreaksLinesAndLeavesGaps) {
     EXPECT_NEAR(font.penX, 100 + (c + 20 + testGlyphWidth('D')) * small, 1e-3);
     EXPECT_EQ(font.textWidth(""), 0);
     EXPECT_NEAR(font.textWidth("C\xE4 D"), (c + 20 + testGlyphWidth('D')) * small, 1e-3);
+    EXPECT_NEAR(font.textWidth("C\nCC\nC"), 2 * c * small, 1e-3); // the widest line
 }
 
 TEST_F(FontOnScreen, WritesNumbers) {
@@ -64,9 +65,10 @@ TEST_F(FontOnScreen, WritesNumbers) {
         float value;
         int decimals;
         const char* text;
-    } cases[] = {{3.05F, 2, "3.05"},     {45, 2, "45.00"}, {2.999F, 2, "3.00"}, {7.9F, 0, "7"},
-                 {0, 2, "0.00"},         {0.0F, 0, "0"},   {-3.7F, 0, "-3"},    {0.996F, 2, "1.00"},
-                 {135.07F, 2, "135.07"}, {9.5F, 1, "9.5"}, {0.004F, 2, "0.00"}};
+    } cases[] = {{3.05F, 2, "3.05"}, {45, 2, "45.00"},    {2.999F, 2, "3.00"},
+                 {7.9F, 0, "7"},     {0, 2, "0.00"},      {0.0F, 0, "0"},
+                 {-3.7F, 0, "-3"},   {0.996F, 2, "1.00"}, {135.07F, 2, "135.07"},
+                 {9.5F, 1, "9.5"},   {0.004F, 2, "0.00"}, {-0.25F, 2, "-0.25"}};
     for (const auto& c : cases) {
         machine.drawn.clear();
         font.drawNumber(c.value, c.decimals);
@@ -96,7 +98,7 @@ TEST_F(FontFile, ThatFailsLeavesNoTextOnTheScreen) {
 
 TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
     writeGameFiles();
-    writeFile(fontMetricsFile, "0x21 0310 A1 2 3 4 5 5.5 6 7 8");
+    writeFile(fontMetricsFile, "0x21 0310 A1 2 3 4 5 5.5 6 7 8 B 9 0 4 1");
     ASSERT_TRUE(font.load(fontBaseName, fontMetricsFile));
     EXPECT_EQ(font.firstChar, 33);
     EXPECT_EQ(font.lastChar, 200);
@@ -107,4 +109,25 @@ TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
     EXPECT_EQ(font.glyphBottom[letter], 4);
     EXPECT_EQ(font.glyphLeft[digit], 5.5F);
     EXPECT_EQ(font.textWidth("\xC3"), 10); // codes from 128 on count as negative
+    EXPECT_EQ(font.textWidth("AB"), 2 - 5); // a glyph that goes back
+}
+
+TEST_F(FontFile, HasABaseNameOfAtMost249Bytes) {
+    writeGameFiles();
+    std::string base = "deep/" + std::string(244, 'f');
+    writeMipChain(base, 256, 9);
+    EXPECT_TRUE(font.load(base.c_str(), fontMetricsFile));
+    base += 'f';
+    writeMipChain(base, 256, 9);
+    EXPECT_FALSE(font.load(base.c_str(), fontMetricsFile));
+    EXPECT_EQ(boxes(), Lines{base + " | error | nobody"});
+}
+
+TEST_F(FontFile, MayHavePicturesOfOtherSizes) {
+    writeGameFiles();
+    writeBitmap("graphics/font/font_8.bmp", 256, 256, 0x0B0000);
+    EXPECT_TRUE(font.load(fontBaseName, fontMetricsFile));
+    EXPECT_EQ(font.imageLevels[8][fontSize * fontSize * 3 - 3], 0x0B);
+    writeBitmap("graphics/font/font_8.bmp", 257, 256);
+    EXPECT_FALSE(font.load(fontBaseName, fontMetricsFile));
 }

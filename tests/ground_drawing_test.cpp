@@ -130,19 +130,6 @@ TEST_F(GroundOnScreen, IsDrawnCellByCellInFourQuadrants) {
     }
 }
 
-TEST_F(GroundOnScreen, EndsAfterSixtyRowsWithoutFarSight) {
-    const auto lastRow = [](const View& view) {
-        draw(view);
-        double t = -50;
-        for (const GlCall& call : only(drawn(), {"glTexCoord2f"})) t = std::max(t, call.numbers[1]);
-        return t / 0.25 + 200;
-    };
-    View view = {"", {0, -400, -350}, -1.3, 0, false};
-    EXPECT_EQ(lastRow(view), 261); // row 200 and 60 more, each with its upper edge
-    view.farSight = true;
-    EXPECT_EQ(lastRow(view), 399);
-}
-
 TEST_F(GroundOnScreen, SetsItsStateFirst) {
     const GlCalls always = calls(
         on(GL_DEPTH_TEST), call("glDepthFunc", GL_GREATER), on(GL_CULL_FACE),
@@ -159,4 +146,7 @@ TEST_F(GroundOnScreen, SetsItsStateFirst) {
         draw(settled, false);
         EXPECT_EQ(upTo(drawn(), firstTriangle), always + calls(off(GL_FOG)));
     }
+    level.groundTexCoords.reset(); // its file was refused: there is nothing but the state
+    EXPECT_EQ(draw(settled, true), 0);
+    EXPECT_EQ(drawn(), always + fog + calls(call("glFlush")));
 }

@@ -51,6 +51,7 @@ TEST_F(LevelRun, LeadsToTheNextLevelASecondAfterTheGoal) {
 }
 
 TEST_F(LevelRun, EndsFourSecondsAfterTheTimeIsUp) {
+    bestTimes.slots[0].time = 90;
     Game.goPlayed = 1;
     Game.clock = 0.25F;
     tick(0.25);
@@ -60,12 +61,19 @@ TEST_F(LevelRun, EndsFourSecondsAfterTheTimeIsUp) {
     EXPECT_EQ(Game.clock, -4);
     EXPECT_EQ(Game.levelNumber, 1);
     tick(0.25);
-    EXPECT_TRUE(Game.levelNumber == 3 && Game.stopped);
+    EXPECT_TRUE(Game.levelNumber == 3 && Game.stopped && Game.levelDone);
     EXPECT_EQ(Game.screen, Screen::NameEntry); // 90 seconds are the best of the table
-    EXPECT_EQ(Game.newBestEntry, 0);
-    send(WM_GAME_START_LEVEL); // one too many enters nothing twice
+    EXPECT_EQ(Game.newBestEntry, 1);           // but for those who had them before
+    send(WM_GAME_START_LEVEL);                 // one too many enters nothing twice
     EXPECT_TRUE(Game.screen == Screen::BestTimes && Game.newBestEntry == -1);
-    EXPECT_EQ(bestTimes.slots[1].time, 100);
+    EXPECT_EQ(bestTimes.slots[2].time, 110);
+
+    startGame(); // the next run has its signals again
+    tick(0.25);
+    machine.lines.clear();
+    Game.clock = 0.25F;
+    ticks(2, 0.25);
+    EXPECT_EQ(sounds(), (Lines{"sounds/go.wav", "sounds/timeup.wav"}));
 }
 
 TEST_F(LevelRun, SkipsALevelWithF1) {
@@ -80,6 +88,8 @@ TEST_F(LevelRun, SkipsALevelWithF1) {
     EXPECT_EQ(Game.levelTimes[0] + Game.levelTimes[1], 45 + 25.5F);
     tick(0.1);
     EXPECT_EQ(Game.nameCursor, 0); // the F1 is no letter of the name
+    startGame();
+    EXPECT_EQ(Game.levelTimes[1], 45); // no level of the next run is finished
 }
 
 TEST_F(LevelRun, WaitsForTheMenuToClose) {

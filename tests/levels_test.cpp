@@ -10,6 +10,7 @@
 
 #include "app/game.h"
 #include "data/level_list.h"
+#include "fakes/game_files.h"
 #include "tools/level/command_line.h"
 #include "tools/level/drive.h"
 #include "tools/level/driver.h"

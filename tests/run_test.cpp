@@ -67,14 +67,3 @@ TEST_F(Run, ByGoalIsNamedAndSaved) {
     EXPECT_EQ(sounds(),
               (Lines{menu, menu, go, goal, go, goal, menu, menu, menu, menu, menu, menu}));
 }
-
-TEST_F(Run, ByTimeOutCountsEveryLevelInFull) {
-    const std::string before = readFile("highScore.dat");
-    EXPECT_EQ(play({{shows(Screen::Title), newGame},
-                    {shows(Screen::NameEntry), keys({VK_F1})},
-                    {[] { return Game.nameCursor == 1; }, [] { queueMessage(WM_CLOSE); }}}),
-              0);
-    EXPECT_EQ(bestTimes.slots[0].time, 90);
-    EXPECT_EQ(sounds().back(), "sounds/menu.wav"); // the F1 became a letter
-    EXPECT_EQ(readFile("highScore.dat"), before);  // a closed window saves nothing
-}

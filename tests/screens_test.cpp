@@ -71,6 +71,7 @@ TEST_F(Screens, BestTimesAreShadedTwiceUnderTheMenu) {
         tick(0.1);
         EXPECT_EQ(count(drawn(), call("glColor4f", 0, 0, 0, 0.5)), 2);
         EXPECT_EQ(textsDrawn().back().text, "Quit");
+        EXPECT_FALSE(Game.paused);
         EXPECT_EQ(drawn().back(), call("SwapBuffers"));
     }
     EXPECT_EQ(timesRead("graphics/back.bmp"), 1);
@@ -182,6 +183,10 @@ TEST_F(Screens, TurboGaugeShrinksToTheRight) {
                    call("glVertex2f", 0.986875, -0.9), call("glVertex2f", 0.986875, -0.986875),
                    call("glVertex2f", c.left, -0.986875), call("glEnd"))));
     }
+    const GlCalls state = calls(off(GL_CULL_FACE), off(GL_TEXTURE_2D), off(GL_BLEND), off(GL_FOG),
+                                off(GL_DEPTH_TEST));
+    const GlCalls before = upTo(drawn(), call("glColor3f", 1, 1, 1));
+    EXPECT_EQ(GlCalls(before.end() - 5, before.end()), state);
     Game.turbo = 0;
     tick(0.01);
     EXPECT_EQ(only(drawn(), {"glColor3f"}), (calls(call("glColor3f", 1, 1, 1)))); // the frame

@@ -1,17 +1,27 @@
 #include "fakes/game_files.h"
 
-#include <unistd.h>
-
 #include <fstream>
+#include <random>
 #include <sstream>
 
 namespace fs = std::filesystem;
 
-EmptyFolder::EmptyFolder()
-    : before_(fs::current_path()),
-      folder_(fs::temp_directory_path() / ("glorbix-test-" + std::to_string(getpid()))) {
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
+namespace {
+
+// One that no other run has, or ever had.
+fs::path newFolder() {
+    std::random_device random;
+    for (;;) {
+        const std::string name = "glorbix-test-" + std::to_string(random());
+        if (fs::create_directory(fs::temp_directory_path() / name)) {
+            return fs::temp_directory_path() / name;
+        }
+    }
+}
+
+} // namespace
+
+EmptyFolder::EmptyFolder() : before_(fs::current_path()), folder_(newFolder()) {
     fs::current_path(folder_);
 }
 

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 
+#include "app/display.h"
 #include "data/best_times.h"
 #include "data/font.h"
 #include "sim/camera.h"
@@ -26,6 +27,7 @@ void renew(Object& object) {
 void startAfresh() {
     machine = MachineRecord{};
     renew(Game);
+    displayMode = {};
     renew(viewFrame);
     renew(level);
     renew(marble);

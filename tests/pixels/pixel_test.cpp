@@ -226,17 +226,6 @@ TEST_F(OnScreen, MenuStandsOnTheDarkenedTitle) {
     expectLike(photograph(), expected, "menu", 8);
 }
 
-TEST_F(OnScreen, SmallTextStandsWhereItShould) {
-    Picture expected;
-    font.setScale(smallText);
-    font.setColour(1, 0, 0, 1);
-    font.setPosition(100, 50);
-    font.drawText("Level 1:\nLevel 22:");
-    putText(expected, "Level 1:", 100, 50, 13 / 33.0, {255, 0, 0});
-    putText(expected, "Level 22:", 100, 63, 13 / 33.0, {255, 0, 0});
-    expectLike(photograph(), expected, "small-text", 8, 0.0002);
-}
-
 TEST_F(OnScreen, GaugeAndClockStandOverTheWorld) {
     load({});
     viewFrame.set(eye, pitch, 0, 0);
