@@ -1,7 +1,7 @@
-// The camera behind the marble.
+// The camera behind the marble, and how its view turns the world.
 #include "fakes/play.h"
 #include "sim/camera.h"
-#include "sim/view_frame.h"
+#include "sim/projection.h"
 
 using Camera = Story;
 
@@ -25,8 +25,7 @@ TEST_F(Camera, SettlesBehindAndAboveTheMarble) {
     tick(0.1); // the angles follow from where the camera was
     EXPECT_NEAR(cameraAngleX, -0.8519663, 1e-6);
     EXPECT_EQ(cameraAngleY, 0);
-    const Vector3 q = viewFrame.getRotation() * (marble.getPosition() - viewFrame.getPosition());
-    expectVector(q, 0, 0, 531.507, 1e-3);
+    expectVector(toView(viewFrame, marble.getPosition()), 0, 0, 531.507, 1e-3);
 }
 
 TEST_F(Camera, KeepsClearOfTheGroundAroundItsGoal) {
@@ -52,4 +51,14 @@ TEST_F(Camera, GlidesByTheShareThatItsLagAllows) {
     tick(3); // counts as a tenth of a second
     expectVector(cameraPosition, 0, before.y + 0.1 * (-6200 - before.y),
                  before.z + 0.1 * (-350 - before.z), 1e-3);
+}
+
+TEST(View, TurnsAboutZThenYThenX) {
+    ViewFrame view;
+    view.set({1, 2, 3}, 0.3F, -0.5F, 0.8F);
+    // Worked out with the three rotations one after the other.
+    expectVector(toView(view, {4, -1, 5}), 0.904486, -3.525254, 2.958799, 1e-5);
+    view.set({0, 0, 0}, 0, 0, 0);
+    view.rotation = Matrix3{{1, 1, 1, 0, 0, 0, 0, 0, 0}};
+    EXPECT_EQ(toView(view, {16777216, 1, -16777216}).x, 1); // in floats the one is lost
 }

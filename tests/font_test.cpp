@@ -114,13 +114,12 @@ TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
 
 TEST_F(FontFile, HasABaseNameOfAtMost249Bytes) {
     writeGameFiles();
-    std::string base = "deep/" + std::string(244, 'f');
-    writeMipChain(base, 256, 9);
-    EXPECT_TRUE(font.load(base.c_str(), fontMetricsFile));
-    base += 'f';
-    writeMipChain(base, 256, 9);
-    EXPECT_FALSE(font.load(base.c_str(), fontMetricsFile));
-    EXPECT_EQ(boxes(), Lines{base + " | error | nobody"});
+    const std::string longest = "deep/" + std::string(244, 'f'), tooLong = longest + 'f';
+    for (const std::string& base : {longest, tooLong}) {
+        writeMipChain(base, 256, 9);
+        EXPECT_EQ(font.load(base.c_str(), fontMetricsFile), base == longest);
+    }
+    EXPECT_EQ(boxes(), Lines{tooLong + " | error | nobody"});
 }
 
 TEST_F(FontFile, MayHavePicturesOfOtherSizes) {

@@ -165,14 +165,3 @@ TEST_F(Keyboard, HighscoreGivesUpTheRun) {
     pressKey(VK_SPACE);
     EXPECT_EQ(Game.screen, Screen::Title);
 }
-
-TEST_F(Keyboard, NewGameAndQuitLeaveThroughMessages) {
-    startGame();
-    EXPECT_TRUE(Game.screen == Screen::Level && Game.levelNumber == 1 && !Game.menuOpen);
-    EXPECT_EQ(said("PostMessageA").back(), "1026 0");
-    openMenuAt(MenuItem::Quit);
-    std::filesystem::remove("highScore.dat");
-    pressKey(VK_RETURN);
-    EXPECT_EQ(said("PostMessageA"), Lines{"2 0"});
-    EXPECT_TRUE(machine.quitPosted && std::filesystem::exists("highScore.dat"));
-}

@@ -105,14 +105,6 @@ TEST_F(LevelFile, EndsDirectlyAfterItsLastToken) {
     EXPECT_EQ(boxes(), Lines{});
 }
 
-TEST_F(LevelFile, RefusesNumbersThatAreNone) {
-    for (const char* hole : {"1 2 3 x", "1 2 nan 4", "1 2 3 inf", "1 2 3 1e99", "1 2 3 --4"}) {
-        EXPECT_FALSE(load("holecount= 1 .data " + std::string(hole) + " .end")) << hole;
-    }
-    EXPECT_TRUE(load("holecount= 1 .data 1 2 3 -1e-999 .end")); // that is nothing, but a number
-    EXPECT_EQ(level.holes[0].depth, 0);
-}
-
 TEST_F(LevelFile, RefusesTokensThatAreTooLong) {
     for (const std::size_t length : {250U, 255U, 256U, 5000U}) {
         EXPECT_FALSE(load("texturefile= " + std::string(length, 'b'))) << length;

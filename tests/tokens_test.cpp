@@ -38,9 +38,10 @@ TEST_F(Tokens, AreNumbersTakenWhole) {
                                 {{"+3", 3}, {"-3", -3}, {"0x1F", 31}, {"-0X10", -16}, {"+010", 8}},
                                 {"3x", "3.5", "08", "0x", "-", "+", "--1", "2147483648"});
     expectNumbers<std::uint32_t>(&TokenReader::readUnsigned, {{"-0", 0}}, {"-1", "4294967296"});
-    expectNumbers<float>(&TokenReader::readFloat,
-                         {{"1.5", 1.5F}, {"+.5", 0.5F}, {"-2.", -2.0F}, {"-1e1", -10.0F}},
-                         {"1x", "1.2.3", "1e", "-", "+", "-+1", ".", "1,5", "nan", "0x1"});
+    expectNumbers<float>(
+        &TokenReader::readFloat,
+        {{"1.5", 1.5F}, {"+.5", 0.5F}, {"-2.", -2.0F}, {"-1e1", -10.0F}, {"-1e-999", 0.0F}},
+        {"1x", "1.2.3", "1e", "-", "+", "-+1", ".", "1,5", "nan", "inf", "1e99", "0x1"});
 }
 
 TEST_F(Tokens, HoldNoZeroBytes) {
