@@ -32,7 +32,7 @@ TEST_F(GroundField, AddsUpItsWells) {
     EXPECT_NEAR(level.heightAt(0, 90), 31.62278, 1e-4);
     makeGround({well, {40, 0, 30, -50}});
     EXPECT_NEAR(level.heightAt(0, 0), 100 - 50 * 30 / 50.0, 1e-4);
-    makeGround({{0, 0, 30, 16777216}, {0, 0, 30, 1}, {0, 0, 30, -16777216}});
+    makeGround({{0, 0, 30, 1e8F}, {0, 0, 30, 1}, {0, 0, 30, -1e8F}});
     EXPECT_EQ(level.heightAt(0, 0), 1); // a sum in floats loses the one between the large
 }
 
