@@ -60,5 +60,5 @@ TEST(View, TurnsAboutZThenYThenX) {
     expectVector(toView(view, {4, -1, 5}), 0.904486, -3.525254, 2.958799, 1e-5);
     view.set({0, 0, 0}, 0, 0, 0);
     view.rotation = Matrix3{{1, 1, 1, 0, 0, 0, 0, 0, 0}};
-    EXPECT_EQ(toView(view, {16777216, 1, -16777216}).x, 1); // in floats the one is lost
+    EXPECT_EQ(toView(view, {1e8F, 1, -1e8F}).x, 1); // in floats the one is lost
 }
