@@ -2,7 +2,7 @@
 # The real game on a virtual display, to be steered by keys and looked at: source this file.
 #
 #   startGame BINARY DATA_FOLDER    starts the game in a folder of its own, $gameFolder
-#   answerBox TITLE                 waits for the message box and closes it
+#   answerBox TITLE                 waits for the message box and closes it by Return
 #   press KEY...                    presses keys one after the other, by their X names
 #   hold KEY... / release KEY...    keys that stay down
 #   shoot FILE                      writes a picture of what the player sees
@@ -19,22 +19,20 @@ gameProcess=''
 # Without -noreset the server would start over whenever its last client leaves, as each look at the
 # windows is while the game has not connected yet.
 startDisplay() {
-    local pipe
-    pipe=$(mktemp -u)
+    local pipe="$gameFolder/display"
     mkfifo "$pipe"
-    Xvfb -displayfd 3 -screen 0 1280x960x24 -nolisten tcp -noreset 3> "$pipe" > /dev/null 2>&1 &
+    Xvfb -displayfd 3 -screen 0 "${displaySize:-1280x960}x24" -nolisten tcp -noreset \
+        3> "$pipe" > /dev/null 2>&1 &
     displayProcess=$!
     read -r -t 20 gameDisplay < "$pipe" || {
-        rm -f "$pipe"
         echo "no virtual display could be started" >&2
         return 1
     }
-    rm -f "$pipe"
+    rm "$pipe"
     gameDisplay=":$gameDisplay"
 }
 
-# The window of that title; nothing while there is none to be seen. (xdotool's own search does not
-# find message boxes.)
+# The window of that title; nothing while there is none to be seen.
 windowOf() {
     DISPLAY=$gameDisplay xwininfo -name "$1" 2> /dev/null |
         awk '/Window id/ { id = $4 } /IsViewable/ { print id }'
@@ -72,14 +70,13 @@ startGame() {
     gameProcess=$!
 }
 
-# There is no window manager, so nobody but us gives the box the keyboard, or takes it back.
+# There is no window manager, so the game itself gives the box the keyboard and takes it back.
 answerBox() {
     waitForWindow "$1"
     sleep 0.5
-    DISPLAY=$gameDisplay xdotool windowfocus "$(windowOf "$1")" key Return
+    press Return
     waitForWindow Glorbix
     sleep 1
-    DISPLAY=$gameDisplay xdotool windowfocus "$(windowOf Glorbix)"
 }
 
 press() {

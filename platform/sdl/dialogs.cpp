@@ -2,7 +2,10 @@
 
 #include <SDL.h>
 
+#include "platform/sdl/box_picture.h"
 #include "platform/sdl/errors.h"
+#include "platform/sdl/machine.h"
+#include "platform/sdl/message_box.h"
 #include "platform/sdl/window.h"
 #include "platform/windows_api.h"
 
@@ -10,17 +13,37 @@ namespace {
 
 constexpr int okButton = 1; // what the box answers when its one button is pressed
 
+bool showOwnBox(const BoxWords& words, SDL_Window* over) {
+    MessageBox box;
+    if (!box.open(words, over)) {
+        return false;
+    }
+    box.wait();
+    box.close();
+    return true;
+}
+
+void showBoxOfSdl(const BoxWords& words, SDL_Window* over) {
+    const Uint32 icon = words.alarming ? SDL_MESSAGEBOX_ERROR : SDL_MESSAGEBOX_INFORMATION;
+    SDL_ShowSimpleMessageBox(icon, words.caption.c_str(), words.text.c_str(), over);
+    SDL_ResetKeyboard();
+}
+
 } // namespace
 
-// The box belongs to the game's window even where it has no owner, or it would open behind the full
-// screen. Keys let go while it was open never reached the game, hence the reset.
+// A box without an owner belongs to the game's window too, or it would open behind the full screen.
+// Without a display its text is on standard error only.
 int WINAPI MessageBoxA(HWND owner, const char* text, const char* caption, UINT type) {
-    const std::string words = text ? text : "";
-    const std::string title = caption ? caption : "Error"; // the title of a box without one
-    complain(title + ": " + words);
+    const BoxWords words = {caption ? caption : "Error", text ? text : "",
+                            (type & MB_ICONHAND) != 0};
+    complain(words.caption + ": " + words.text);
+    if (!startVideo()) {
+        return okButton;
+    }
     const HWND parent = owner ? owner : currentWindow();
-    const Uint32 icon = (type & MB_ICONHAND) ? SDL_MESSAGEBOX_ERROR : SDL_MESSAGEBOX_INFORMATION;
-    SDL_ShowSimpleMessageBox(icon, title.c_str(), words.c_str(), parent ? parent->sdl : nullptr);
-    if (SDL_WasInit(SDL_INIT_VIDEO)) SDL_ResetKeyboard();
+    SDL_Window* over = parent ? parent->sdl : nullptr;
+    if (!showOwnBox(words, over)) {
+        showBoxOfSdl(words, over);
+    }
     return okButton;
 }

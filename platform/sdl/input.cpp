@@ -1,7 +1,5 @@
 #include "platform/sdl/input.h"
 
-#include <SDL.h>
-
 #include "platform/sdl/keyboard.h"
 #include "platform/sdl/messages.h"
 #include "platform/sdl/window.h"
@@ -12,17 +10,6 @@ void takeFocus(WindowHandle& window, bool focused) {
     if (window.focused == focused) return;
     window.focused = focused;
     queueInput(&window, focused ? WM_SETFOCUS : WM_KILLFOCUS);
-}
-
-void takeWindowEvent(WindowHandle& window, Uint8 event) {
-    switch (event) {
-    case SDL_WINDOWEVENT_CLOSE: queueInput(&window, WM_CLOSE); break;
-    case SDL_WINDOWEVENT_FOCUS_GAINED: takeFocus(window, true); break;
-    case SDL_WINDOWEVENT_FOCUS_LOST: takeFocus(window, false); break;
-    case SDL_WINDOWEVENT_EXPOSED:
-    case SDL_WINDOWEVENT_SIZE_CHANGED: window.needsPaint = true; break;
-    default: break;
-    }
 }
 
 // Keys with Alt belong to the system. Two of them mean something, the others stay unheard.
@@ -46,6 +33,21 @@ void takeKeyDown(WindowHandle& window, const SDL_KeyboardEvent& event) {
 
 } // namespace
 
+void takeGameWindowEvent(const SDL_WindowEvent& event) {
+    const HWND window = currentWindow();
+    if (!window) {
+        return;
+    }
+    switch (event.event) {
+    case SDL_WINDOWEVENT_CLOSE: queueInput(window, WM_CLOSE); break;
+    case SDL_WINDOWEVENT_FOCUS_GAINED: takeFocus(*window, true); break;
+    case SDL_WINDOWEVENT_FOCUS_LOST: takeFocus(*window, false); break;
+    case SDL_WINDOWEVENT_EXPOSED:
+    case SDL_WINDOWEVENT_SIZE_CHANGED: window->needsPaint = true; break;
+    default: break;
+    }
+}
+
 // The signals that ask a process to end arrive as SDL_QUIT.
 void gatherInput() {
     const HWND window = currentWindow();
@@ -53,7 +55,7 @@ void gatherInput() {
     while (window && SDL_PollEvent(&event)) {
         switch (event.type) {
         case SDL_QUIT: queueInput(window, WM_CLOSE); break;
-        case SDL_WINDOWEVENT: takeWindowEvent(*window, event.window.event); break;
+        case SDL_WINDOWEVENT: takeGameWindowEvent(event.window); break;
         case SDL_KEYDOWN: takeKeyDown(*window, event.key); break;
         default: break;
         }

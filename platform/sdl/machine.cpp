@@ -20,9 +20,15 @@ void setHints() {
 }
 
 // Without a display SDL falls back to one that nobody sees, which counts only when asked for.
-bool isDisplaySeen() {
-    const bool offscreen = std::string(SDL_GetCurrentVideoDriver()) == "offscreen";
-    return !offscreen || SDL_GetHint(SDL_HINT_VIDEODRIVER);
+bool isDisplayWanted() {
+    return isDisplaySeen() || SDL_GetHint(SDL_HINT_VIDEODRIVER);
+}
+
+// Message boxes are painted without OpenGL where SDL knows how.
+void setPaintHint() {
+    if (std::string(SDL_GetCurrentVideoDriver()) != "wayland") {
+        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    }
 }
 
 bool fail(const std::string& why) {
@@ -34,7 +40,8 @@ bool fail(const std::string& why) {
 bool initVideo() {
     setHints();
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return fail(SDL_GetError());
-    if (!isDisplaySeen()) return fail("neither Wayland nor X11 answers");
+    if (!isDisplayWanted()) return fail("neither Wayland nor X11 answers");
+    setPaintHint();
     SDL_StopTextInput(); // an input method would keep the letters of the name entry to itself
     return true;
 }
@@ -44,6 +51,11 @@ bool initVideo() {
 bool startVideo() {
     static const bool started = initVideo();
     return started;
+}
+
+bool isDisplaySeen() {
+    const std::string driver = SDL_GetCurrentVideoDriver();
+    return driver != "offscreen" && driver != "dummy";
 }
 
 void stopMachine() {

@@ -5,5 +5,9 @@
 // there is no display; it is not tried again.
 bool startVideo();
 
+// Whether a player can see the display and press keys on it: false on the drivers of SDL that
+// keep windows in memory only. Video must have started.
+bool isDisplaySeen();
+
 // Gives everything back in the right order: music, sounds, the drawing surface, the window, SDL.
 void stopMachine();

@@ -8,6 +8,7 @@
 
 #include "platform/sdl/display.h"
 #include "platform/sdl/errors.h"
+#include "platform/sdl/frame_pace.h"
 #include "platform/sdl/framebuffer.h"
 #include "platform/sdl/window.h"
 #include "platform/windows_api.h"
@@ -76,6 +77,15 @@ bool prepareSurface(const WindowHandle& window) {
     SDL_GL_SetSwapInterval(1);
     SDL_GL_MakeCurrent(window.sdl, nullptr);
     return true;
+}
+
+void showPicture(const WindowHandle& window) {
+    int width = 0;
+    int height = 0;
+    SDL_GL_GetDrawableSize(window.sdl, &width, &height);
+    surface.framebuffer.copyToWindow(width, height);
+    SDL_GL_SwapWindow(window.sdl);
+    surface.framebuffer.bind();
 }
 
 bool isCurrent() {
@@ -154,11 +164,12 @@ BOOL WINAPI wglDeleteContext(HGLRC context) {
 BOOL WINAPI SwapBuffers(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
     if (!window || !isCurrent()) return FALSE;
-    int width = 0;
-    int height = 0;
-    SDL_GL_GetDrawableSize(window->sdl, &width, &height);
-    surface.framebuffer.copyToWindow(width, height);
-    SDL_GL_SwapWindow(window->sdl);
-    surface.framebuffer.bind();
+    if (isWindowSeen()) {
+        showPicture(*window);
+        waitForNextFrame();
+    } else {
+        glFlush(); // OpenGL keeps a queue of its own
+        waitUnseen();
+    }
     return TRUE;
 }

@@ -92,6 +92,11 @@ HWND currentWindow() {
     return window.sdl ? &window : nullptr;
 }
 
+bool isWindowSeen() {
+    constexpr Uint32 unseen = SDL_WINDOW_HIDDEN | SDL_WINDOW_MINIMIZED;
+    return window.sdl && (SDL_GetWindowFlags(window.sdl) & unseen) == 0;
+}
+
 void coverScreen() {
     if (window.sdl && window.visible) applyFullScreen(true);
 }

@@ -23,6 +23,9 @@ struct WindowHandle {
 // The window, null before CreateWindowExA and after its end.
 HWND currentWindow();
 
+// Whether the window is on the desktop: neither hidden nor minimised.
+bool isWindowSeen();
+
 // Makes the window, where there is one, cover the screen; or takes it off the screen.
 void coverScreen();
 void uncoverScreen();

@@ -1,0 +1,189 @@
+#include "platform/sdl/message_box.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/sdl/input.h"
+#include "platform/sdl/machine.h"
+
+namespace {
+
+constexpr int lookInterval = 100;         // milliseconds; a signal may wake no one
+constexpr Uint64 firstRepeatWithin = 700; // milliseconds until a held key repeats
+constexpr int frameAllowance = 48;        // pixels for a title bar and borders
+constexpr double heightPerScale = 360.0;  // of the display, for each step of the scale
+constexpr int leastScale = 2;
+
+bool closesBox(const SDL_Keysym& key) {
+    switch (key.sym) {
+    case SDLK_RETURN:
+    case SDLK_KP_ENTER:
+    case SDLK_SPACE:
+    case SDLK_ESCAPE: return true;
+    case SDLK_F4: return (key.mod & KMOD_ALT) != 0;
+    default: return false;
+    }
+}
+
+std::bitset<SDL_NUM_SCANCODES> heldKeys() {
+    std::bitset<SDL_NUM_SCANCODES> held;
+    int count = 0;
+    const Uint8* down = SDL_GetKeyboardState(&count);
+    for (int i = 0; i < std::min<int>(count, SDL_NUM_SCANCODES); ++i) {
+        held[static_cast<std::size_t>(i)] = down[i] != 0;
+    }
+    return held;
+}
+
+// For SDL_FilterEvents: drops what was typed, and what the window that is gone still reports.
+int keepForGame(void* boxWindow, SDL_Event* event) {
+    const Uint32 box = *static_cast<const Uint32*>(boxWindow);
+    switch (event->type) {
+    case SDL_KEYDOWN:
+    case SDL_KEYUP: return 0;
+    case SDL_WINDOWEVENT: return event->window.windowID == box ? 0 : 1;
+    default: return 1;
+    }
+}
+
+bool isShown(SDL_Window* window) {
+    return window && (SDL_GetWindowFlags(window) & SDL_WINDOW_SHOWN) != 0;
+}
+
+void requestEnd() {
+    SDL_Event quit = {};
+    quit.type = SDL_QUIT;
+    SDL_PushEvent(&quit);
+}
+
+} // namespace
+
+bool MessageBox::open(const BoxWords& box, SDL_Window* over) {
+    words = box;
+    gameWindow = isShown(over) ? over : nullptr;
+    drawnOn = SDL_GL_GetCurrentWindow();
+    context = SDL_GL_GetCurrentContext();
+    opened = SDL_GetTicks64();
+    heldBefore = heldKeys();
+    cursor = SDL_ShowCursor(SDL_QUERY);
+
+    const int display = std::max(over ? SDL_GetWindowDisplayIndex(over) : 0, 0);
+    SDL_Rect room = {0, 0, 640, 480};
+    SDL_GetDisplayUsableBounds(display, &room);
+    scale = std::max(leastScale, static_cast<int>(std::lround(room.h / heightPerScale)));
+    const BoxLayout layout =
+        layOutBox(words, scale, room.w - frameAllowance, room.h - frameAllowance);
+    const int centre = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(display));
+    sdl = SDL_CreateWindow(words.caption.c_str(), centre, centre, layout.width, layout.height,
+                           SDL_WINDOW_HIDDEN | SDL_WINDOW_ALWAYS_ON_TOP | SDL_WINDOW_ALLOW_HIGHDPI);
+    if (!sdl) {
+        return false;
+    }
+    // X11 wants to know before the window is shown, Wayland after.
+    const bool modal = !gameWindow || SDL_SetWindowModalFor(sdl, gameWindow) == 0;
+    SDL_ShowWindow(sdl);
+    if (!modal) {
+        SDL_SetWindowModalFor(sdl, gameWindow);
+    }
+    SDL_RaiseWindow(sdl);
+    SDL_ShowCursor(SDL_ENABLE);
+    if (!paint()) {
+        close();
+        return false;
+    }
+    return true;
+}
+
+bool MessageBox::paint() {
+    SDL_Surface* surface = SDL_GetWindowSurface(sdl);
+    int width = 0; // points
+    SDL_GetWindowSize(sdl, &width, nullptr);
+    if (!surface || width <= 0) {
+        return false;
+    }
+    const int pixelsInPoint = std::max(1, surface->w / width);
+    const BoxLayout layout = layOutBox(words, scale * pixelsInPoint, surface->w, surface->h);
+    button = paintBox(*surface, words, layout);
+    return SDL_UpdateWindowSurface(sdl) == 0;
+}
+
+void MessageBox::wait() {
+    const bool answerable = isDisplaySeen();
+    for (;;) {
+        SDL_Event event;
+        const bool came =
+            (answerable ? SDL_WaitEventTimeout(&event, lookInterval) : SDL_PollEvent(&event)) != 0;
+        if (came ? take(event) : !answerable) {
+            return;
+        }
+    }
+}
+
+bool MessageBox::take(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_QUIT: requestEnd(); return true;
+    case SDL_WINDOWEVENT: return takeWindowEvent(event.window);
+    case SDL_KEYDOWN: takeKeyDown(event.key); return false;
+    case SDL_KEYUP: return pressed != SDL_SCANCODE_UNKNOWN && event.key.keysym.scancode == pressed;
+    case SDL_MOUSEBUTTONDOWN: clicking = isOnButton(event.button); return false;
+    case SDL_MOUSEBUTTONUP: return clicking && isOnButton(event.button);
+    default: return false;
+    }
+}
+
+bool MessageBox::takeWindowEvent(const SDL_WindowEvent& event) {
+    if (event.windowID != SDL_GetWindowID(sdl)) {
+        if (event.event == SDL_WINDOWEVENT_CLOSE) {
+            requestEnd();
+            return true;
+        }
+        takeGameWindowEvent(event);
+        return false;
+    }
+    switch (event.event) {
+    case SDL_WINDOWEVENT_CLOSE: return true;
+    case SDL_WINDOWEVENT_EXPOSED:
+    case SDL_WINDOWEVENT_SIZE_CHANGED: paint(); return false;
+    default: return false;
+    }
+}
+
+// A key that is still down from the play before repeats as if it were pressed anew.
+void MessageBox::takeKeyDown(const SDL_KeyboardEvent& event) {
+    const SDL_Scancode key = event.keysym.scancode;
+    const bool still =
+        heldBefore[static_cast<std::size_t>(key)] && SDL_GetTicks64() - opened < firstRepeatWithin;
+    if (!event.repeat && !still && closesBox(event.keysym)) {
+        pressed = key;
+    }
+}
+
+bool MessageBox::isOnButton(const SDL_MouseButtonEvent& event) const {
+    const SDL_Surface* surface = SDL_GetWindowSurface(sdl);
+    int width = 0; // points
+    int height = 0;
+    SDL_GetWindowSize(sdl, &width, &height);
+    if (!surface || width <= 0 || height <= 0 || event.windowID != SDL_GetWindowID(sdl)) {
+        return false;
+    }
+    const SDL_Point at = {event.x * surface->w / width, event.y * surface->h / height};
+    return event.button == SDL_BUTTON_LEFT && SDL_PointInRect(&at, &button);
+}
+
+void MessageBox::close() {
+    Uint32 id = SDL_GetWindowID(sdl);
+    const bool hadKeyboard = SDL_GetKeyboardFocus() == sdl;
+    SDL_DestroyWindow(sdl);
+    sdl = nullptr;
+    if (context && SDL_GL_GetCurrentContext() != context) {
+        SDL_GL_MakeCurrent(drawnOn, context);
+    }
+    SDL_ShowCursor(cursor);
+    if (gameWindow && hadKeyboard) {
+        SDL_RaiseWindow(gameWindow);
+        SDL_SetWindowInputFocus(gameWindow); // where no window manager does it
+    }
+    SDL_PumpEvents();
+    SDL_ResetKeyboard();
+    SDL_FilterEvents(keepForGame, &id);
+}
