@@ -10,7 +10,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds shortestFrame(4);
-constexpr int unseenFrame = 50; // milliseconds
+constexpr int unseenFrame = 100; // milliseconds
 
 Clock::time_point lastFrame;
 

@@ -6,5 +6,5 @@
 // vertical sync holds the game back.
 void waitForNextFrame();
 
-// For a game that nobody sees: returns after 50 ms, or as soon as an event of SDL waits.
+// For a game that nobody sees: returns after 0.1 s, or as soon as an event of SDL waits.
 void waitUnseen();

@@ -111,8 +111,7 @@ void MessageBox::wait() {
     const bool answerable = isDisplaySeen();
     for (;;) {
         SDL_Event event;
-        const bool came =
-            (answerable ? SDL_WaitEventTimeout(&event, lookInterval) : SDL_PollEvent(&event)) != 0;
+        const bool came = SDL_WaitEventTimeout(&event, answerable ? lookInterval : 1) != 0;
         if (came ? take(event) : !answerable) {
             return;
         }
