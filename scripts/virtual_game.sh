@@ -4,6 +4,7 @@
 #   startGame BINARY DATA_FOLDER    starts the game in a folder of its own, $gameFolder
 #   answerBox TITLE                 waits for the message box and closes it by Return
 #   press KEY...                    presses keys one after the other, by their X names
+#   pressQuickly KEY...             the same, ten keys a second however busy the machine is
 #   hold KEY... / release KEY...    keys that stay down
 #   shoot FILE                      writes a picture of what the player sees
 #   waitForEnd SECONDS              waits until the game has ended; its exit code
@@ -86,6 +87,8 @@ press() {
         sleep 0.3
     done
 }
+
+pressQuickly() { DISPLAY=$gameDisplay xdotool key --delay 100 "$@"; }
 
 hold() { DISPLAY=$gameDisplay xdotool keydown "$@"; }
 
