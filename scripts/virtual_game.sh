@@ -39,11 +39,18 @@ windowOf() {
         awk '/Window id/ { id = $4 } /IsViewable/ { print id }'
 }
 
-# Waits until a window of that title is there; a busy machine takes its time.
+hasKeyboard() {
+    local window
+    window=$(windowOf "$1")
+    [ -n "$window" ] &&
+        [ $((window)) -eq "$(DISPLAY=$gameDisplay xdotool getwindowfocus 2> /dev/null || echo 0)" ]
+}
+
+# Waits until a window of that title has the keyboard; a busy machine takes its time.
 waitForWindow() {
     local patience=$((SECONDS + 60))
     while [ "$SECONDS" -lt "$patience" ]; do
-        [ -z "$(windowOf "$1")" ] || return 0
+        ! hasKeyboard "$1" || return 0
         if ! kill -0 "$gameProcess" 2> /dev/null; then
             echo "the game ended before it showed '$1':" >&2
             cat "$gameFolder/log" >&2
@@ -74,7 +81,6 @@ startGame() {
 # There is no window manager, so the game itself gives the box the keyboard and takes it back.
 answerBox() {
     waitForWindow "$1"
-    sleep 0.5
     press Return
     waitForWindow Glorbix
     sleep 1

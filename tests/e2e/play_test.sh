@@ -17,11 +17,15 @@ fail() {
 # How much of the screen differs between two pictures, in pixels.
 difference() { compare -metric AE -fuzz 5% "$1" "$2" null: 2>&1 || true; }
 
+# Takes pictures until one differs from the one before the last key.
 expectChange() { # BEFORE AFTER WHAT
-    local changed
-    changed=$(difference "$1" "$2")
-    awk -v changed="$changed" 'BEGIN { exit !(changed > 300) }' ||
-        fail "$3 (only $changed pixels changed)"
+    local patience=$((SECONDS + 30)) changed=0
+    while [ "$SECONDS" -lt "$patience" ]; do
+        shoot "$2"
+        changed=$(difference "$1" "$2")
+        ! awk -v changed="$changed" 'BEGIN { exit !(changed > 300) }' || return 0
+    done
+    fail "$3 (only $changed pixels changed)"
 }
 
 levels=$(awk '{ print $1; exit }' "$2/maps/maplist.dat")
@@ -31,7 +35,6 @@ startGame "$1" "$2"
 answerBox Notice
 shoot e2e_title.png
 press Escape
-shoot e2e_menu.png
 expectChange e2e_title.png e2e_menu.png "Escape does not open the menu"
 
 press Return
@@ -45,7 +48,6 @@ sleep 1
 shoot e2e_name_entry.png
 press j o e
 sleep 1
-shoot e2e_best_times.png
 expectChange e2e_name_entry.png e2e_best_times.png "the name entry does not end"
 
 [ ! -e "$gameFolder/highScore.dat" ] || fail "the best times were written before Quit"
