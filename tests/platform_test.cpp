@@ -1,7 +1,6 @@
 // The machine behind the door: what can be decided without a display, and the order of messages.
 #include <array>
-#include <filesystem>
-#include <fstream>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,11 +11,9 @@
 #include "platform/sdl/key_map.h"
 #include "platform/sdl/letterbox.h"
 #include "platform/sdl/midi_file.h"
-#include "platform/sdl/working_directory.h"
 #include "platform/windows_api.h"
 
 using namespace std::string_view_literals;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -92,26 +89,6 @@ TEST(KeyMap, GoesByLabelForLettersAndByPlaceForTheRest) {
              Case{"a key without a code", SDL_SCANCODE_MUTE, SDLK_MUTE, false, 0},
          })
         EXPECT_EQ(virtualKeyFor(c.place, c.label, c.numberLock), c.key) << c.what;
-}
-
-TEST(WorkingDirectory, LinksTheDataAndKeepsWhatIsThePlayersOwn) {
-    const fs::path root = fs::temp_directory_path() / "glorbix_platform_test";
-    fs::remove_all(root);
-    for (const char* folder : {"data/maps", "data/graphics", "data/sounds", "own/sounds"})
-        fs::create_directories(root / folder);
-    EXPECT_FALSE(findGameData({root / "none", root / "data"})) << "no list of levels yet";
-    std::ofstream(root / "data/maps/maplist.dat") << "levels=0";
-    EXPECT_EQ(findGameData({root / "none", root / "data"}), root / "data");
-
-    fs::create_directory_symlink(root / "moved", root / "own/maps");
-    std::string why;
-    ASSERT_TRUE(linkGameData(root / "data", root / "own", why)) << why;
-    EXPECT_EQ(fs::read_symlink(root / "own/maps"), root / "data/maps");
-    EXPECT_EQ(fs::read_symlink(root / "own/graphics"), root / "data/graphics");
-    EXPECT_FALSE(fs::is_symlink(root / "own/sounds"));
-    EXPECT_FALSE(linkGameData(root / "data", root / "none", why));
-    EXPECT_NE(why.find("none/maps"), std::string::npos) << why;
-    fs::remove_all(root);
 }
 
 LRESULT CALLBACK leaveAlone(HWND window, UINT message, WPARAM, LPARAM) {

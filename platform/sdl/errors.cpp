@@ -66,7 +66,8 @@ DWORD WINAPI FormatMessageA(DWORD flags, const void*, DWORD error, DWORD, char* 
     const bool known = error < errors.texts.size();
     const std::string text = known ? errors.texts[error] : "Error " + std::to_string(error) + ".";
     char* copy = newText(text);
-    std::memcpy(buffer, &copy, sizeof copy); // the buffer is the address of the caller's pointer
+    // The buffer is the address of the caller's pointer.
+    std::memcpy(buffer, static_cast<const void*>(&copy), sizeof copy);
     return copy ? static_cast<DWORD>(text.size()) : 0;
 }
 

@@ -14,7 +14,7 @@ SHORT WINAPI GetAsyncKeyState(int key) {
     int count = 0;
     const Uint8* down = SDL_GetKeyboardState(&count);
     const bool numberLock = (SDL_GetModState() & KMOD_NUM) != 0;
-    for (int i = 0; i < count; ++i) {
+    for (int i = SDL_SCANCODE_A; i < count; ++i) { // the first that names a key
         const auto place = static_cast<SDL_Scancode>(i);
         if (down[i] && virtualKeyFor(place, SDL_GetKeyFromScancode(place), numberLock) == key)
             return held;

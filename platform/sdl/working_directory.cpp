@@ -1,5 +1,6 @@
 #include "platform/sdl/working_directory.h"
 
+#include <cstdlib>
 #include <memory>
 
 #include <SDL.h>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr const char* listOfLevels = "maps/maplist.dat";
 constexpr const char* dataFolders[] = {"maps", "graphics", "sounds"};
+constexpr const char* timesMayBeLost = "; best times may be lost";
 
 struct SdlFree {
     void operator()(char* text) const { SDL_free(text); }
@@ -25,72 +27,99 @@ fs::path folderOfProgram() {
     return folder ? fs::path(folder.get()) : fs::path();
 }
 
-// Beside the program, beside a build tree with the program in it or one folder deeper, installed.
+// Beside the program, beside a build tree with the program in it or one folder deeper, installed
+// and perhaps moved since, installed.
 std::vector<fs::path> placesOfData() {
     std::vector<fs::path> places = {fs::path(".")};
     const fs::path program = folderOfProgram();
-    if (!program.empty())
-        for (const char* way : {"game", "../game", "../../game"})
+    if (!program.empty()) {
+        for (const char* way : {"game", "../game", "../../game", GLORBIX_DATA_FROM_PROGRAM}) {
             places.push_back(program / way);
+        }
+    }
     places.emplace_back(GLORBIX_DATA_DIR);
     return places;
 }
 
-// $XDG_DATA_HOME/glorbix, which is made where it is missing; empty when that fails.
-fs::path ownFolder() {
+// The player's own folder, which is made where it is missing; empty, and why, when that fails.
+fs::path makeOwnFolder(std::string& why) {
+    const char* home = std::getenv("XDG_DATA_HOME");
+    if (home && *home != '/') unsetenv("XDG_DATA_HOME"); // a relative path is not valid there
     const SdlText folder(SDL_GetPrefPath(nullptr, "glorbix"));
-    return folder ? fs::path(folder.get()) : fs::path();
+    if (folder) return folder.get();
+    why = std::string("there is no folder for the player's files: ") + SDL_GetError();
+    return {};
+}
+
+// A link of ours has a lone dot in its target, which tells it from the player's own.
+fs::path targetOfLink(const fs::path& data, const char* folder) {
+    return data / "." / folder;
+}
+
+bool isOurTarget(const fs::path& target) {
+    return target.parent_path().filename() == ".";
+}
+
+bool linkOne(const fs::path& target, const fs::path& link, std::error_code& error) {
+    const bool isLink = fs::is_symlink(fs::symlink_status(link, error));
+    if (isLink) {
+        const fs::path before = fs::read_symlink(link, error);
+        const bool leadsNowhere = !fs::exists(link, error);
+        if (before == target || (!isOurTarget(before) && !leadsNowhere)) return true;
+        if (!isOurTarget(before)) complain(link.string() + " led nowhere, and is linked anew");
+        if (!fs::remove(link, error)) return false;
+    } else if (fs::exists(link, error)) {
+        return true;
+    }
+    fs::create_directory_symlink(target, link, error);
+    return !error;
+}
+
+bool enter(const fs::path& folder, std::string& why) {
+    std::error_code error;
+    fs::current_path(folder, error);
+    if (error) why = "cannot enter " + folder.string() + ": " + error.message();
+    return !error;
 }
 
 bool canWriteHere() {
     return access(".", W_OK) == 0;
 }
 
-bool linkOne(const fs::path& target, const fs::path& link, std::error_code& error) {
-    const bool isLink = fs::is_symlink(fs::symlink_status(link, error));
-    if (!isLink && fs::exists(link, error)) return true;
-    if (isLink && fs::read_symlink(link, error) == target) return true;
-    if (isLink && !fs::remove(link, error)) return false;
-    fs::create_directory_symlink(target, link, error);
-    return !error;
-}
-
-bool enter(const fs::path& folder) {
-    std::error_code error;
-    fs::current_path(folder, error);
-    return !error;
-}
-
-// The last resort: the data's own folder, where the best times may not be kept.
-bool enterWithoutOwnFolder(const fs::path& data, const std::string& reason) {
-    complain(reason + "; best times may be lost");
-    return enter(data);
-}
-
-bool enterOwnFolder(const fs::path& data) {
-    const fs::path own = ownFolder();
-    std::string why = "there is no folder for the player's files";
-    if (own.empty() || !linkGameData(data, own, why)) return enterWithoutOwnFolder(data, why);
-    return enter(own) || enterWithoutOwnFolder(data, "cannot enter " + own.string());
+bool enterOwnFolder(const fs::path& data, std::string& why) {
+    const fs::path own = makeOwnFolder(why);
+    if (own.empty() || !linkGameData(data, own, why) || !enter(own, why)) return false;
+    if (!canWriteHere()) complain("cannot write to " + own.string() + timesMayBeLost);
+    return true;
 }
 
 } // namespace
 
 std::optional<fs::path> findGameData(const std::vector<fs::path>& folders) {
     std::error_code ignored;
-    for (const fs::path& folder : folders)
+    for (const fs::path& folder : folders) {
         if (fs::is_regular_file(folder / listOfLevels, ignored)) return folder;
+    }
     return {};
 }
 
 bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
     for (const char* folder : dataFolders) {
         std::error_code error;
-        if (linkOne(data / folder, own / folder, error)) continue;
+        if (linkOne(targetOfLink(data, folder), own / folder, error)) continue;
         why = "cannot make the link " + (own / folder).string() + ": " + error.message();
         return false;
     }
     return true;
+}
+
+bool enterPlayerFolder(const fs::path& data, std::string& why) {
+    std::string whyNotOwn;
+    if (enterOwnFolder(data, whyNotOwn)) return true;
+    complain(whyNotOwn + timesMayBeLost);
+    if (enter(data, why)) return true;
+    why = "The game " + why + ".";
+    return false;
 }
 
 bool settleWorkingDirectory(std::string& why) {
@@ -104,5 +133,5 @@ bool settleWorkingDirectory(std::string& why) {
     if (*found == places.front() && canWriteHere()) return true;
     std::error_code error;
     const fs::path data = fs::canonical(*found, error);
-    return enterOwnFolder(error ? *found : data);
+    return enterPlayerFolder(error ? *found : data, why);
 }

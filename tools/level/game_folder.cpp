@@ -12,6 +12,13 @@ bool isGameFolder(const path& folder) {
     return std::filesystem::is_directory(folder / "graphics", ignored);
 }
 
+path installedData() {
+    std::error_code ignored;
+    const path program = std::filesystem::read_symlink("/proc/self/exe", ignored);
+    const path data = program.parent_path() / GLORBIX_DATA_FROM_PROGRAM;
+    return isGameFolder(data) ? data : path(GLORBIX_DATA_DIR);
+}
+
 path gameFolderOf(const path& file) {
     for (path folder = file.parent_path();; folder = folder.parent_path()) {
         if (isGameFolder(folder)) return folder;
@@ -19,7 +26,7 @@ path gameFolderOf(const path& file) {
     }
     if (isGameFolder(".")) return ".";
     if (isGameFolder("game")) return "game";
-    return GLORBIX_DATA_DIR;
+    return installedData();
 }
 
 } // namespace
