@@ -1,6 +1,7 @@
 # Where the installed game finds its data: from the folder of its program, so that both can be moved
 # together or installed with another prefix, and else at the place that was configured.
-set(GLORBIX_INSTALL_DATA_DIR "" CACHE PATH "Folder of the installed game data; <datadir>/glorbix when empty")
+set(GLORBIX_INSTALL_DATA_DIR "" CACHE PATH
+  "Folder of the installed game data; <datadir>/glorbix when empty")
 if(GLORBIX_INSTALL_DATA_DIR)
   set(glorbix_data_destination ${GLORBIX_INSTALL_DATA_DIR})
   set(glorbix_data_folder ${GLORBIX_INSTALL_DATA_DIR})

@@ -1,4 +1,6 @@
 // Bitmap files: what is read of them, and that nothing is ever written past the picture.
+#include <algorithm>
+
 #include "data/bitmap.h"
 
 #include "fakes/play.h"

@@ -1,5 +1,6 @@
 // The ground on the screen: OpenGL's state, and the walk over the cells that can be seen.
 #include <GL/gl.h>
+#include <algorithm>
 #include <cmath>
 
 #include "fakes/play.h"

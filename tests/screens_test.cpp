@@ -1,6 +1,9 @@
 // What stands on each screen: pictures, head-up display, menu, and in which order it is drawn.
 #include <GL/gl.h>
 
+#include <algorithm>
+#include <array>
+
 #include "app/keyboard.h"
 #include "fakes/play.h"
 

@@ -1,4 +1,5 @@
 // glorbix-level check: why the game would refuse a level, and what its author did not mean.
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>

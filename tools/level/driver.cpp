@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tools/level/driver.h"
 
 #include "app/game.h"
