@@ -1,6 +1,6 @@
-#include <algorithm>
-
 #include "tools/level/driver.h"
+
+#include <algorithm>
 
 #include "app/game.h"
 #include "tools/level/level_run.h"
