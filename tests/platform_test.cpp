@@ -2,7 +2,6 @@
 #include <array>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <SDL.h>
@@ -10,51 +9,9 @@
 
 #include "platform/sdl/key_map.h"
 #include "platform/sdl/letterbox.h"
-#include "platform/sdl/midi_file.h"
 #include "platform/windows_api.h"
 
-using namespace std::string_view_literals;
-
 namespace {
-
-// Two tracks of 96 ticks a beat: the tempo falls from half a second to one after two beats, and the
-// note ends on the fourth.
-constexpr auto header = "MThd\0\0\0\6\0\1\0\2\0\x60"sv;
-constexpr auto tempoTrack = "MTrk\0\0\0\x0C\x81\x40\xFF\x51\x03\x0F\x42\x40\0\xFF\x2F\0"sv;
-constexpr auto noteTrack = "MTrk\0\0\0\x0C\0\x90\x3C\x40\x83\0\x3C\0\0\xFF\x2F\0"sv;
-
-std::optional<double> secondsOf(const std::string& file) {
-    return midiSeconds({reinterpret_cast<const std::uint8_t*>(file.data()), file.size()});
-}
-
-std::string piece() {
-    return std::string(header) + std::string(tempoTrack) + std::string(noteTrack);
-}
-
-std::string changed(std::string text, std::size_t at, char byte) {
-    text.at(at) = byte;
-    return text;
-}
-
-TEST(MidiFile, LastsUntilItsLastTrackEndsUnderAllTempoChanges) {
-    EXPECT_DOUBLE_EQ(secondsOf(piece()).value_or(-1.0), 2 * 0.5 + 2 * 1.0);
-    const std::string otherChunk = std::string(header) + "XFIH" + std::string("\0\0\0\2ab", 6);
-    const std::string rest = std::string(tempoTrack) + std::string(noteTrack);
-    EXPECT_DOUBLE_EQ(secondsOf(otherChunk + rest).value_or(-1.0), 3.0);
-}
-
-TEST(MidiFile, IsRefusedWhenItBeginsLikeMusicAndGoesOnAsJunk) {
-    const std::string good = piece();
-    for (std::size_t length = 0; length < good.size(); ++length)
-        EXPECT_FALSE(secondsOf(good.substr(0, length))) << length << " bytes";
-    EXPECT_FALSE(secondsOf("MThd" + std::string("\0\0\0\6", 4) + std::string(300, 'j')));
-    EXPECT_FALSE(secondsOf(changed(good, 9, 2))) << "songs in a row";
-    EXPECT_FALSE(secondsOf(changed(good, 12, '\xE8'))) << "film time";
-    EXPECT_FALSE(secondsOf(changed(good, header.size() + tempoTrack.size() + 10, '\x95')))
-        << "a status in the place of a note's number";
-    const auto silent = "MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0\4\0\xFF\x2F\0"sv;
-    EXPECT_FALSE(secondsOf(std::string(silent))) << "it would end at once, for ever";
-}
 
 TEST(Letterbox, KeepsTheShapeInTheMiddleOfAnyWindow) {
     struct Case {

@@ -1,9 +1,9 @@
 // MIDI music beside the effects: one piece at a time, and word to the game when it is over.
 #pragma once
 
-// Starts a piece that has become ready, and posts MM_MCINOTIFY for one that is over. The message
-// queue calls it whenever the game looks for messages.
+// Posts MM_MCINOTIFY for a piece that is over, and says on standard error what the music lacks. The
+// message queue calls it whenever the game looks for messages.
 void runSequencer();
 
-// Ends the music without a word.
+// Ends the music without a message.
 void stopSequencer();

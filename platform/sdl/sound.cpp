@@ -1,6 +1,7 @@
 #include "platform/sdl/sound.h"
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -12,6 +13,7 @@
 #include <SDL_mixer.h>
 
 #include "platform/sdl/errors.h"
+#include "platform/sdl/sound_file.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -20,10 +22,11 @@ constexpr int samplesPerSecond = 44100;
 constexpr int speakers = 2;
 constexpr int samplesPerBuffer = 1024; // 23 ms from the event to the ear
 constexpr int effectChannel = 0;
-constexpr double beepPitch = 880.0;  // hertz
-constexpr double beepLength = 0.15;  // seconds
-constexpr double beepAttack = 0.005; // seconds; shorter ones click
-constexpr double beepVolume = 0.3;   // of the loudest possible
+constexpr std::size_t largestEffect = 64 << 20; // bytes
+constexpr double beepPitch = 880.0;             // hertz
+constexpr double beepLength = 0.15;             // seconds
+constexpr double beepAttack = 0.005;            // seconds; shorter ones click
+constexpr double beepVolume = 0.3;              // of the loudest possible
 
 struct ChunkDeleter {
     void operator()(Mix_Chunk* chunk) const { Mix_FreeChunk(chunk); }
@@ -53,12 +56,27 @@ bool openDevice() {
     return true;
 }
 
+Chunk load(const std::string& fileName, std::string& why) {
+    const auto file = readSoundFile(fileName, largestEffect, why);
+    if (!file) {
+        return {};
+    }
+    SDL_RWops* bytes = SDL_RWFromConstMem(file->data(), static_cast<int>(file->size()));
+    Chunk loaded(bytes ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
+    if (!loaded) {
+        why = SDL_GetError();
+    }
+    return loaded;
+}
+
 Mix_Chunk* effectNamed(const std::string& fileName) {
     const auto known = sound.effects.find(fileName);
     if (known != sound.effects.end()) return known->second.get();
-    SDL_RWops* file = SDL_RWFromFile(fileName.c_str(), "rb");
-    Chunk loaded(file ? Mix_LoadWAV_RW(file, 1) : nullptr);
-    if (!loaded) complain("cannot play " + fileName + ": " + SDL_GetError());
+    std::string why;
+    Chunk loaded = load(fileName, why);
+    if (!loaded) {
+        complain("cannot play " + fileName + ": " + why);
+    }
     return sound.effects.emplace(fileName, std::move(loaded)).first->second.get();
 }
 
@@ -95,9 +113,14 @@ bool startSound() {
 }
 
 void stopSound() {
-    if (!sound.open) return;
-    Mix_HaltChannel(-1);
+    const bool wasOpen = sound.open;
+    if (wasOpen) {
+        Mix_HaltChannel(-1);
+    }
     sound = {};
+    if (!wasOpen) {
+        return;
+    }
     Mix_CloseAudio();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }

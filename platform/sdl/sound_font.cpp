@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <sstream>
-#include <vector>
 
 namespace {
 
@@ -16,25 +15,50 @@ constexpr const char* usualPlaces[] = {
     "/usr/local/share/soundfonts/default.sf2", "/usr/local/share/sounds/sf2/default-GM.sf2",
 };
 
-bool isFile(const std::string& path) {
+bool exists(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::is_regular_file(path, ignored);
+    return std::filesystem::exists(path, ignored);
 }
 
-std::string firstFile(const std::string& semicolonList) {
-    std::istringstream list(semicolonList);
-    std::string path;
-    while (std::getline(list, path, ';'))
-        if (isFile(path)) return path;
-    return {};
+std::vector<std::string> split(const std::string& list, char separator) {
+    std::vector<std::string> parts;
+    std::istringstream stream(list);
+    for (std::string part; std::getline(stream, part, separator);) {
+        parts.push_back(part);
+    }
+    return parts;
+}
+
+void addExisting(std::vector<std::string>& fonts, const std::string& path) {
+    if (exists(path)) {
+        fonts.push_back(path);
+    }
+}
+
+// A path may hold a ':' itself.
+std::vector<std::string> fontsIn(const std::string& list) {
+    std::vector<std::string> fonts;
+    for (const std::string& part : split(list, ';')) {
+        const bool isPath = exists(part);
+        for (const std::string& path : split(part, isPath ? ';' : ':')) {
+            addExisting(fonts, path);
+        }
+    }
+    return fonts;
 }
 
 } // namespace
 
-std::string findSoundFont() {
+std::vector<std::string> findSoundFonts(std::string& why) {
     const char* chosen = std::getenv("SDL_SOUNDFONTS");
-    if (chosen && *chosen) return firstFile(chosen);
-    for (const char* place : usualPlaces)
-        if (isFile(place)) return place;
-    return {};
+    if (chosen && *chosen) {
+        why = "SDL_SOUNDFONTS names no file that exists";
+        return fontsIn(chosen);
+    }
+    why = "no General MIDI sound font is installed";
+    std::vector<std::string> fonts;
+    for (const char* place : usualPlaces) {
+        addExisting(fonts, place);
+    }
+    return fonts;
 }
