@@ -126,7 +126,7 @@ void SDLCALL fillDevice(void*, Uint8* samples, int bytes) {
 bool startRenderer() {
     if (!stream.renderer) {
         stream.renderer = SDL_CreateThread(renderMusic, "music", nullptr);
-        Mix_HookMusic(fillDevice, nullptr);
+        Mix_HookMusic(stream.renderer ? fillDevice : nullptr, nullptr);
     }
     return stream.renderer != nullptr;
 }

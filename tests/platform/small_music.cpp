@@ -122,7 +122,7 @@ std::vector<unsigned> SoundTest::watch(double seconds) {
     const std::uint64_t end = SDL_GetTicks64() + static_cast<std::uint64_t>(1000.0 * seconds);
     while (SDL_GetTicks64() < end) {
         MSG message;
-        while (PeekMessageA(&message, nullptr, MM_MCINOTIFY, MM_MCINOTIFY, PM_REMOVE)) {
+        if (PeekMessageA(&message, nullptr, MM_MCINOTIFY, MM_MCINOTIFY, PM_REMOVE)) {
             EXPECT_EQ(message.wParam, MCI_NOTIFY_SUCCESSFUL);
             ended.push_back(static_cast<unsigned>(message.lParam));
         }
