@@ -17,8 +17,10 @@
 
 namespace {
 
-constexpr std::size_t samplesAhead = Synthesizer::samplesPerSecond; // half a second on two speakers
-constexpr std::size_t blockSamples = 2048;                          // 23 ms
+constexpr std::size_t samplesPerSecond = 2 * Synthesizer::samplesPerSecond; // of two speakers
+constexpr std::size_t samplesAhead = samplesPerSecond * 3 / 2;
+constexpr std::size_t samplesToStart = samplesPerSecond / 2;
+constexpr std::size_t blockSamples = 2048; // 23 ms
 
 struct Order {
     std::vector<std::uint8_t> piece;
@@ -27,7 +29,7 @@ struct Order {
 
 enum class Phase {
     Silent,   // no piece, or one that cannot be played
-    Filling,  // nothing is heard until the queue is full
+    Filling,  // nothing is heard until enough is queued to start
     Sounding, // the device takes from the queue
     Over      // the device has taken the last sample
 };
@@ -56,7 +58,7 @@ struct Stream {
     void append(std::span<const std::int16_t> block, bool isLast) {
         queue.insert(queue.end(), block.begin(), block.end());
         rendered = isLast;
-        if (!wantsBlock()) {
+        if (rendered || queue.size() >= samplesToStart) {
             phase = Phase::Sounding;
         }
     }

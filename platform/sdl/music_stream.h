@@ -1,5 +1,5 @@
 // Music that keeps neither the game nor the audio device waiting: a thread of its own loads the
-// instruments and renders half a second ahead, and the device only copies. The music goes on while
+// instruments and renders up to 1.5 seconds ahead, and the device only copies. The music goes on while
 // the game does not look for messages.
 //
 // All operations belong to the game's thread.

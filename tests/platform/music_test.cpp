@@ -97,6 +97,8 @@ TEST_F(Music, IsRefusedWhenTheFileIsNone) {
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
     const std::string good = pieceOf(0.5);
     const std::string header = good.substr(0, 14);
+    std::string half = good;
+    half[11] = 2; // tracks
     const std::string slow("\0\xFF\x51\3\xFF\xFF\xFF\xFF\xFF\xFF\x7F\x90\x3C\x40", 14);
     std::vector<std::string> names = {
         (folder / "none.mid").string(),
@@ -107,6 +109,7 @@ TEST_F(Music, IsRefusedWhenTheFileIsNone) {
         write("header_and_junk.mid", header + std::string(300, 'j')),
         write("running.mid", midiFile(std::string("\0\x3C\x40\x60\x3C\0", 6))),
         write("no_division.mid", midiFile(noteOf(0.5), 0)),
+        write("half.mid", half),
         write("silent.mid", midiFile("")),
         write("no_length.mid", midiFile(std::string("\0\x90\x3C\x40", 4))),
         write("centuries.mid", midiFile(slow, 1)),
