@@ -1,6 +1,6 @@
 // Music that keeps neither the game nor the audio device waiting: a thread of its own loads the
-// instruments and renders up to 1.5 seconds ahead, and the device only copies. The music goes on while
-// the game does not look for messages.
+// instruments and renders up to 1.5 seconds ahead, and the device only copies. The music goes on
+// while the game does not look for messages.
 //
 // All operations belong to the game's thread.
 #pragma once

@@ -108,7 +108,7 @@ TEST_F(Music, IsRefusedWhenTheFileIsNone) {
         write("junk.mid", std::string(300, 'j')),
         write("header_and_junk.mid", header + std::string(300, 'j')),
         write("running.mid", midiFile(std::string("\0\x3C\x40\x60\x3C\0", 6))),
-        write("no_division.mid", midiFile(noteOf(0.5), 0)),
+        write("no_division.mid", midiFile(noteOf(0.05), 0)),
         write("half.mid", half),
         write("silent.mid", midiFile("")),
         write("no_length.mid", midiFile(std::string("\0\x90\x3C\x40", 4))),
