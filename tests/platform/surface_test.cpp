@@ -1,0 +1,203 @@
+// The surface that the game draws on, and how it comes into the window.
+#define GL_GLEXT_PROTOTYPES
+#include <GL/gl.h>
+#include <GL/glext.h>
+
+#include <array>
+
+#include "platform/sdl/errors.h"
+#include "platform/sdl/letterbox.h"
+#include "platform/sdl_machine.h"
+
+namespace {
+
+using Colour = std::array<int, 3>;
+using Four = std::array<int, 4>;
+
+constexpr Colour black = {0, 0, 0};
+constexpr Colour red = {255, 0, 0};
+constexpr Colour green = {0, 255, 0};
+
+Colour colourAt(int x, int y) {
+    std::array<std::uint8_t, 4> bytes = {};
+    glReadPixels(x, y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, bytes.data());
+    return {bytes[0], bytes[1], bytes[2]};
+}
+
+Four numbersOf(GLenum name) {
+    Four numbers = {};
+    glGetIntegerv(name, numbers.data());
+    return numbers;
+}
+
+void fill(const Four& place, const Colour& colour) {
+    glEnable(GL_SCISSOR_TEST);
+    glScissor(place[0], place[1], place[2], place[3]);
+    glClearColor(static_cast<float>(colour[0]) / 255, static_cast<float>(colour[1]) / 255,
+                 static_cast<float>(colour[2]) / 255, 0);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glDisable(GL_SCISSOR_TEST);
+}
+
+struct Surface : OnSdl {
+    Surface() : dc(GetDC(window)) {
+        EXPECT_EQ(ChoosePixelFormat(dc, &format), 1) << lastErrorText();
+        EXPECT_TRUE(SetPixelFormat(dc, 1, &format));
+        EXPECT_EQ(SDL_GL_GetCurrentContext(), nullptr) << "the game binds it";
+        context = wglCreateContext(dc);
+        EXPECT_TRUE(wglMakeCurrent(dc, context));
+    }
+
+    // A pixel of the window itself.
+    Colour shownAt(int x, int y) const {
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, 0);
+        const Colour colour = colourAt(x, y);
+        wglMakeCurrent(dc, context);
+        return colour;
+    }
+
+    PIXELFORMATDESCRIPTOR format = {};
+    HDC dc;
+    HGLRC context = nullptr;
+};
+
+TEST(PixelFormat, IsDescribedAndTheOnlyOne) {
+    const HDC dc = GetDC(openTestWindow());
+    PIXELFORMATDESCRIPTOR format = {};
+    EXPECT_FALSE(SetPixelFormat(dc, 1, &format)) << "none is chosen yet";
+    EXPECT_EQ(lastErrorText(), "The window has no such pixel format.");
+    EXPECT_EQ(ChoosePixelFormat(dc, nullptr), 0);
+    EXPECT_EQ(lastErrorText(), "There is no window to choose a pixel format for.");
+    EXPECT_EQ(ChoosePixelFormat(nullptr, &format), 0);
+    EXPECT_EQ(ChoosePixelFormat(dc, &format), 1);
+    EXPECT_FALSE(SetPixelFormat(dc, 2, &format));
+    EXPECT_FALSE(SetPixelFormat(nullptr, 1, &format));
+    EXPECT_EQ(DescribePixelFormat(dc, 2, sizeof format, &format), 0);
+    EXPECT_EQ(DescribePixelFormat(nullptr, 1, sizeof format, &format), 0);
+    EXPECT_EQ(DescribePixelFormat(dc, 1, 0, nullptr), 1);
+    EXPECT_EQ(DescribePixelFormat(dc, 1, 8, &format), 1);
+    EXPECT_EQ(format.nSize, 40);
+    EXPECT_EQ(format.cColorBits, 0) << "only eight bytes are written";
+    EXPECT_EQ(DescribePixelFormat(dc, 1, 99, &format), 1);
+    EXPECT_EQ(format.nVersion, 1);
+    EXPECT_EQ(format.dwFlags & PFD_NEED_PALETTE, 0U);
+    EXPECT_EQ(format.dwFlags, 4 | PFD_DOUBLEBUFFER | PFD_SUPPORT_OPENGL);
+    EXPECT_EQ(format.iPixelType, PFD_TYPE_RGBA);
+    const std::array<int, 9> bits = {format.cColorBits, format.cRedBits,    format.cRedShift,
+                                     format.cGreenBits, format.cGreenShift, format.cBlueBits,
+                                     format.cBlueShift, format.cDepthBits,  format.cAlphaBits};
+    EXPECT_EQ(bits, (std::array<int, 9>{16, 5, 11, 6, 5, 5, 0, 16, 0}));
+    closeTestWindow();
+}
+
+TEST_F(Surface, Is640By480In16BitsWith16BitsOfDepth) {
+    EXPECT_EQ(numbersOf(GL_VIEWPORT), (Four{0, 0, 640, 480}));
+    EXPECT_EQ(numbersOf(GL_SCISSOR_BOX), (Four{0, 0, 640, 480}));
+    const Four bits = {numbersOf(GL_RED_BITS)[0], numbersOf(GL_GREEN_BITS)[0],
+                       numbersOf(GL_BLUE_BITS)[0], numbersOf(GL_DEPTH_BITS)[0]};
+    EXPECT_EQ(bits, (Four{5, 6, 5, 16}));
+    fill({639, 479, 1, 1}, {100, 100, 100});
+    const Colour nearest = {12 * 255 / 31, 25 * 255 / 63, 12 * 255 / 31};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_NEAR(colourAt(639, 479)[i], nearest[i], 1) << "of 32, 64 and 32 steps";
+    }
+    EXPECT_NE(SDL_GL_GetSwapInterval(), 0) << "frames wait for the display";
+    EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
+}
+
+TEST_F(Surface, HasOneContextAtATime) {
+    EXPECT_EQ(wglCreateContext(dc), nullptr) << "the game has it";
+    EXPECT_FALSE(wglMakeCurrent(nullptr, context));
+    EXPECT_FALSE(wglMakeCurrent(dc, reinterpret_cast<HGLRC>(window)));
+    EXPECT_FALSE(SwapBuffers(nullptr));
+    EXPECT_TRUE(SwapBuffers(dc));
+    EXPECT_TRUE(wglMakeCurrent(dc, nullptr));
+    EXPECT_EQ(SDL_GL_GetCurrentContext(), nullptr);
+    EXPECT_FALSE(SwapBuffers(dc)) << "nothing is bound";
+    EXPECT_FALSE(wglDeleteContext(nullptr));
+    EXPECT_TRUE(wglDeleteContext(context));
+    EXPECT_FALSE(wglDeleteContext(context));
+    EXPECT_FALSE(wglMakeCurrent(dc, context));
+    EXPECT_EQ(wglCreateContext(nullptr), nullptr);
+    EXPECT_TRUE(wglMakeCurrent(dc, wglCreateContext(dc))) << "a new one";
+    EXPECT_EQ(ReleaseDC(window, dc), 1);
+    EXPECT_EQ(ReleaseDC(window, nullptr), 0);
+}
+
+TEST_F(Surface, IsShownBetweenBlackBars) {
+    const struct {
+        int width, height;
+        Four picture;
+    } windows[] = {
+        {640, 480, {0, 0, 640, 480}}, {640, 360, {80, 0, 480, 360}}, {400, 480, {0, 90, 400, 300}}};
+    for (const auto& w : windows) {
+        SCOPED_TRACE(w.width);
+        SDL_SetWindowSize(sdlWindow(), w.width, w.height);
+        fill({0, 0, 640, 480}, green);
+        fill({0, 0, 320, 240}, red);
+        EXPECT_TRUE(SwapBuffers(dc));
+        const int right = w.picture[0] + w.picture[2];
+        const int top = w.picture[1] + w.picture[3];
+        EXPECT_EQ(shownAt(w.picture[0] + 1, w.picture[1] + 1), red);
+        EXPECT_EQ(shownAt(right - 2, w.picture[1] + 1), green);
+        EXPECT_EQ(shownAt(w.picture[0] + 1, top - 2), green);
+        if (right < w.width) {
+            EXPECT_EQ(shownAt(w.picture[0] - 2, top / 2), black);
+            EXPECT_EQ(shownAt(right + 1, top / 2), black);
+        }
+        if (top < w.height) {
+            EXPECT_EQ(shownAt(right / 2, w.picture[1] - 2), black);
+            EXPECT_EQ(shownAt(right / 2, top + 1), black);
+        }
+    }
+    SDL_SetWindowSize(sdlWindow(), 320, 240); // pairs of columns become one
+    fill({0, 0, 640, 480}, black);
+    for (int x = 0; x < 640; x += 2) {
+        fill({x, 0, 1, 480}, red);
+    }
+    SwapBuffers(dc);
+    const int mixed = shownAt(100, 100)[0];
+    EXPECT_TRUE(mixed > 64 && mixed < 192) << mixed << ": smoothed";
+}
+
+TEST_F(Surface, KeepsTheStatesOfTheGameWhenItIsShown) {
+    const auto statesNow = [] {
+        std::vector<Four> states;
+        for (const GLenum name : {GL_COLOR_WRITEMASK, GL_COLOR_CLEAR_VALUE, GL_SCISSOR_TEST,
+                                  GL_SCISSOR_BOX, GL_VIEWPORT, GL_DRAW_BUFFER, GL_READ_BUFFER,
+                                  GL_DRAW_FRAMEBUFFER_BINDING, GL_READ_FRAMEBUFFER_BINDING}) {
+            states.push_back(numbersOf(name));
+        }
+        return states;
+    };
+    fill({0, 0, 640, 480}, red);
+    SwapBuffers(dc);
+    fill({0, 0, 640, 480}, green);
+    glEnable(GL_SCISSOR_TEST);
+    glScissor(10, 20, 30, 40);
+    glColorMask(GL_FALSE, GL_TRUE, GL_FALSE, GL_TRUE);
+    glClearColor(1, 0, 1, 0);
+    const auto before = statesNow();
+    EXPECT_TRUE(SwapBuffers(dc));
+    EXPECT_EQ(statesNow(), before);
+    EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
+    EXPECT_EQ(shownAt(300, 300), green) << "neither scissors nor masks cut the copy";
+    fill({0, 0, 1, 1}, black);
+    EXPECT_EQ(colourAt(0, 0), black) << "drawing goes on";
+}
+
+TEST(Letterbox, KeepsTheShapeInTheMiddleOfAnyWindow) {
+    const struct {
+        int width, height;
+        Four picture; // x, y, width, height
+    } cases[] = {{640, 480, {0, 0, 640, 480}},
+                 {1920, 1080, {240, 0, 1440, 1080}},
+                 {700, 900, {0, 187, 700, 525}},
+                 {0, 0, {0, 0, 0, 0}}};
+    for (const auto& c : cases) {
+        const PixelRect r = letterbox(c.width, c.height);
+        EXPECT_EQ((Four{r.x, r.y, r.width, r.height}), c.picture) << c.width;
+    }
+}
+
+} // namespace
