@@ -1,4 +1,8 @@
 // The message queue and the timers, on a clock that stands still until a test moves it.
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
 #include "platform/sdl_machine.h"
 
 namespace {
@@ -6,18 +10,13 @@ namespace {
 constexpr UINT never = 0xFFFF'FFFF; // milliseconds, 49 days
 
 struct Messages : OnSdl {
+    Messages() { stoppedClock = SDL_GetTicks(); }
     ~Messages() override {
-        for (const UINT_PTR timer : {1, 2}) {
-            SetTimer(window, timer, never, nullptr);
-        }
+        SetTimer(window, 1, never, nullptr);
+        SetTimer(window, 2, never, nullptr);
     }
-};
 
-// A clock that starts where SDL's stands.
-struct Timers : Messages {
-    Timers() { stoppedClock = SDL_GetTicks(); }
-
-    static Numbers after(Uint64 milliseconds) {
+    static Numbers timersAfter(Uint64 milliseconds) {
         *stoppedClock += milliseconds;
         Numbers timers;
         for (const MSG& message : messagesNow()) {
@@ -28,74 +27,63 @@ struct Timers : Messages {
     }
 };
 
-TEST_F(Timers, ComeAfterAllOtherMessages) {
+TEST_F(Messages, ComeOutPostedFirstThenQuitInputPaintAndTimers) {
+    using Told = std::tuple<UINT, HWND, WPARAM, LPARAM, DWORD>;
     SetTimer(window, 1, 10, nullptr);
-    *stoppedClock += 35; // due three times, told once
-    pushWindowEvent(SDL_WINDOWEVENT_EXPOSED);
+    const auto later = static_cast<DWORD>(*stoppedClock += 35); // due three times, told once
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
     pushKey(SDL_SCANCODE_J);
     PostQuitMessage(7);
     PostMessageA(window, WM_USER, 3, 4);
-    PostMessageA(window, WM_USER + 1, 0, 0);
-    const std::vector<MSG> messages = messagesNow();
-    Numbers order;
-    for (const MSG& message : messages) {
-        order.push_back(message.message);
-        EXPECT_EQ(message.time, *stoppedClock);
-        EXPECT_EQ(message.hwnd, message.message == WM_QUIT ? nullptr : window);
+    PostMessageA(nullptr, WM_USER + 1, 0, 0);
+    std::vector<Told> told;
+    for (const MSG& m : messagesNow()) {
+        told.emplace_back(m.message, m.hwnd, m.wParam, m.lParam, m.time);
     }
-    ASSERT_EQ(order, (Numbers{WM_USER, WM_USER + 1, WM_QUIT, WM_KEYDOWN, WM_PAINT, WM_TIMER}));
-    EXPECT_EQ(messages[0].wParam, 3U);
-    EXPECT_EQ(messages[0].lParam, 4);
-    EXPECT_EQ(messages[2].wParam, 7U);
-    EXPECT_EQ(messages[5].wParam, 1U);
-    EXPECT_EQ(heard, (Numbers{WM_USER, WM_USER + 1, WM_KEYDOWN, WM_PAINT, WM_TIMER}));
+    EXPECT_EQ(told, (std::vector<Told>{{WM_USER, window, 3, 4, later},
+                                       {WM_USER + 1, nullptr, 0, 0, later},
+                                       {WM_QUIT, nullptr, 7, 0, later},
+                                       {WM_KEYDOWN, window, 'J', 1, later},
+                                       {WM_PAINT, window, 0, 0, later},
+                                       {WM_TIMER, window, 1, 0, later}}));
+    EXPECT_EQ(heard, (Numbers{WM_USER, WM_KEYDOWN, WM_PAINT, WM_TIMER})) << "its own messages";
 }
 
-TEST_F(Timers, KeepTheirBeatAndTheOrderOfTheirDueTimes) {
+TEST_F(Messages, OfTimersKeepTheirBeatAndTheOrderOfTheirDueTimes) {
     SetTimer(window, 2, 30, nullptr);
     SetTimer(window, 1, 20, nullptr);
-    EXPECT_EQ(after(19), Numbers{});
-    EXPECT_EQ(after(1), Numbers{1});
-    EXPECT_EQ(after(0), Numbers{});
-    EXPECT_EQ(after(45), (Numbers{2, 1})); // at 65: due since 30 and 40
-    EXPECT_EQ(after(14), Numbers{});
-    EXPECT_EQ(after(1), Numbers{1});
-    EXPECT_EQ(after(9), Numbers{});
-    EXPECT_EQ(after(1), Numbers{2});
-    SetTimer(window, 2, 0, nullptr); // at 90; no timer is faster than every 10 milliseconds
+    const std::pair<Uint64, Numbers> both[] = {{19, {}}, {1, {1}}, {0, {}}, {45, {2, 1}},
+                                               {14, {}}, {1, {1}}, {9, {}}, {1, {2}}};
+    for (const auto& [time, timers] : both) {
+        EXPECT_EQ(timersAfter(time), timers);
+    }
+    SetTimer(window, 2, 0, nullptr); // no timer is faster than every 10 milliseconds
     SetTimer(window, 1, 95, nullptr);
-    EXPECT_EQ(after(9), Numbers{});
-    EXPECT_EQ(after(1), Numbers{2});
-    EXPECT_EQ(after(10), Numbers{2});
-    EXPECT_EQ(after(74), Numbers{2});
-    EXPECT_EQ(after(1), Numbers{1}) << "the new period only";
-}
-
-TEST_F(Timers, HaveTheNumberThatTheyAreGiven) {
+    const std::pair<Uint64, Numbers> replaced[] = {
+        {9, {}}, {1, {2}}, {10, {2}}, {74, {2}}, {1, {1}}};
+    for (const auto& [time, timers] : replaced) {
+        EXPECT_EQ(timersAfter(time), timers);
+    }
+    EXPECT_EQ(SetTimer(window, 900, never, nullptr), 900U);
     EXPECT_EQ(SetTimer(window, 2, never, nullptr), 2U);
     const UINT_PTR first = SetTimer(nullptr, 0, never, nullptr);
-    EXPECT_GT(first, 2U);
-    EXPECT_GT(SetTimer(nullptr, 0, never, nullptr), first) << "without a window: a new one";
+    EXPECT_GT(first, 900U) << "without a window: a new number";
+    EXPECT_GT(SetTimer(nullptr, 2, never, nullptr), first);
 }
 
-UINT_PTR timerOfCallback = 0;
+UINT_PTR calledFor = 0;
 
-TEST_F(Timers, CallTheirOwnProcedure) {
-    SetTimer(window, 1, 10, [](HWND, UINT message, UINT_PTR timer, DWORD) {
-        timerOfCallback = message == WM_TIMER ? timer : 0;
-    });
-    EXPECT_EQ(after(10), Numbers{1});
-    EXPECT_EQ(timerOfCallback, 1U);
+TEST_F(Messages, AreDispatchedToTheProcedureOfTheirTimerOrWindow) {
+    SetTimer(window, 1, 10, [](HWND, UINT, UINT_PTR timer, DWORD) { calledFor = timer; });
+    EXPECT_EQ(timersAfter(10), Numbers{1});
+    EXPECT_EQ(calledFor, 1U);
     EXPECT_EQ(heard, Numbers{});
-}
-
-TEST_F(Timers, WaitForACallerWhoWantsThem) {
-    MSG message = {};
-    SetTimer(window, 1, 10, nullptr);
-    *stoppedClock += 10;
-    EXPECT_FALSE(PeekMessageA(&message, window, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE));
-    EXPECT_TRUE(PeekMessageA(&message, window, 0, 0, 0));
-    EXPECT_EQ(after(0), Numbers{1});
+    answers[WM_USER] = 5;
+    const MSG message = {window, WM_USER, 6, 7, 0, {}};
+    EXPECT_EQ(DispatchMessageA(&message), 5);
+    EXPECT_EQ(std::pair(lastHeard.wParam, lastHeard.lParam),
+              std::pair(message.wParam, message.lParam));
+    EXPECT_EQ(DispatchMessageA(nullptr), 0);
 }
 
 TEST_F(Messages, AreFilteredByWindowAndRange) {
@@ -111,42 +99,28 @@ TEST_F(Messages, AreFilteredByWindowAndRange) {
     EXPECT_EQ(peek(nullptr, WM_USER + 1, WM_USER + 1), WM_USER + 1);
     EXPECT_EQ(peek(nullptr, 0, WM_USER), 0U);
     EXPECT_EQ(peek(nullptr, WM_USER + 4, WM_USER + 9), 0U);
-    pushWindowEvent(SDL_WINDOWEVENT_EXPOSED);
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
+    SetTimer(window, 1, 10, nullptr);
+    *stoppedClock += 10;
     EXPECT_EQ(peek(window, WM_KEYDOWN, WM_KEYDOWN), 0U);
     EXPECT_EQ(peek(window, WM_PAINT, WM_PAINT), WM_PAINT);
+    EXPECT_EQ(peek(window, WM_TIMER, WM_TIMER), WM_TIMER);
     PostQuitMessage(1);
-    PostQuitMessage(2);
-    EXPECT_EQ(peek(window, WM_KEYDOWN, WM_KEYDOWN), WM_QUIT);
-    EXPECT_EQ(numbersNow(), (Numbers{WM_USER + 1, WM_USER + 3, WM_QUIT, WM_PAINT}));
-    EXPECT_EQ(heard, (Numbers{WM_USER + 3, WM_PAINT}));
+    EXPECT_EQ(peek(window, WM_KEYDOWN, WM_KEYDOWN), WM_QUIT) << "it passes every filter";
     EXPECT_FALSE(PeekMessageA(nullptr, window, 0, 0, PM_REMOVE));
+    EXPECT_EQ(numbersNow(), (Numbers{WM_USER + 1, WM_USER + 3, WM_QUIT, WM_PAINT, WM_TIMER}));
 }
 
 TEST_F(Messages, HaveRoomForTenThousand) {
-    constexpr std::size_t room = 10'000;
-    for (std::size_t i = 0; i < room; ++i) {
+    for (int i = 0; i < 10'000; ++i) {
         ASSERT_TRUE(PostMessageA(window, WM_USER, 0, 0));
         pushKey(SDL_SCANCODE_J);
     }
-    EXPECT_FALSE(PostMessageA(window, WM_USER, 0, 0));
     pushKey(SDL_SCANCODE_J);
-    MSG message = {};
-    ASSERT_TRUE(PeekMessageA(&message, window, 0, 0, PM_REMOVE));
-    EXPECT_TRUE(PostMessageA(window, WM_USER, 0, 0)) << "one was taken";
+    EXPECT_FALSE(PostMessageA(window, WM_USER, 0, 0));
     const Numbers numbers = numbersNow();
-    EXPECT_EQ(std::count(numbers.begin(), numbers.end(), WM_USER), room);
-    EXPECT_EQ(std::count(numbers.begin(), numbers.end(), WM_KEYDOWN), room);
-}
-
-TEST_F(Messages, AreDispatchedToTheirWindowOnly) {
-    MSG message = {};
-    message.message = WM_USER;
-    EXPECT_EQ(DispatchMessageA(&message), 0);
-    EXPECT_EQ(DispatchMessageA(nullptr), 0);
-    EXPECT_EQ(heard, Numbers{});
-    answers[WM_USER] = 5;
-    message.hwnd = window;
-    EXPECT_EQ(DispatchMessageA(&message), 5);
+    EXPECT_EQ(std::count(numbers.begin(), numbers.end(), WM_USER), 10'000);
+    EXPECT_EQ(std::count(numbers.begin(), numbers.end(), WM_KEYDOWN), 10'000);
 }
 
 } // namespace

@@ -10,55 +10,109 @@
 #include <SDL.h>
 #include <gtest/gtest.h>
 
+#include "platform/sdl/window.h"
 #include "platform/windows_api.h"
 
-// What SDL_GetTicks64 gives, in milliseconds, while it has a value.
-extern std::optional<Uint64> stoppedClock;
+using Numbers = std::vector<UINT>; // of messages
 
-// The part of the desktop that windows may use, while it has a value.
-extern std::optional<SDL_Rect> desktopRoom;
+inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
+inline std::optional<SDL_Rect> roomOnDesktop; // for windows; without a value the whole desktop
 
-// The window procedure writes down the numbers of the messages that it hears. It returns what
-// `answers` holds for a message; all others it leaves to DefWindowProcA.
-extern std::vector<UINT> heard;
-extern std::map<UINT, LRESULT> answers;
-LRESULT CALLBACK testProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+// The linker takes these two instead of SDL's.
+[[gnu::used]] inline Uint64 SDLCALL SDL_GetTicks64() {
+    return stoppedClock.value_or(SDL_GetTicks());
+}
+[[gnu::used]] inline int SDLCALL SDL_GetDisplayUsableBounds(int display, SDL_Rect* room) {
+    if (!roomOnDesktop) {
+        return SDL_GetDisplayBounds(display, room);
+    }
+    *room = *roomOnDesktop;
+    return room->w > 0 ? 0 : -1;
+}
 
-// Opens the window, hidden, with the class "Test", which it registers.
-HWND openTestWindow();
-void closeTestWindow();
-SDL_Window* sdlWindow(); // null while there is none
+// The window procedure writes down what it hears. It returns what `answers` holds for a message;
+// all others it leaves to DefWindowProcA.
+inline Numbers heard;
+inline MSG lastHeard;
+inline std::map<UINT, LRESULT> answers;
 
-// Puts events into SDL's queue. The keys' labels are those of an English keyboard.
-void pushKey(SDL_Scancode place, int modifiers = KMOD_NONE, bool repeat = false);
-void pushWindowEvent(SDL_WindowEventID event);
-void pushEvent(SDL_EventType type);
+inline LRESULT CALLBACK testProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    heard.push_back(message);
+    lastHeard = {window, message, wParam, lParam, 0, {}};
+    const auto found = answers.find(message);
+    return found != answers.end() ? found->second : DefWindowProcA(window, message, wParam, lParam);
+}
 
-// Sets what SDL believes of a key.
-void hold(SDL_Scancode place, bool down);
+// Opens the window, hidden, of the class "Test".
+inline HWND openTestWindow() {
+    setenv("SDL_VIDEODRIVER", "offscreen", 0);
+    WNDCLASSA windowClass = {};
+    windowClass.lpszClassName = "Test";
+    windowClass.lpfnWndProc = testProcedure;
+    RegisterClassA(&windowClass);
+    return CreateWindowExA(0, "Test", "A title", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+}
 
-// Takes and dispatches every message that waits.
-std::vector<MSG> messagesNow();
-std::vector<UINT> numbersNow(); // the same, their numbers only
+inline void closeTestWindow() {
+    answers.clear();
+    DefWindowProcA(currentWindow(), WM_CLOSE, 0, 0);
+    heard.clear();
+}
 
-using Numbers = std::vector<UINT>;
+inline bool hasFlag(SDL_WindowFlags flag) {
+    return (SDL_GetWindowFlags(currentWindow()->sdl) & flag) == Uint32{flag};
+}
+
+// A key is pressed, or repeats. Its label is that of an English keyboard.
+inline void pushKey(int place, int modifiers = KMOD_NONE, bool repeat = false) {
+    SDL_Event event = {};
+    event.type = SDL_KEYDOWN;
+    event.key.repeat = repeat ? 1 : 0;
+    event.key.keysym.scancode = static_cast<SDL_Scancode>(place);
+    event.key.keysym.sym = SDL_GetKeyFromScancode(event.key.keysym.scancode);
+    event.key.keysym.mod = static_cast<Uint16>(modifiers);
+    SDL_PushEvent(&event);
+}
+
+inline void pushEvent(SDL_EventType type, SDL_WindowEventID windowEvent = SDL_WINDOWEVENT_NONE) {
+    SDL_Event event = {};
+    event.type = type;
+    event.window.windowID = SDL_GetWindowID(currentWindow()->sdl);
+    event.window.event = static_cast<Uint8>(windowEvent);
+    SDL_PushEvent(&event);
+}
+
+// Takes and dispatches every message that waits, at most as many as no test has.
+inline std::vector<MSG> messagesNow() {
+    std::vector<MSG> messages;
+    MSG message = {};
+    while (messages.size() < 30'000 && PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        messages.push_back(message);
+        DispatchMessageA(&message);
+    }
+    return messages;
+}
+
+inline Numbers numbersNow() {
+    Numbers numbers;
+    for (const MSG& message : messagesNow()) {
+        numbers.push_back(message.message);
+    }
+    return numbers;
+}
 
 // The window is shown and has nothing to tell; WM_CLOSE does not close it.
 struct OnSdl : testing::Test {
-    OnSdl();
-    ~OnSdl() override;
-
-    HWND window;
+    OnSdl() {
+        ShowWindow(window, SW_SHOW);
+        messagesNow();
+        heard.clear();
+        answers = {{WM_CLOSE, 0}};
+    }
+    ~OnSdl() override {
+        stoppedClock.reset();
+        roomOnDesktop.reset();
+        closeTestWindow();
+    }
+    const HWND window = openTestWindow();
 };
-
-// Runs a story in a process of its own, on that display ("": the one that SDL finds), and expects
-// it to write a line like `complaint`.
-#define EXPECT_ALONE(driver, story, complaint)                                                     \
-    EXPECT_EXIT(                                                                                   \
-        {                                                                                          \
-            setDisplay(driver);                                                                    \
-            story();                                                                               \
-            std::exit(testing::Test::HasFailure() ? 1 : 0);                                        \
-        },                                                                                         \
-        testing::ExitedWithCode(0), complaint)
-void setDisplay(const char* driver);

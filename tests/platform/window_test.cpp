@@ -1,28 +1,30 @@
 // The window: how it opens and closes, its focus and painting, where it stands on the desktop.
 #include <csignal>
+#include <utility>
 
 #include "platform/sdl_machine.h"
 
 namespace {
 
-bool isFullScreen() {
-    return (SDL_GetWindowFlags(sdlWindow()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0;
-}
+using Size = std::pair<int, int>;
 
-std::pair<int, int> sizeOfWindow() {
-    std::pair<int, int> size;
-    SDL_GetWindowSize(sdlWindow(), &size.first, &size.second);
+constexpr Size ownSize = {640, 480};
+
+Size sizeOfWindow() {
+    Size size;
+    SDL_GetWindowSize(currentWindow()->sdl, &size.first, &size.second);
     return size;
 }
 
-HWND createWindow(const char* className) {
-    return CreateWindowExA(0, className, "", 0, 0, 0, 640, 480, nullptr, nullptr, nullptr, nullptr);
+HWND openWindowOf(const char* className) {
+    return CreateWindowExA(0, className, "", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
 }
 
 struct TheWindow : OnSdl {
-    // What the window procedure hears of the messages that wait.
-    static Numbers hearing() {
+    // What the window procedure hears after an event.
+    static Numbers heardOf(SDL_EventType type, SDL_WindowEventID what = SDL_WINDOWEVENT_NONE) {
         heard.clear();
+        pushEvent(type, what);
         messagesNow();
         return heard;
     }
@@ -30,178 +32,134 @@ struct TheWindow : OnSdl {
 
 TEST(Opening, NeedsOneWholeClass) {
     WNDCLASSA windowClass = {};
-    EXPECT_EQ(RegisterClassA(nullptr), 0);
-    windowClass.lpszClassName = "Test";
-    EXPECT_EQ(RegisterClassA(&windowClass), 0) << "no procedure";
+    windowClass.lpszClassName = "Another";
+    EXPECT_FALSE(RegisterClassA(nullptr) || RegisterClassA(&windowClass)) << "no procedure";
     windowClass.lpfnWndProc = testProcedure;
     windowClass.lpszClassName = nullptr;
-    EXPECT_EQ(RegisterClassA(&windowClass), 0) << "no name";
-    EXPECT_NE(openTestWindow(), nullptr);
+    EXPECT_FALSE(RegisterClassA(&windowClass)) << "no name";
+    EXPECT_TRUE(openTestWindow());
     windowClass.lpszClassName = "Another";
-    EXPECT_EQ(RegisterClassA(&windowClass), 0) << "one is enough";
-    EXPECT_EQ(createWindow("Test"), nullptr) << "there is one";
+    EXPECT_FALSE(RegisterClassA(&windowClass) || openWindowOf("Test")) << "there is one";
     closeTestWindow();
-    EXPECT_EQ(createWindow("Another"), nullptr);
-    EXPECT_EQ(createWindow(nullptr), nullptr);
+    EXPECT_FALSE(openWindowOf("Another") || openWindowOf(nullptr));
 }
 
-TEST(Opening, TellsTheWindowFirstAndTakesNoForAnAnswer) {
-    heard.clear();
+TEST(Opening, AsksTheGameFirst) {
     answers[WM_CREATE] = -1;
     EXPECT_EQ(openTestWindow(), nullptr);
-    EXPECT_EQ(sdlWindow(), nullptr);
-    EXPECT_EQ(heard, Numbers{WM_CREATE});
+    EXPECT_EQ(currentWindow(), nullptr);
     answers.clear();
     const HWND window = openTestWindow();
-    EXPECT_EQ(heard, (Numbers{WM_CREATE, WM_CREATE}));
-    EXPECT_STREQ(SDL_GetWindowTitle(sdlWindow()), "A title");
-    constexpr Uint32 kind = SDL_WINDOW_HIDDEN | SDL_WINDOW_OPENGL | SDL_WINDOW_RESIZABLE;
-    EXPECT_EQ(SDL_GetWindowFlags(sdlWindow()) & (kind | SDL_WINDOW_FULLSCREEN), kind);
-    EXPECT_EQ(GetFocus(), nullptr) << "not before it is shown";
-    EXPECT_FALSE(ShowWindow(window, SW_SHOW));
-    EXPECT_EQ(heard, (Numbers{WM_CREATE, WM_CREATE, WM_SETFOCUS}));
+    EXPECT_TRUE(hasFlag(SDL_WINDOW_HIDDEN) && hasFlag(SDL_WINDOW_RESIZABLE));
+    EXPECT_STREQ(SDL_GetWindowTitle(currentWindow()->sdl), "A title");
+    EXPECT_EQ(GetFocus(), nullptr);
+    EXPECT_FALSE(ShowWindow(window, SW_SHOW)) << "it was hidden";
+    EXPECT_TRUE(hasFlag(SDL_WINDOW_SHOWN));
     EXPECT_EQ(GetFocus(), window);
-    EXPECT_TRUE(ShowWindow(window, SW_SHOW)) << "it was visible before";
+    EXPECT_TRUE(ShowWindow(window, SW_SHOW));
     EXPECT_TRUE(UpdateWindow(window));
     EXPECT_EQ(heard, (Numbers{WM_CREATE, WM_CREATE, WM_SETFOCUS, WM_PAINT}));
     closeTestWindow();
 }
 
 TEST_F(TheWindow, AsksForPaintUntilItIsBegun) {
-    answers[WM_PAINT] = 0; // heard, and no more
     UpdateWindow(window);
     EXPECT_EQ(heard, Numbers{}) << "nothing waits";
+    answers[WM_PAINT] = 0; // heard, and no more
     for (const SDL_WindowEventID event : {SDL_WINDOWEVENT_EXPOSED, SDL_WINDOWEVENT_SIZE_CHANGED}) {
-        pushWindowEvent(event);
+        pushEvent(SDL_WINDOWEVENT, event);
         MSG message = {};
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < 2; ++i) {
             ASSERT_TRUE(PeekMessageA(&message, window, 0, 0, PM_REMOVE));
             EXPECT_EQ(message.message, WM_PAINT);
         }
         PAINTSTRUCT paint = {};
         EXPECT_EQ(BeginPaint(window, &paint), GetDC(window));
         EXPECT_EQ(paint.hdc, GetDC(window));
-        EXPECT_EQ(paint.rcPaint.right, 640);
-        EXPECT_EQ(paint.rcPaint.bottom, 480);
-        EXPECT_TRUE(EndPaint(window, &paint));
+        EXPECT_EQ(Size(paint.rcPaint.right, paint.rcPaint.bottom), ownSize);
         EXPECT_EQ(numbersNow(), Numbers{});
     }
-    EXPECT_EQ(BeginPaint(window, nullptr), nullptr);
 }
 
-TEST_F(TheWindow, LosesAndGainsTheFocus) {
-    const auto focusAfter = [&](SDL_WindowEventID event) {
-        pushWindowEvent(event);
-        return hearing();
-    };
-    EXPECT_EQ(focusAfter(SDL_WINDOWEVENT_FOCUS_GAINED), Numbers{}) << "it has it";
-    EXPECT_EQ(focusAfter(SDL_WINDOWEVENT_FOCUS_LOST), Numbers{WM_KILLFOCUS});
+TEST_F(TheWindow, HearsOfFocusAndRequestsToCloseOnce) {
+    EXPECT_EQ(heardOf(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED), Numbers{}) << "it has it";
+    EXPECT_EQ(heardOf(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST), Numbers{WM_KILLFOCUS});
     EXPECT_EQ(GetFocus(), nullptr);
-    EXPECT_EQ(focusAfter(SDL_WINDOWEVENT_FOCUS_LOST), Numbers{});
-    EXPECT_EQ(focusAfter(SDL_WINDOWEVENT_FOCUS_GAINED), Numbers{WM_SETFOCUS});
+    EXPECT_EQ(heardOf(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED), Numbers{WM_SETFOCUS});
     EXPECT_EQ(GetFocus(), window);
-}
-
-TEST_F(TheWindow, HearsEveryRequestToCloseOnce) {
-    pushWindowEvent(SDL_WINDOWEVENT_CLOSE);
-    EXPECT_EQ(hearing(), Numbers{WM_CLOSE});
-    pushEvent(SDL_QUIT);
-    EXPECT_EQ(hearing(), Numbers{WM_CLOSE});
+    EXPECT_EQ(heardOf(SDL_WINDOWEVENT, SDL_WINDOWEVENT_CLOSE), Numbers{WM_CLOSE});
+    EXPECT_EQ(heardOf(SDL_QUIT), Numbers{WM_CLOSE});
     for (const int signal : {SIGTERM, SIGINT}) {
         std::raise(signal);
-        EXPECT_EQ(hearing(), Numbers{WM_CLOSE}) << signal;
+        EXPECT_EQ(heardOf(SDL_USEREVENT), Numbers{WM_CLOSE}) << signal;
     }
-    EXPECT_EQ(hearing(), Numbers{});
 }
 
-TEST_F(TheWindow, EndsWhereNobodyAnswersTheRequest) {
+TEST_F(TheWindow, EndsWhereTheGameLeavesTheRequestToTheSystem) {
     answers.clear();
-    pushEvent(SDL_QUIT);
-    EXPECT_EQ(hearing(), (Numbers{WM_CLOSE, WM_DESTROY}));
-    EXPECT_EQ(sdlWindow(), nullptr);
-    EXPECT_EQ(GetFocus(), nullptr);
+    EXPECT_EQ(heardOf(SDL_QUIT), (Numbers{WM_CLOSE, WM_DESTROY}));
     PAINTSTRUCT paint;
-    for (const HWND none : {window, HWND{nullptr}}) {
-        EXPECT_FALSE(ShowWindow(none, SW_SHOW));
-        EXPECT_FALSE(UpdateWindow(none));
-        EXPECT_EQ(GetDC(none), nullptr);
-        EXPECT_EQ(ReleaseDC(none, nullptr), 0);
-        EXPECT_EQ(BeginPaint(none, &paint), nullptr);
-        EXPECT_EQ(DefWindowProcA(none, WM_CLOSE, 0, 0), 0);
-    }
+    EXPECT_FALSE(currentWindow() || GetFocus() || GetDC(window) || BeginPaint(window, &paint));
+    EXPECT_FALSE(ShowWindow(window, SW_SHOW) || UpdateWindow(window));
+    DefWindowProcA(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(heard, (Numbers{WM_CLOSE, WM_DESTROY}));
 }
 
 TEST_F(TheWindow, ShowsTheCursorWhileItsCountIsNotNegative) {
-    EXPECT_EQ(ShowCursor(FALSE), -1);
-    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
-    EXPECT_EQ(ShowCursor(FALSE), -2);
-    EXPECT_EQ(ShowCursor(TRUE), -1);
-    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
-    EXPECT_EQ(ShowCursor(TRUE), 0);
-    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
-    EXPECT_EQ(LoadIconA(nullptr, "any"), nullptr);
-    EXPECT_EQ(LoadCursorA(nullptr, IDC_ARROW), HCURSOR(SDL_GetDefaultCursor()));
-    EXPECT_EQ(LoadCursorA(nullptr, nullptr), nullptr);
+    const std::pair<BOOL, int> steps[] = {{FALSE, -1}, {FALSE, -2}, {TRUE, -1}, {TRUE, 0}};
+    for (const auto& [show, count] : steps) {
+        EXPECT_EQ(ShowCursor(show), count);
+        EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), count < 0 ? SDL_DISABLE : SDL_ENABLE);
+    }
 }
 
 TEST_F(TheWindow, IsTwiceTheDisplayWhereTheDesktopHasRoom) {
-    const struct {
-        SDL_Rect room;
-        std::pair<int, int> size;
-    } cases[] = {{{0, 0, 1920, 1040}, {1280, 960}},
-                 {{0, 0, 1366, 768}, {640, 480}},
-                 {{0, 0, 1280, 2000}, {640, 480}}, // no room for borders
-                 {{0, 0, 2000, 960}, {640, 480}},
-                 {{0, 0, 0, 0}, {640, 480}}}; // nobody knows
-    for (const auto& c : cases) {
-        desktopRoom = c.room;
+    const std::pair<Size, Size> cases[] = {{{1920, 1040}, {1280, 960}},
+                                           {{1366, 768}, ownSize},
+                                           {{1280, 2000}, ownSize}, // no room for borders
+                                           {{2000, 960}, ownSize},
+                                           {{0, 0}, ownSize}}; // the room is not known
+    for (const auto& [room, size] : cases) {
+        roomOnDesktop = {0, 0, room.first, room.second};
         closeTestWindow();
         openTestWindow();
-        EXPECT_EQ(sizeOfWindow(), c.size) << c.room.w;
+        EXPECT_EQ(sizeOfWindow(), size) << room.first;
     }
 }
 
 TEST_F(TheWindow, CoversTheScreenInTheDisplayModeOnly) {
-    DEVMODEA mode = {};
-    ASSERT_TRUE(EnumDisplaySettingsA(nullptr, 0, &mode));
     SDL_Rect desktop;
     SDL_GetDisplayBounds(0, &desktop);
-    const std::pair whole{desktop.w, desktop.h};
+    const auto coversScreen = [&] {
+        return hasFlag(SDL_WINDOW_FULLSCREEN_DESKTOP) &&
+               sizeOfWindow() == Size(desktop.w, desktop.h);
+    };
+    DEVMODEA mode = {0, 0, 16, 640, 480};
     EXPECT_EQ(ChangeDisplaySettingsA(&mode, 0), DISP_CHANGE_SUCCESSFUL);
-    EXPECT_TRUE(isFullScreen());
-    EXPECT_EQ(sizeOfWindow(), whole);
+    EXPECT_TRUE(coversScreen());
     EXPECT_EQ(ChangeDisplaySettingsA(nullptr, 0), DISP_CHANGE_SUCCESSFUL);
-    EXPECT_TRUE(SDL_GetWindowFlags(sdlWindow()) & SDL_WINDOW_HIDDEN);
-    EXPECT_FALSE(isFullScreen());
-    EXPECT_EQ(sizeOfWindow(), (std::pair{640, 480}));
-    EXPECT_FALSE(ShowWindow(window, SW_SHOW)) << "it was hidden";
-    EXPECT_FALSE(isFullScreen());
+    EXPECT_TRUE(hasFlag(SDL_WINDOW_HIDDEN));
+    EXPECT_FALSE(ShowWindow(window, SW_SHOW) || hasFlag(SDL_WINDOW_FULLSCREEN_DESKTOP));
+    EXPECT_EQ(sizeOfWindow(), ownSize);
 
     closeTestWindow();
     ChangeDisplaySettingsA(&mode, 0);
-    window = openTestWindow();
-    EXPECT_FALSE(isFullScreen());
-    ShowWindow(window, SW_SHOW);
-    EXPECT_TRUE(isFullScreen());
-    EXPECT_EQ(sizeOfWindow(), whole);
+    ShowWindow(openTestWindow(), SW_SHOW);
+    EXPECT_TRUE(coversScreen());
     pushKey(SDL_SCANCODE_RETURN, KMOD_LALT);
-    numbersNow();
-    EXPECT_EQ(sizeOfWindow(), (std::pair{640, 480}));
+    messagesNow();
+    EXPECT_EQ(sizeOfWindow(), ownSize);
     ChangeDisplaySettingsA(nullptr, 0);
 }
 
-TEST(DisplayMode, IsOneOf640By480In16Bits) {
-    openTestWindow();
-    closeTestWindow();
+TEST_F(TheWindow, HasOneDisplayMode) {
     DEVMODEA mode = {};
     ASSERT_TRUE(EnumDisplaySettingsA(nullptr, 0, &mode));
     EXPECT_EQ(mode.dmSize, sizeof mode);
     EXPECT_EQ(mode.dmFields, DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT);
     EXPECT_EQ(mode.dmBitsPerPel, 16U);
-    EXPECT_EQ(mode.dmPelsWidth, 640U);
-    EXPECT_EQ(mode.dmPelsHeight, 480U);
-    for (DWORD DEVMODEA::*field :
+    EXPECT_EQ(Size(mode.dmPelsWidth, mode.dmPelsHeight), ownSize);
+    for (const auto field :
          {&DEVMODEA::dmBitsPerPel, &DEVMODEA::dmPelsWidth, &DEVMODEA::dmPelsHeight}) {
         DEVMODEA other = mode;
         other.*field *= 2;
