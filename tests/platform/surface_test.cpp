@@ -11,6 +11,15 @@
 
 namespace {
 
+int framesShown = 0;
+
+} // namespace
+
+// The linker takes this one instead of SDL's; without a screen it has nothing to swap.
+void SDLCALL SDL_GL_SwapWindow(SDL_Window*) { ++framesShown; }
+
+namespace {
+
 using Colour = std::array<int, 3>;
 using Four = std::array<int, 4>;
 
@@ -163,7 +172,9 @@ TEST_F(Surface, KeepsTheStatesOfTheGameWhenItIsShown) {
     glClearColor(1, 0, 1, 0);
     SDL_SetWindowSize(currentWindow()->sdl, 640, 360); // the bars stand where red was
     const auto before = statesNow();
+    const int shownBefore = framesShown;
     EXPECT_TRUE(SwapBuffers(dc));
+    EXPECT_EQ(framesShown, shownBefore + 1);
     EXPECT_EQ(statesNow(), before);
     EXPECT_EQ(glGetError(), GLenum{GL_NO_ERROR});
     EXPECT_EQ(shownAt(300, 300), green) << "neither scissors nor masks cut the copy";

@@ -96,10 +96,12 @@ TEST_F(TheWindow, HearsOfFocusAndRequestsToCloseOnce) {
 }
 
 TEST_F(TheWindow, EndsWhereTheGameLeavesTheRequestToTheSystem) {
+    const Uint32 number = SDL_GetWindowID(currentWindow()->sdl);
     answers.clear();
     EXPECT_EQ(heardOf(SDL_QUIT), (Numbers{WM_CLOSE, WM_DESTROY}));
     PAINTSTRUCT paint;
-    EXPECT_FALSE(currentWindow() || GetFocus() || GetDC(window) || BeginPaint(window, &paint));
+    EXPECT_FALSE(currentWindow() || SDL_GetWindowFromID(number) || GetFocus() || GetDC(window) ||
+                 BeginPaint(window, &paint));
     EXPECT_FALSE(ShowWindow(window, SW_SHOW) || UpdateWindow(window));
     DefWindowProcA(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(heard, (Numbers{WM_CLOSE, WM_DESTROY}));
