@@ -10,30 +10,30 @@ namespace {
 
 // The codes of keys that follow each other in SDL's numbers.
 struct Row {
-    SDL_Scancode first;
     std::vector<int> codes;
+    SDL_Scancode first;
     int modifiers = KMOD_NONE;
 };
 
 const Row everyKey[] = {
-    {SDL_SCANCODE_A, {65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77}},
-    {SDL_SCANCODE_N, {78, 79, 80, 81, 82, 83, 84, 85, 86, 87, 88, 89, 90}},
-    {SDL_SCANCODE_1, {'1', '2', '3', '4', '5', '6', '7', '8', '9', '0'}},
+    {{65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77}, SDL_SCANCODE_A},
+    {{78, 79, 80, 81, 82, 83, 84, 85, 86, 87, 88, 89, 90}, SDL_SCANCODE_N},
+    {{'1', '2', '3', '4', '5', '6', '7', '8', '9', '0'}, SDL_SCANCODE_1},
     // Return, Escape, Backspace, Tab, Space, minus, equals, both brackets, backslash
-    {SDL_SCANCODE_RETURN, {13, 27, 8, 9, 32, 189, 187, 219, 221, 220}},
+    {{13, 27, 8, 9, 32, 189, 187, 219, 221, 220}, SDL_SCANCODE_RETURN},
     // semicolon, apostrophe, grave accent, comma, period, slash, Caps Lock
-    {SDL_SCANCODE_SEMICOLON, {186, 222, 192, 188, 190, 191, 20}},
-    {SDL_SCANCODE_F1, {112, 113, 114, 115, 116, 117, 118, 119, 120, 121, 122, 123}},
-    {SDL_SCANCODE_F13, {124, 125, 126, 127, 128, 129, 130, 131, 132, 133, 134, 135}},
+    {{186, 222, 192, 188, 190, 191, 20}, SDL_SCANCODE_SEMICOLON},
+    {{112, 113, 114, 115, 116, 117, 118, 119, 120, 121, 122, 123}, SDL_SCANCODE_F1},
+    {{124, 125, 126, 127, 128, 129, 130, 131, 132, 133, 134, 135}, SDL_SCANCODE_F13},
     // Scroll Lock, Pause, Insert, Home, Page Up, Delete, End, Page Down, right, left, down, up
-    {SDL_SCANCODE_SCROLLLOCK, {145, 19, 45, 36, 33, 46, 35, 34, 39, 37, 40, 38}},
+    {{145, 19, 45, 36, 33, 46, 35, 34, 39, 37, 40, 38}, SDL_SCANCODE_SCROLLLOCK},
     // the keypad: Num Lock, divide, multiply, minus, plus, Enter; then 1 to 9, 0 and the point
-    {SDL_SCANCODE_NUMLOCKCLEAR, {144, 111, 106, 109, 107, 13}},
-    {SDL_SCANCODE_KP_1, {35, 40, 34, 37, 12, 39, 36, 38, 33, 45, 46}},
-    {SDL_SCANCODE_KP_1, {97, 98, 99, 100, 101, 102, 103, 104, 105, 96, 110}, KMOD_NUM},
-    {SDL_SCANCODE_NONUSBACKSLASH, {226, 93}}, // beside the left Shift; the menu key
+    {{144, 111, 106, 109, 107, 13}, SDL_SCANCODE_NUMLOCKCLEAR},
+    {{35, 40, 34, 37, 12, 39, 36, 38, 33, 45, 46}, SDL_SCANCODE_KP_1},
+    {{97, 98, 99, 100, 101, 102, 103, 104, 105, 96, 110}, SDL_SCANCODE_KP_1, KMOD_NUM},
+    {{226, 93}, SDL_SCANCODE_NONUSBACKSLASH}, // beside the left Shift; the menu key
     // left Control, Shift, Alt and logo; the same on the right
-    {SDL_SCANCODE_LCTRL, {17, 16, 18, 91, 17, 16, 18, 92}}};
+    {{17, 16, 18, 91, 17, 16, 18, 92}, SDL_SCANCODE_LCTRL}};
 
 using Codes = std::vector<int>;
 

@@ -99,7 +99,7 @@ std::string textOf(DWORD error, DWORD flags = 0x1100) {
     char* text = nullptr;
     const DWORD length =
         FormatMessageA(flags, nullptr, error, 0, reinterpret_cast<char*>(&text), 0, nullptr);
-    const std::string copy = text ? text : "";
+    std::string copy = text ? text : "";
     EXPECT_EQ(length, copy.size());
     EXPECT_EQ(LocalFree(text), nullptr);
     return copy;
