@@ -18,7 +18,9 @@ using Numbers = std::vector<UINT>; // of messages
 inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
 inline std::optional<SDL_Rect> roomOnDesktop; // for windows; without a value the whole desktop
 
-// The linker takes these two instead of SDL's.
+inline int framesShown = 0;
+
+// The linker takes these instead of SDL's. Without a screen there is nothing to swap.
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetTicks64() {
     return stoppedClock.value_or(SDL_GetTicks());
 }
@@ -29,6 +31,8 @@ inline std::optional<SDL_Rect> roomOnDesktop; // for windows; without a value th
     *room = *roomOnDesktop;
     return room->w > 0 ? 0 : -1;
 }
+
+[[gnu::used]] inline void SDLCALL SDL_GL_SwapWindow(SDL_Window*) { ++framesShown; }
 
 // The window procedure writes down what it hears. It returns what `answers` holds for a message;
 // all others it leaves to DefWindowProcA.

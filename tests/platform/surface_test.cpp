@@ -6,17 +6,7 @@
 #include <array>
 
 #include "platform/sdl/errors.h"
-#include "platform/sdl/letterbox.h"
 #include "platform/sdl_machine.h"
-
-namespace {
-
-int framesShown = 0;
-
-} // namespace
-
-// The linker takes this one instead of SDL's; without a screen it has nothing to swap.
-void SDLCALL SDL_GL_SwapWindow(SDL_Window*) { ++framesShown; }
 
 namespace {
 
@@ -181,20 +171,6 @@ TEST_F(Surface, KeepsTheStatesOfTheGameWhenItIsShown) {
     EXPECT_EQ(shownAt(70, 300), black);
     fill({0, 0, 1, 1}, black);
     EXPECT_EQ(colourAt(0, 0), black) << "drawing goes on";
-}
-
-TEST(Letterbox, KeepsTheShapeInTheMiddleOfAnyWindow) {
-    const struct {
-        int width, height;
-        Four picture; // x, y, width, height
-    } cases[] = {{640, 480, {0, 0, 640, 480}},
-                 {1920, 1080, {240, 0, 1440, 1080}},
-                 {700, 900, {0, 187, 700, 525}},
-                 {0, 0, {0, 0, 0, 0}}};
-    for (const auto& c : cases) {
-        const PixelRect r = letterbox(c.width, c.height);
-        EXPECT_EQ((Four{r.x, r.y, r.width, r.height}), c.picture) << c.width;
-    }
 }
 
 } // namespace
