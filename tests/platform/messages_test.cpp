@@ -65,7 +65,7 @@ TEST_F(Messages, OfTimersKeepTheirBeatAndTheOrderOfTheirDueTimes) {
         EXPECT_EQ(timersAfter(time), timers);
     }
     EXPECT_EQ(SetTimer(window, 900, never, nullptr), 900U);
-    EXPECT_EQ(SetTimer(window, 2, never, nullptr), 2U);
+    EXPECT_EQ(SetTimer(window, 3, never, nullptr), 3U);
     const UINT_PTR first = SetTimer(nullptr, 0, never, nullptr);
     EXPECT_GT(first, 900U) << "without a window: a new number";
     EXPECT_GT(SetTimer(nullptr, 2, never, nullptr), first);

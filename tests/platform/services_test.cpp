@@ -86,9 +86,9 @@ TEST_F(Files, ThatCannotBeReadAreRefusedInWords) {
     expectRefused(CreateFileA(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
                   "name");
     char byte = 0;
-    DWORD got = 99;
     const HANDLE broken = openFile("/proc/self/mem"); // nothing can be read at address 0
     for (const HANDLE handle : {broken, HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
+        DWORD got = 99;
         EXPECT_FALSE(ReadFile(handle, &byte, 1, &got, nullptr));
         EXPECT_EQ(got, 0U);
         EXPECT_EQ(CloseHandle(handle), handle == broken ? TRUE : FALSE);
@@ -111,10 +111,10 @@ TEST(Errors, KeepTheirWords) {
     setLastError("The second.");
     EXPECT_EQ(textOf(GetLastError()), "The second.");
     EXPECT_EQ(textOf(first), "The first.");
-    EXPECT_EQ(textOf(first + 2), "Error " + std::to_string(first + 2) + ".");
     setLastError("The first.");
     EXPECT_EQ(GetLastError(), first);
     EXPECT_EQ(lastErrorText(), "The first.");
+    EXPECT_EQ(textOf(first + 2), "Error " + std::to_string(first + 2) + ".");
     EXPECT_EQ(textOf(0), "There is no error.");
     EXPECT_EQ(textOf(first, FORMAT_MESSAGE_FROM_SYSTEM), "");
     EXPECT_EQ(textOf(first, FORMAT_MESSAGE_ALLOCATE_BUFFER), "");
