@@ -73,7 +73,8 @@ bool MessageBox::open(const BoxWords& box, SDL_Window* over) {
     scale = std::max(leastScale, static_cast<int>(std::lround(room.h / heightPerScale)));
     const BoxLayout layout =
         layOutBox(words, scale, room.w - frameAllowance, room.h - frameAllowance);
-    const int centre = static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(display));
+    const auto centre =
+        static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned>(display)));
     sdl = SDL_CreateWindow(words.caption.c_str(), centre, centre, layout.width, layout.height,
                            SDL_WINDOW_HIDDEN | SDL_WINDOW_ALWAYS_ON_TOP | SDL_WINDOW_ALLOW_HIGHDPI);
     if (!sdl) {
