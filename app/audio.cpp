@@ -1,6 +1,7 @@
 #include "app/audio.h"
 
-#include "app/game.h"
+#include "platform/windows_api.h"
+#include "state/game.h"
 
 namespace {
 

@@ -1,21 +1,20 @@
 #include "app/display.h"
 
-#include <GL/gl.h>
-
-#include "app/game.h"
-#include "data/best_times.h"
+#include "app/resources.h"
 #include "data/font.h"
 #include "data/level_list.h"
+#include "platform/windows_api.h"
+#include "render/frame_state.h"
+#include "state/game.h"
+
+DEVMODEA displayMode = {};
 
 namespace {
-
-constexpr DWORD colourBits = 16;
-constexpr BYTE depthBits = 16;
 
 constexpr const char* initError = "Initialization Error";
 
 bool isGameMode(const DEVMODEA& mode) {
-    return mode.dmBitsPerPel == colourBits && mode.dmPelsWidth == screenWidth &&
+    return mode.dmBitsPerPel == screenColourBits && mode.dmPelsWidth == screenWidth &&
            mode.dmPelsHeight == screenHeight;
 }
 
@@ -31,7 +30,7 @@ bool findGameMode() {
 
 // Asks for nothing but size and colours, leaving the rest of the mode to the display.
 LONG switchBySize() {
-    displayMode.dmBitsPerPel = colourBits;
+    displayMode.dmBitsPerPel = screenColourBits;
     displayMode.dmPelsWidth = screenWidth;
     displayMode.dmPelsHeight = screenHeight;
     displayMode.dmFields = DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT;
@@ -64,8 +63,8 @@ PIXELFORMATDESCRIPTOR wantedFormat() {
     format.nVersion = 1;
     format.dwFlags = PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
     format.iPixelType = PFD_TYPE_RGBA;
-    format.cColorBits = colourBits;
-    format.cDepthBits = depthBits;
+    format.cColorBits = screenColourBits;
+    format.cDepthBits = screenDepthBits;
     format.iLayerType = PFD_MAIN_PLANE;
     return format;
 }
@@ -90,11 +89,6 @@ bool refuseWithLastError(const char* caption) {
 bool refuseWithError(HWND owner, const char* text) {
     MessageBoxA(owner, text, errorCaption, MB_OK);
     return false;
-}
-
-void setStartState() {
-    glClearDepth(0.0); // the ground is drawn with inverse depths: nearer is greater
-    glHint(GL_FOG_HINT, GL_FASTEST);
 }
 
 } // namespace

@@ -1,18 +1,47 @@
 #include "app/frame.h"
 
-#include <GL/gl.h>
-
 #include "app/audio.h"
-#include "app/game.h"
-#include "app/screens.h"
-#include "data/best_times_screen.h"
-#include "data/level.h"
-#include "data/name_entry.h"
+#include "app/bitmap_file.h"
+#include "app/name_entry.h"
+#include "platform/windows_api.h"
+#include "render/best_times_screen.h"
+#include "render/frame_state.h"
+#include "render/penalty_label.h"
+#include "render/screens.h"
+#include "sim/level.h"
 #include "sim/marble.h"
-#include "sim/penalty_label.h"
 #include "sim/view_frame.h"
+#include "state/game.h"
 
 namespace {
+
+// A picture of the whole screen: its file, the message when that cannot be read, and its place in
+// the Game record. It is read when its screen is first entered; after a failure it is left out, and
+// tried again when its screen is entered again.
+struct ScreenPicture {
+    const char* fileName;
+    const char* failure;
+    std::uint8_t& pending;
+    std::uint8_t* pixels;
+};
+
+const ScreenPicture titlePicture = {"graphics/title.bmp", "could not load.bmp title",
+                                    Game.titlePending, Game.titlePicture};
+const ScreenPicture backPicture = {"graphics/back.bmp", "could not load back.bmp", Game.backPending,
+                                   Game.backPicture};
+
+void readPicture(const ScreenPicture& picture) {
+    if (readBitmapOfSize(picture.fileName, screenWidth, screenHeight, picture.pixels)) {
+        picture.pending = 0;
+    } else {
+        MessageBoxA(Game.window, picture.failure, errorCaption, MB_OK);
+    }
+}
+
+void showPicture(const ScreenPicture& picture, bool entered) {
+    if (picture.pending && entered) readPicture(picture);
+    if (!picture.pending) drawPicture(picture.pixels);
+}
 
 void endPlay() {
     if (Game.musicPlaying) stopMusic();
@@ -29,26 +58,16 @@ void present() {
     SwapBuffers(Game.deviceContext);
 }
 
-// Clears for the frame that follows. In fog the sky has its colour, otherwise it is black.
-void prepareNextFrame() {
-    constexpr float perByte = 0.003921569F; // 1 / 255
-    const std::uint32_t c = Game.fogOn ? level.getFogColourCode() : 0;
-    glClearColor(static_cast<float>(c >> 16 & 255U) * perByte,
-                 static_cast<float>(c >> 8 & 255U) * perByte,
-                 static_cast<float>(c & 255U) * perByte, 0.0F);
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-}
-
 void drawTitleScreen(bool entered) {
     endPlay();
-    drawTitlePicture(entered);
+    showPicture(titlePicture, entered);
     drawMenuIfOpen();
     present();
 }
 
 void drawBestTimesScreen(bool entered) {
     endPlay();
-    drawBackPicture(entered);
+    showPicture(backPicture, entered);
     drawShade();
     drawBestTimes();
     drawMenuIfOpen();
@@ -57,7 +76,7 @@ void drawBestTimesScreen(bool entered) {
 
 void drawNameEntryScreen(bool entered) {
     takeNameKey();
-    drawBackPicture(entered);
+    showPicture(backPicture, entered);
     drawShade();
     drawBestTimes();
     drawMenuIfOpen();
@@ -74,7 +93,7 @@ void drawLevelScreen() {
     ++Game.framesThisSecond;
     drawMenuIfOpen();
     present();
-    prepareNextFrame();
+    clearFrame(Game.fogOn != 0);
 }
 
 } // namespace

@@ -1,15 +1,16 @@
 #include "app/keyboard.h"
 
-#include <GL/gl.h>
-
 #include "app/audio.h"
 #include "app/effects.h"
-#include "app/game.h"
 #include "data/best_times.h"
+#include "platform/windows_api.h"
+#include "render/frame_state.h"
+#include "state/game.h"
+#include "state/menu.h"
 
 namespace {
 
-constexpr float cameraLags = 10.0F; // the lag is 0 to 9, going round
+constexpr float cameraLagCount = 10.0F; // the lag is 0 to 9 and wraps around
 
 void toggle(std::uint8_t& flag) {
     flag ^= 1;
@@ -17,10 +18,6 @@ void toggle(std::uint8_t& flag) {
 
 void postKey(int key) {
     PostMessageA(Game.window, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
-}
-
-bool onOptionsPage() {
-    return Game.menuItem >= MenuItem::Statistics;
 }
 
 void startNewGame() {
@@ -45,52 +42,37 @@ void quit() {
 
 void raiseCameraLag() {
     Game.cameraLag += 1.0F;
-    if (Game.cameraLag >= cameraLags) Game.cameraLag = 0.0F;
+    if (Game.cameraLag >= cameraLagCount) Game.cameraLag = 0.0F;
 }
 
 void lowerCameraLag() {
     Game.cameraLag -= 1.0F;
-    if (Game.cameraLag < 0.0F) Game.cameraLag = cameraLags - 1.0F;
+    if (Game.cameraLag < 0.0F) Game.cameraLag = cameraLagCount - 1.0F;
 }
 
 void chooseMenuItem() {
-    switch (Game.menuItem) {
-    case MenuItem::NewGame: startNewGame(); break;
-    case MenuItem::HighScore: showBestTimes(); break;
-    case MenuItem::Options: Game.menuItem = MenuItem::Statistics; break;
-    case MenuItem::Quit: quit(); break;
-    case MenuItem::Statistics: postKey(VK_F2); break;
-    case MenuItem::Fog: postKey(VK_F5); break;
-    case MenuItem::FarSight: postKey(VK_F4); break;
-    case MenuItem::Normal: postKey(VK_F3); break;
-    case MenuItem::CameraLag: raiseCameraLag(); break;
-    case MenuItem::Midi: postKey(VK_F6); break;
-    case MenuItem::Done: Game.menuItem = MenuItem::Options; break;
-    default: break;
+    const MenuLine& line = menuLine(Game.menuItem);
+    switch (line.action) {
+    case MenuAction::StartRun: startNewGame(); break;
+    case MenuAction::ShowBestTimes: showBestTimes(); break;
+    case MenuAction::GoTo: Game.menuItem = line.target; break;
+    case MenuAction::Quit: quit(); break;
+    case MenuAction::PostKey: postKey(line.target); break;
+    case MenuAction::RaiseCameraLag: raiseCameraLag(); break;
     }
 }
 
-// Both pages go round; in fog "Far Sight" is stepped over.
+// Both pages wrap around; in fog "Far Sight" is stepped over.
 void moveUp() {
-    if (Game.menuItem == MenuItem::NewGame) {
-        Game.menuItem = MenuItem::Quit;
-    } else if (Game.menuItem == MenuItem::Statistics) {
-        Game.menuItem = MenuItem::Done;
-    } else {
-        --Game.menuItem;
-    }
-    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) Game.menuItem = MenuItem::Fog;
+    const MenuPage& page = menuPageOf(Game.menuItem);
+    Game.menuItem = Game.menuItem == page.first ? page.last : Game.menuItem - 1;
+    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) --Game.menuItem;
 }
 
 void moveDown() {
-    if (Game.menuItem == MenuItem::Quit) {
-        Game.menuItem = MenuItem::NewGame;
-    } else if (Game.menuItem == MenuItem::Done) {
-        Game.menuItem = MenuItem::Statistics;
-    } else {
-        ++Game.menuItem;
-    }
-    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) Game.menuItem = MenuItem::Normal;
+    const MenuPage& page = menuPageOf(Game.menuItem);
+    Game.menuItem = Game.menuItem == page.last ? page.first : Game.menuItem + 1;
+    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) ++Game.menuItem;
 }
 
 void pressEnter() {
@@ -105,7 +87,7 @@ void pressEscape() {
         Game.menuOpen = 1;
         Game.menuItem = MenuItem::NewGame;
         Game.paused = 1;
-    } else if (onOptionsPage()) {
+    } else if (Game.menuItem >= optionsPage.first) {
         Game.menuItem = MenuItem::NewGame;
     } else {
         Game.menuOpen = 0;
@@ -145,12 +127,8 @@ void toggleFarSight() {
 
 void toggleFog() {
     toggle(Game.fogOn);
-    if (Game.fogOn) {
-        Game.farSight = 0;
-        glEnable(GL_FOG);
-    } else {
-        glDisable(GL_FOG);
-    }
+    if (Game.fogOn) Game.farSight = 0;
+    switchFog(Game.fogOn != 0);
 }
 
 void toggleMidi() {

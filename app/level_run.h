@@ -1,15 +1,12 @@
-// A run: the levels of the list in order, each against its clock.
-//
-// Game.clock counts down from a count-down of 1.5 s (7 s on level 1) above 45 seconds. A level
-// reached in time records its time and leads to the next one a second later; one whose time runs
-// out ends the run four seconds later. The end of a run goes to the best times.
+// A run: the levels of the list in order, each against its clock (sim/level_clock.h). The end of a
+// run goes to the best times.
 #pragma once
 
-// Starts the level after Game.levelNumber, or ends the run behind the last one: the handler of
+// Starts the level after Game.levelNumber, or ends the run after the last one: the handler of
 // WM_GAME_START_LEVEL. Does nothing while the menu is open. A level that cannot be loaded is
 // reported, and the program ends.
 void startNextLevel();
 
-// The clock's turning points, looked at after each running tick's frame: the level's end, the time
-// being up, the start signal.
+// The turning points of the level's clock, checked after the frame of each running tick: starts the
+// next level and plays the signals of the start and of the end of the time.
 void checkLevelClock();

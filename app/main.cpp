@@ -1,7 +1,8 @@
 // The entry of the game, and the loop in which it lives: every idle moment becomes a tick.
 #include "app/display.h"
-#include "app/game.h"
 #include "app/window.h"
+#include "platform/windows_api.h"
+#include "state/game.h"
 
 namespace {
 

@@ -3,11 +3,13 @@
 #include "app/audio.h"
 #include "app/display.h"
 #include "app/frame.h"
-#include "app/game.h"
 #include "app/keyboard.h"
 #include "app/level_run.h"
+#include "app/simulation_tick.h"
+#include "platform/windows_api.h"
 #include "sim/camera.h"
-#include "sim/simulation.h"
+#include "sim/level_clock.h"
+#include "state/game.h"
 
 namespace {
 
@@ -77,8 +79,7 @@ void tick() {
         drawFrame();
         return;
     }
-    Game.clock -= Game.frameTime;
-    Game.holdTime -= Game.frameTime;
+    advanceClocks();
     updateSimulation();
     updateCamera();
     drawFrame();

@@ -4,12 +4,12 @@
 // the projection and the calls.
 #include <benchmark/benchmark.h>
 
-#include "app/game.h"
-#include "data/level.h"
 #include "sim/camera.h"
+#include "sim/level.h"
 #include "sim/marble.h"
 #include "sim/simulation.h"
 #include "sim/view_frame.h"
+#include "state/game.h"
 
 namespace {
 
@@ -18,25 +18,13 @@ constexpr int manyHoles = 160;
 
 // Wells and mounds in two rows beside the marble's way, none of which catches it.
 void digHoles(int count) {
-    level.holes.reset(new (std::nothrow) Hole[static_cast<std::size_t>(count)]);
-    level.holeCount = count;
+    level.makeHoles(count);
     float side = -1.0F;
     float along = 0.0F;
     for (Hole& hole : level.allHoles()) {
         hole = {side * 600.0F, -5900.0F + 11800.0F * along, 60.0F, side * 120.0F};
         side = -side;
         along += 1.0F / static_cast<float>(count);
-    }
-}
-
-void buildMesh() {
-    level.groundPoints.reset(new (std::nothrow) Vector3[groundVertices]);
-    level.groundScreen.reset(new (std::nothrow) Vector3[groundVertices]);
-    level.groundTexCoords.reset(new (std::nothrow) Vector3[groundVertices]());
-    for (int i = 0; i < groundVertices; ++i) {
-        const auto x = static_cast<float>((i % groundColumns - groundCentreColumn) * groundSpacing);
-        const auto y = static_cast<float>((i / groundColumns - groundCentreRow) * groundSpacing);
-        level.groundPoints[static_cast<std::size_t>(i)].set(x, y, level.heightAt(x, y));
     }
 }
 
@@ -68,7 +56,7 @@ void simulateTick(benchmark::State& state) {
     const Marble rolling = marble;
     for (auto _ : state) {
         marble = rolling; // or it would roll into a hole, where a tick is cheap
-        updateSimulation();
+        stepWorld({});
         benchmark::DoNotOptimize(marble.position);
     }
 }
@@ -83,7 +71,7 @@ void moveCamera(benchmark::State& state) {
 
 void walkGround(benchmark::State& state) {
     settle(state);
-    buildMesh();
+    level.buildMesh();
     std::int32_t triangles = 0;
     for (auto _ : state) {
         triangles = level.drawGround(viewFrame, false, true);
@@ -94,7 +82,7 @@ void walkGround(benchmark::State& state) {
 void buildLevelMesh(benchmark::State& state) {
     settle(state);
     for (auto _ : state) {
-        buildMesh();
+        level.buildMesh();
     }
 }
 

@@ -6,8 +6,8 @@
 #include <sstream>
 #include <string>
 
-#include "app/game.h"
 #include "data/safe_file.h"
+#include "state/game.h"
 
 namespace {
 
@@ -16,16 +16,6 @@ constexpr const char* defaultName = "aaa";
 void setEntry(BestTimeEntry& entry, float time, const char* name) {
     entry.time = time;
     std::snprintf(entry.name, sizeof entry.name, "%s", name);
-}
-
-bool readTable() {
-    TokenReader reader;
-    if (!reader.open(bestTimesFile)) return false;
-    for (int i = 0; i < bestTimesShown; ++i) {
-        BestTimeEntry& entry = bestTimes.slots[i];
-        if (!reader.readFloat(entry.time) || !reader.readToken(entry.name)) return false;
-    }
-    return true;
 }
 
 std::string textOfTable() {
@@ -61,14 +51,21 @@ int placeOfCandidate() {
 
 } // namespace
 
-bool loadBestTimes() {
-    if (readTable()) return true;
-    MessageBoxA(nullptr, "Creating new highScores file", "Notice", MB_OK);
+bool readBestTimes() {
+    TokenReader reader;
+    if (!reader.open(bestTimesFile)) return false;
+    for (int i = 0; i < bestTimesShown; ++i) {
+        BestTimeEntry& entry = bestTimes.slots[i];
+        if (!reader.readFloat(entry.time) || !reader.readToken(entry.name)) return false;
+    }
+    return true;
+}
+
+void setDefaultBestTimes() {
     const auto unfinished = static_cast<float>(Game.levelCount * static_cast<int>(levelTime));
     for (int i = 0; i < bestTimesShown; ++i) {
         setEntry(bestTimes.slots[i], unfinished, defaultName);
     }
-    return true;
 }
 
 bool saveBestTimes() {

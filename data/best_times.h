@@ -24,17 +24,20 @@ struct BestTimes {
 
 extern BestTimes bestTimes;
 
-// Fills the table from the file or, where that is missing or short, after a message with defaults:
-// the total of a run in which no level was finished. Always true. Needs Game.levelCount.
-bool loadBestTimes();
+// Fills the table from its file. Returns false when that is missing or does not hold ten entries;
+// what the table holds then is open. (loadBestTimes in app/resources.h puts the defaults there.)
+bool readBestTimes();
+
+// Fills the table with ten runs in which no level was finished. Needs Game.levelCount.
+void setDefaultBestTimes();
 
 // Writes the table to its file. When that fails, says why on standard error and returns false; the
 // old table is then still there.
 bool saveBestTimes();
 
-// 1 when the first entry's time is greater than the second's, otherwise -1; never 0.
+// Returns 1 when the first entry's time is greater than the second's, otherwise -1; never 0.
 int compareBestTimes(const BestTimeEntry& first, const BestTimeEntry& second);
 
-// Ends a run: sorts its total into the table, behind entries of the same time. When it is among the
-// ten best, Game.newBestEntry is its place, the name entry begins, and true comes back.
+// Ends a run: sorts its total into the table, after entries of the same time. When it is among the
+// ten best, Game.newBestEntry becomes its place, the name entry begins, and the result is true.
 bool finishRun();

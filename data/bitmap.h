@@ -1,19 +1,28 @@
 // Bitmap files: uncompressed 24-bit pictures, the game's only picture format.
 //
-// The reader takes a 14-byte file header, a 40-byte information header and, from byte 54 on, the
-// pixels packed row after row, bottom row first, as OpenGL wants them. Rows are not padded, which
-// a standard file agrees with whenever its width times 3 is a multiple of 4.
+// A file is a 14-byte file header, a 40-byte information header and, from byte 54 on, the pixels
+// packed row after row, bottom row first, as OpenGL wants them. Rows are not padded, which a
+// standard file agrees with whenever its width times 3 is a multiple of 4. Nothing here reads a
+// file: app/bitmap_file.h does, and so does the level tool.
 #pragma once
 
 #include <cstdint>
 
-// Reads a picture whose pixels take at most `capacity` bytes, whatever its width and height: red,
-// green, blue. False, with no message, when the file cannot be read, holds a larger picture, one
-// with another depth or one stored top row first: nothing is ever written past the buffer. A file
-// that ends early counts as read; in place of the pixels it lacks stands what the buffer held, its
-// red and blue exchanged.
-bool readBitmap(const char* fileName, std::uint8_t* pixels, std::int32_t capacity);
+inline constexpr int bitmapFileHeaderSize = 14; // bytes
+inline constexpr int bitmapInfoHeaderSize = 40; // bytes
+inline constexpr int bytesPerPixel = 3;
 
-// The same for a picture of exactly width x height pixels; one of another size is refused.
-bool readBitmapOfSize(const char* fileName, std::int32_t width, std::int32_t height,
-                      std::uint8_t* pixels);
+// What the information header says.
+struct BitmapInfo {
+    std::int32_t width;  // pixels
+    std::int32_t height; // pixels
+    int bitsPerPixel;
+};
+BitmapInfo parseBitmapInfo(const std::uint8_t (&infoHeader)[bitmapInfoHeaderSize]);
+
+// The number of bytes that the pixels take. Returns -1 for a picture that the game cannot show: of
+// another depth, or with its rows stored from the top.
+std::int64_t pixelBytes(const BitmapInfo& info);
+
+// Turns the file's blue, green, red into red, green, blue, or back.
+void exchangeRedAndBlue(std::uint8_t* pixels, std::int64_t byteCount);

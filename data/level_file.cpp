@@ -1,75 +1,35 @@
-#include "data/level.h"
+#include "data/level_file.h"
 
-#include <cstddef>
-#include <cstdio>
 #include <cstring>
-#include <new>
+#include <optional>
 
-#include <GL/gl.h>
-
-#include "app/game.h"
-#include "data/mip_chain.h"
-#include "data/tokens.h"
 #include "sim/marble.h"
 
 namespace {
 
-constexpr MipChain groundChain = {
-    .levels = groundTextureLevels,
-    .size = groundTextureSize,
-    .texture = groundTexture,
-    .internalFormat = 3, // components
-    .wrap = GL_REPEAT,
-    .magnification = GL_LINEAR,
-    .minification = GL_LINEAR_MIPMAP_LINEAR,
-};
+using Cause = LevelFault::Cause;
 
-// The texture repeats every 5 1/3 columns and every 4 rows.
-constexpr double texturePerColumn = 0.1875;
-constexpr double texturePerRow = 0.25;
+// One call of readLevelFile.
+struct LevelReading {
+    TokenReader tokens;
+    Level& into;
+    Marble& playerMarble;
+    TextureReader readTexture;
+    LevelFileReport& report;
 
-enum class Directive { TextureFile, FogColour, MarbleColour, HoleCount, Data, Unknown };
-
-struct DirectiveKey {
-    const char* key;
-    Directive directive;
-};
-
-constexpr DirectiveKey directiveKeys[] = {
-    {"texturefile=", Directive::TextureFile},
-    {"fogcolor=", Directive::FogColour},
-    {"marblecolor=", Directive::MarbleColour},
-    {"holecount=", Directive::HoleCount},
-    {".data", Directive::Data},
-};
-
-Directive directiveOf(const char* token) {
-    for (const DirectiveKey& entry : directiveKeys) {
-        if (std::strcmp(token, entry.key) == 0) return entry.directive;
+    bool refuse(Cause cause) {
+        report.fault.cause = cause;
+        report.fault.place = tokens.place();
+        report.fault.token = tokens.lastToken();
+        return false;
     }
-    return Directive::Unknown;
-}
+};
 
-// Reports why the level is refused; false, for the caller to pass on.
-bool refuse(const char* text) {
-    MessageBoxA(nullptr, text, fileErrorCaption, MB_OK);
-    return false;
-}
-
-bool refuseForMemory() {
-    return refuse("out of memory");
-}
-
-bool refuseMissingFile(const char* fileName) {
-    char text[2 * tokenCapacity];
-    std::snprintf(text, sizeof text, "%sfile not found", fileName);
-    return refuse(text);
-}
-
-bool refuseUnknownToken(const char* fileName, const char* token) {
-    char text[3 * tokenCapacity];
-    std::snprintf(text, sizeof text, "%s contains a unknown token%s", fileName, token);
-    return refuse(text);
+std::optional<Directive> directiveOf(const char* token) {
+    for (int i = 0; i < directiveCount; ++i) {
+        if (std::strcmp(token, directiveKeys[i]) == 0) return static_cast<Directive>(i);
+    }
+    return {};
 }
 
 // Red, green or blue, 0..255, of a colour written as 0xRRGGBB.
@@ -83,19 +43,30 @@ unsigned blueOf(std::uint32_t code) {
     return code & 255U;
 }
 
-bool readTexture(TokenReader& reader, Level& into) {
-    char baseName[tokenCapacity];
-    if (!reader.readToken(baseName)) return false;
-    if (!readMipChain(groundChain, baseName, into.texturePixels[0])) return false;
-    const GLuint name = groundTexture;
-    GLboolean resident = GL_FALSE;
-    if (glAreTexturesResident(1, &name, &resident) == GL_TRUE) glDeleteTextures(1, &name);
-    uploadMipChain(groundChain, into.texturePixels[0]);
-    return true;
+bool readKey(LevelReading& reading, char (&token)[tokenCapacity], Cause whenNothingIsLeft) {
+    if (reading.tokens.readToken(token)) return true;
+    const bool nothing = reading.tokens.lastToken().empty();
+    return reading.refuse(nothing ? whenNothingIsLeft : Cause::TokenTooLong);
 }
 
-bool readFogColour(TokenReader& reader, Level& into) {
-    if (!reader.readUnsigned(into.fogColourCode)) return false;
+bool refuseNumber(LevelReading& reading) {
+    const bool nothing = reading.tokens.lastToken().empty();
+    return reading.refuse(nothing ? Cause::ValueMissing : Cause::NumberMalformed);
+}
+
+bool takeTexture(LevelReading& reading) {
+    char baseName[tokenCapacity];
+    if (!readKey(reading, baseName, Cause::ValueMissing)) return false;
+    std::string picture;
+    if (reading.readTexture(reading.into, baseName, picture)) return true;
+    reading.refuse(Cause::PictureUnreadable);
+    reading.report.fault.token = picture;
+    return false;
+}
+
+bool takeFogColour(LevelReading& reading) {
+    Level& into = reading.into;
+    if (!reading.tokens.readUnsigned(into.fogColourCode)) return refuseNumber(reading);
     into.fogColour[0] = static_cast<float>(redOf(into.fogColourCode) / 255.0);
     into.fogColour[1] = static_cast<float>(greenOf(into.fogColourCode) / 255.0);
     into.fogColour[2] = static_cast<float>(blueOf(into.fogColourCode) / 255.0);
@@ -103,105 +74,87 @@ bool readFogColour(TokenReader& reader, Level& into) {
     return true;
 }
 
-bool readMarbleColour(TokenReader& reader, Level& into, Marble& playerMarble) {
-    if (!reader.readUnsigned(into.marbleColourCode)) return false;
-    const std::uint32_t code = into.marbleColourCode;
-    playerMarble.setColour(static_cast<float>(redOf(code)), static_cast<float>(greenOf(code)),
-                           static_cast<float>(blueOf(code)));
+bool takeMarbleColour(LevelReading& reading) {
+    std::uint32_t& code = reading.into.marbleColourCode;
+    if (!reading.tokens.readUnsigned(code)) return refuseNumber(reading);
+    reading.playerMarble.setColour(static_cast<float>(redOf(code)),
+                                   static_cast<float>(greenOf(code)),
+                                   static_cast<float>(blueOf(code)));
     return true;
 }
 
-// A hole that the file does not give stays flat.
-bool readHoleCount(TokenReader& reader, Level& into) {
+bool takeHoleCount(LevelReading& reading) {
     std::int32_t count = 0;
-    if (!reader.readInteger(count)) return false;
-    into.holeCount = 0;
-    into.holes.reset();
-    if (count < 0 || count > mostHoles) return refuseForMemory();
-    into.holes.reset(new (std::nothrow) Hole[static_cast<std::size_t>(count)]);
-    if (!into.holes) return refuseForMemory();
-    into.holeCount = count;
+    if (!reading.tokens.readInteger(count)) return refuseNumber(reading);
+    if (count < 0 || count > mostHoles) return reading.refuse(Cause::HoleCountInvalid);
+    return reading.into.makeHoles(count) || reading.refuse(Cause::OutOfMemory);
+}
+
+bool takeHole(LevelReading& reading, Hole& hole) {
+    for (float* number : {&hole.x, &hole.y, &hole.width, &hole.depth}) {
+        if (!reading.tokens.readFloat(*number)) return reading.refuse(Cause::HoleMalformed);
+        ++reading.report.fault.number;
+    }
     return true;
 }
 
-bool readHoles(TokenReader& reader, Level& into) {
-    for (Hole& hole : into.allHoles()) {
-        if (!reader.readFloat(hole.x) || !reader.readFloat(hole.y) ||
-            !reader.readFloat(hole.width) || !reader.readFloat(hole.depth)) {
-            return false;
-        }
+bool takeHoles(LevelReading& reading) {
+    reading.report.fault.number = 0;
+    reading.report.fault.holeCount = reading.into.holeCount;
+    for (Hole& hole : reading.into.allHoles()) {
+        if (!takeHole(reading, hole)) return false;
     }
     char token[tokenCapacity];
-    if (reader.readToken(token) && std::strcmp(token, ".end") == 0) return true;
-    return refuse("expected .end");
+    const bool ended = reading.tokens.readToken(token) && std::strcmp(token, endOfHoles) == 0;
+    return ended || reading.refuse(Cause::EndMissing);
 }
 
-bool readDirective(TokenReader& reader, const char* fileName, const char* token, Level& into,
-                   Marble& playerMarble) {
-    switch (directiveOf(token)) {
-    case Directive::TextureFile: return readTexture(reader, into);
-    case Directive::FogColour: return readFogColour(reader, into);
-    case Directive::MarbleColour: return readMarbleColour(reader, into, playerMarble);
-    case Directive::HoleCount: return readHoleCount(reader, into);
-    case Directive::Data: return readHoles(reader, into);
-    case Directive::Unknown: return refuseUnknownToken(fileName, token);
+bool takeDirective(LevelReading& reading, Directive directive) {
+    reading.report.fault.directive = directive;
+    ++reading.report.seen[static_cast<std::size_t>(directive)];
+    switch (directive) {
+    case Directive::TextureFile: return takeTexture(reading);
+    case Directive::FogColour: return takeFogColour(reading);
+    case Directive::MarbleColour: return takeMarbleColour(reading);
+    case Directive::HoleCount: return takeHoleCount(reading);
+    case Directive::Data: return takeHoles(reading);
     }
-    return refuse("this should never appear");
+    return false;
 }
 
-// Takes directives up to the one that the file ends directly behind. When anything follows it,
-// even white space alone, there must be a further one.
-bool readDirectives(TokenReader& reader, const char* fileName, Level& into, Marble& playerMarble) {
+// A token that begins a directive. White space after the last one is reported at that one.
+bool readDirectiveKey(LevelReading& reading, char (&token)[tokenCapacity]) {
+    const TextPlace before = reading.tokens.place();
+    const bool first = reading.tokens.next == 0;
+    if (readKey(reading, token, first ? Cause::FileEmpty : Cause::TrailingSpace)) return true;
+    if (reading.report.fault.cause == Cause::TrailingSpace) reading.report.fault.place = before;
+    return false;
+}
+
+// Takes directives up to the one that the file ends directly after. When anything follows it, even
+// white space alone, there must be a further one.
+bool takeDirectives(LevelReading& reading) {
     do {
         char token[tokenCapacity];
-        if (!reader.readToken(token)) return false;
-        if (!readDirective(reader, fileName, token, into, playerMarble)) return false;
-    } while (!reader.atEnd());
+        if (!readDirectiveKey(reading, token)) return false;
+        const std::optional<Directive> directive = directiveOf(token);
+        if (!directive) return reading.refuse(Cause::UnknownToken);
+        if (!takeDirective(reading, *directive)) return false;
+    } while (!reading.tokens.atEnd());
     return true;
-}
-
-bool allocateMesh(Level& into) {
-    into.groundPoints.reset(new (std::nothrow) Vector3[groundVertices]);
-    if (!into.groundPoints) return refuseForMemory();
-    into.groundScreen.reset(new (std::nothrow) Vector3[groundVertices]);
-    if (!into.groundScreen) return refuseForMemory();
-    into.groundTexCoords.reset(new (std::nothrow) Vector3[groundVertices]);
-    if (!into.groundTexCoords) return refuseForMemory();
-    return true;
-}
-
-void buildMesh(Level& into) {
-    for (int c = 0; c < groundColumns; ++c) {
-        for (int r = 0; r < groundRows; ++r) {
-            const auto index = static_cast<std::size_t>(r * groundColumns + c);
-            const int column = c - groundCentreColumn;
-            const int row = r - groundCentreRow;
-            const float x = static_cast<float>(column * groundSpacing);
-            const float y = static_cast<float>(row * groundSpacing);
-            into.groundPoints[index].set(x, y, into.heightAt(x, y));
-            into.groundTexCoords[index][0] = static_cast<float>(column * texturePerColumn);
-            into.groundTexCoords[index][1] = static_cast<float>(row * texturePerRow);
-        }
-    }
 }
 
 } // namespace
 
-Level::Level() = default;
-
-Level::~Level() = default;
-
-bool Level::load(const char* fileName, Marble& playerMarble) {
-    groundPoints.reset();
-    groundScreen.reset();
-    groundTexCoords.reset();
-    holes.reset();
-    holeCount = 0;
-
-    TokenReader reader;
-    if (!reader.open(fileName)) return refuseMissingFile(fileName);
-    if (!readDirectives(reader, fileName, *this, playerMarble)) return false;
-    if (!allocateMesh(*this)) return false;
-    buildMesh(*this);
-    return true;
+bool readLevelFile(const char* fileName, Level& into, Marble& playerMarble,
+                   TextureReader readTexture, LevelFileReport& report) {
+    into.clearGround();
+    LevelReading reading = {{}, into, playerMarble, readTexture, report};
+    if (!reading.tokens.open(fileName)) {
+        reading.refuse(Cause::FileUnreadable);
+        report.fault.token = reading.tokens.why;
+        return false;
+    }
+    if (!takeDirectives(reading)) return false;
+    return into.buildMesh() || reading.refuse(Cause::OutOfMemory);
 }

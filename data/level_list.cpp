@@ -4,8 +4,8 @@
 #include <cstring>
 #include <new>
 
-#include "app/game.h"
 #include "data/tokens.h"
+#include "state/game.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "data/tokens.h"
 
-#include <cctype>
+#include <algorithm>
 #include <charconv>
 #include <clocale>
 #include <cmath>
@@ -8,13 +8,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <iomanip>
 #include <limits>
-#include <string>
 #include <system_error>
 
+#include "data/file_text.h"
+
 namespace {
+
+constexpr const char* whiteSpace = " \t\n\v\f\r";
 
 // Steps over a sign; whether it was a minus.
 bool takeSign(const char*& text) {
@@ -34,8 +35,6 @@ int takeBase(const char*& text) {
     return 8;
 }
 
-} // namespace
-
 bool parseInteger(const char* token, std::int64_t& value) {
     const bool negative = takeSign(token);
     const int base = takeBase(token);
@@ -49,8 +48,6 @@ bool parseInteger(const char* token, std::int64_t& value) {
     value = negative ? -magnitude : magnitude;
     return true;
 }
-
-namespace {
 
 // Steps over digits; how many there were.
 std::size_t takeDigits(const char*& text) {
@@ -96,7 +93,7 @@ bool readIntegerAs(TokenReader& reader, T& value) {
     if (!reader.readToken(token)) return false;
     if (!parseInteger(token, wide) || wide < std::numeric_limits<T>::min() ||
         wide > std::numeric_limits<T>::max()) {
-        reader.stream.setstate(std::ios::failbit);
+        reader.failed = true;
         return false;
     }
     value = static_cast<T>(wide);
@@ -106,29 +103,32 @@ bool readIntegerAs(TokenReader& reader, T& value) {
 } // namespace
 
 bool TokenReader::open(const char* fileName) {
-    std::error_code error; // a pipe would wait for somebody who writes to it
-    if (!std::filesystem::is_regular_file(fileName, error)) return false;
-    stream.open(fileName, std::ios::in | std::ios::binary);
-    return stream.is_open();
+    *this = {};
+    return readWholeFile(fileName, text, why);
 }
 
 bool TokenReader::readToken(char (&token)[tokenCapacity]) {
-    std::string text;
-    stream >> std::setw(tokenCapacity - 1) >> text;
-    if (stream.fail()) return false;
-    // Looking at what follows also notices the end of the file behind a token of full length.
-    const int next = stream.eof() ? EOF : stream.peek();
-    const bool whole = next == EOF || std::isspace(static_cast<unsigned char>(next)) != 0;
-    if (!whole || text.find('\0') != std::string::npos) {
-        stream.setstate(std::ios::failbit);
-        return false;
-    }
-    std::memcpy(token, text.c_str(), text.size() + 1);
+    if (failed) return false;
+    last = std::min(text.find_first_not_of(whiteSpace, next), text.size());
+    next = std::min(text.find_first_of(whiteSpace, last), text.size());
+    reachedEnd = next == text.size();
+    const std::size_t length = next - last;
+    const bool holdsZero = std::memchr(text.data() + last, '\0', length) != nullptr;
+    failed = length == 0 || length >= tokenCapacity || holdsZero;
+    if (failed) return false;
+    std::memcpy(token, text.data() + last, length);
+    token[length] = '\0';
     return true;
 }
 
 bool TokenReader::readCharacter(char& character) {
-    return static_cast<bool>(stream >> character);
+    if (failed) return false;
+    last = std::min(text.find_first_not_of(whiteSpace, next), text.size());
+    failed = reachedEnd = last == text.size();
+    if (failed) return false;
+    character = text[last];
+    next = last + 1;
+    return true;
 }
 
 bool TokenReader::readInteger(std::int32_t& value) {
@@ -143,6 +143,17 @@ bool TokenReader::readFloat(float& value) {
     char token[tokenCapacity];
     if (!readToken(token)) return false;
     if (parseFloat(token, value)) return true;
-    stream.setstate(std::ios::failbit);
+    failed = true;
     return false;
+}
+
+TextPlace TokenReader::place() const {
+    const std::size_t lineStart = last == 0 ? 0 : text.rfind('\n', last - 1) + 1;
+    const auto before = text.begin() + static_cast<std::ptrdiff_t>(last);
+    return {.line = 1 + static_cast<int>(std::count(text.begin(), before, '\n')),
+            .column = 1 + static_cast<int>(last - lineStart)};
+}
+
+std::string TokenReader::lastToken() const {
+    return text.substr(last, next - last);
 }

@@ -1,10 +1,10 @@
-#include "data/level.h"
-
 #include <bitset>
 #include <cstddef>
 
 #include <GL/gl.h>
 
+#include "render/textures.h"
+#include "sim/level.h"
 #include "sim/view_frame.h"
 
 namespace {

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "app/game.h"
-#include "data/level.h"
+#include "sim/level.h"
 #include "sim/marble.h"
 #include "sim/view_frame.h"
+#include "state/game.h"
 
 namespace {
 

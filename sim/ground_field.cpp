@@ -1,4 +1,4 @@
-#include "data/level.h"
+#include "sim/level.h"
 
 #include <cmath>
 
@@ -7,7 +7,6 @@ namespace {
 // Lengths go into the formulas in spacings of the ground mesh and come back in world units.
 constexpr double unitsPerSpacing = groundSpacing;
 
-constexpr double catchRadiusInWidths = 1.5;
 constexpr float nearHole = 250.0F; // world units from a hole's centre
 
 constexpr Vector3 straightDown(0.0F, 0.0F, 1.0F);

@@ -1,14 +1,11 @@
 #include "sim/marble.h"
 
-#include "data/level.h"
+#include "sim/level.h"
 
 namespace {
 
 constexpr Vector3 gravity(0.0F, 0.0F, 11.76F * 10.0F);
-constexpr float drag = -9.5F;
 constexpr float accelerationPerForce = 0.1F;
-constexpr double topSpeedPerPower = 0.1;
-constexpr double unitsPerVelocity = 210.0; // world units a second
 
 Vector3 limitSpeed(const Vector3& velocity, double topSpeed) {
     // Written so that a step of no time, which leaves z undefined, is mended by the next one.

@@ -9,9 +9,9 @@ struct ViewFrame;
 // The one marble. Its constructor sets nothing; as a global it starts at zero, and each level start
 // places it and gives it its colour.
 struct Marble {
-    Vector3 velocity; // the position advances by velocity * 210 a second
+    Vector3 velocity; // the position advances by velocity * unitsPerVelocity a second
     Vector3 position; // its point of contact: z is always the ground's height
-    float power;      // drive: scales the steering force, and the top speed is a tenth of it
+    float power;      // drive: scales the steering force and sets the top speed
     float colour[3];  // red, green, blue, each 0..255
 
     void setVelocity(const Vector3& v) { velocity = v; }
@@ -25,15 +25,24 @@ struct Marble {
         colour[2] = blue;
     }
 
-    // Rolls over the ground for dt seconds (0 leaves velocity.z undefined for a step) under the steering
-    // force, gravity along the slope, and drag; the speed is limited by the power.
+    // Rolls over the ground for dt seconds under the steering force, gravity along the slope, and
+    // drag; the speed is limited by the power. A dt of 0 leaves velocity.z undefined until the next
+    // step.
     void step(const Level& ground, const Vector3& force, float dt);
 
     // Draws it as a shaded disc that faces the viewer, faintly where a hill hides it, and with
-    // `normalMode` the arrows of the ground's normal and slope (render/marble.cpp). Belongs right
+    // `normalMode` the arrows of the ground's normal and slope (render/marble.cpp). Called right
     // after Level::drawGround, whose fog and depth it uses.
     void draw(const ViewFrame& view, const Level& ground, bool normalMode) const;
 };
+
+inline constexpr float normalPower = 40.0F;
+inline constexpr float turboPower = 65.0F;
+inline constexpr double topSpeedPerPower = 0.1; // the velocity's limit
+inline constexpr float drag = -9.5F;            // force per velocity
+
+// World units that the position advances a second per unit of velocity.
+inline constexpr double unitsPerVelocity = 210.0;
 
 // World units from the ground to the marble's centre, along the normal: its radius.
 inline constexpr float marbleRadius = 20.0F;

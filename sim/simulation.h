@@ -1,23 +1,23 @@
-// The world's share of a tick: keys, turbo, one step of the marble, and what becomes of it.
+// The world's share of a tick: turbo, one step of the marble, and what becomes of it.
 //
 // Works on the global marble and level and on Game; never fails.
 #pragma once
 
 #include "sim/vector.h"
+#include "state/controls.h"
 
-// The force of the arrow keys along the ground, made afresh at every updateSimulation.
+// The force of the arrow keys along the ground, rebuilt at every stepWorld.
 extern Vector3 steeringForce;
 
-// The course in world units. Both sides themselves still belong to it.
-inline constexpr float courseLeft = -750.0F;
-inline constexpr float courseRight = 720.0F;
-inline constexpr float courseBack = -6000.0F;
-inline constexpr float startLine = -5800.0F;
-inline constexpr float goalLine = 5800.0F; // crossed when y is above it
+// What happened in a step that somebody else answers for.
+struct StepEvents {
+    bool resetMarble = false; // a hole caught the marble, or it left the course
+    bool reachedGoal = false; // the marble crossed the goal line: the level is done
+};
 
-// Advances the level by Game.frameTime seconds; called once a tick, after the clocks and before
-// the camera. Does nothing once the level is done.
-void updateSimulation();
+// Advances the level by Game.frameTime seconds under these controls. Called once a tick while the
+// level is not done, after the clocks and before the camera.
+StepEvents stepWorld(const Controls& controls);
 
 // Puts the marble on the ground at a world x and y, at rest.
 void placeMarble(float x, float y);

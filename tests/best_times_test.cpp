@@ -8,6 +8,8 @@
 #include <csignal>
 #include <fstream>
 
+#include "app/resources.h"
+
 #include "fakes/play.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Bitmap files: what is read of them, and that nothing is ever written past the picture.
-#include <algorithm>
+#include "app/bitmap_file.h"
 
-#include "data/bitmap.h"
+#include <algorithm>
 
 #include "fakes/play.h"
 

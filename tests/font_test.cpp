@@ -108,7 +108,7 @@ TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
     EXPECT_EQ(font.glyphRight[letter], 3);
     EXPECT_EQ(font.glyphBottom[letter], 4);
     EXPECT_EQ(font.glyphLeft[digit], 5.5F);
-    EXPECT_EQ(font.textWidth("\xC3"), 10); // codes from 128 on count as negative
+    EXPECT_EQ(font.textWidth("\xC3"), 10);  // codes from 128 on count as negative
     EXPECT_EQ(font.textWidth("AB"), 2 - 5); // a glyph that goes back
 }
 

@@ -2,6 +2,7 @@
 #include <cstring>
 #include <random>
 
+#include "app/resources.h"
 #include "data/best_times.h"
 #include "data/font.h"
 #include "data/level_list.h"

@@ -3,6 +3,7 @@
 
 #include "app/keyboard.h"
 #include "fakes/play.h"
+#include "state/menu.h"
 
 namespace {
 

@@ -8,13 +8,13 @@
 
 #include <gtest/gtest.h>
 
-#include "app/game.h"
 #include "data/level_list.h"
 #include "fakes/game_files.h"
+#include "state/game.h"
 #include "tools/level/command_line.h"
 #include "tools/level/drive.h"
 #include "tools/level/driver.h"
-#include "tools/level/level_text.h"
+#include "tools/level/fault_text.h"
 #include "tools/level/return_spots.h"
 
 namespace {
@@ -33,7 +33,8 @@ std::vector<std::string> shippedLevels() {
 struct Course : testing::TestWithParam<std::string> {
     void SetUp() override {
         std::filesystem::current_path(GLORBIX_GAME_DIR);
-        ASSERT_TRUE(startRun(GetParam().c_str()));
+        LevelFileReport report;
+        ASSERT_TRUE(startRun(GetParam().c_str(), report)) << explainFault(report.fault);
     }
 
     std::string keyFile() const {
@@ -76,7 +77,8 @@ TEST_P(Course, GivesEveryMarbleBackAndIsGood) {
 
 TEST(FirstCourse, IsFinishedByHoldingUpAlone) {
     std::filesystem::current_path(GLORBIX_GAME_DIR);
-    ASSERT_TRUE(startRun(shippedLevels().front().c_str()));
+    LevelFileReport report;
+    ASSERT_TRUE(startRun(shippedLevels().front().c_str(), report));
     const Drive drive = driveToEnd(60, [](float) { return upKey; });
     EXPECT_TRUE(drive.end.done);
     EXPECT_EQ(drive.end.catches, 0);
@@ -96,33 +98,30 @@ struct Fault {
 };
 
 TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
-    const std::string colour = "1:11: expected a whole number from 0 to 4294967295 behind "
-                               "\"fogcolor=\": ";
+    const std::string colour = "1:11: expected a whole number from 0 to 0xffffffff after "
+                               "\"fogcolor=\", not ";
     const Fault faults[] = {
         {"", "1:1: the file is empty"},
-        {"fogcolor=12", "1:1: there must be a blank behind"},
+        {"fogcolor=12", "1:1: there must be a blank after"},
         {"fogcolor= 1\nroom", "2:1: unknown word \"room\""},
-        {"fogcolor= red", "1:11: expected a whole number from 0 to 4294967295"},
-        {"fogcolor= -1", (colour + "\"-1\" is negative")},
-        {"fogcolor= 0x100000000", (colour + "\"0x100000000\" is too large")},
-        {"marblecolor=", "1:1: the file ends behind \"marblecolor=\""},
-        {"holecount= 4294967295", "1:12: expected a whole number from 0 to 100000 behind"},
-        {"holecount= 100001", "1:12: expected a whole number from 0 to 100000 behind"},
+        {"fogcolor= red", colour + "\"red\""},
+        {"fogcolor= -1", colour + "\"-1\""},
+        {"fogcolor= 0x100000000", colour + "\"0x100000000\""},
+        {"marblecolor=", "1:13: the file ends after \"marblecolor=\""},
+        {"holecount= 4294967295", "1:12: expected a whole number from 0 to 100000 after"},
+        {"holecount= 100001", "1:12: expected a whole number from 0 to 100000 after"},
         {"holecount= 1\n.data\n 1 2 x 4 .end", "3:6: expected number 3 of the 4"},
         {"holecount= 1 .data 1 2 3 1e99", "1:26: expected number 4 of the 4"},
-        {"holecount= 1 .data 1 2 3 4 5 .end", "1:28: expected .end behind 1 holes, not \"5\""},
-        {"holecount= 0 .data .end\n", "1:20: the file goes on behind \".end\""},
-        {"holecount= 0 .data .end", ""},
+        {"holecount= 1 .data 1 2 3 4 5 .end", "1:28: expected .end after 1 holes, not \"5\""},
+        {"holecount= 0 .data .end\n", "1:20: the file goes on with a line break"},
     };
     const HandWritten file;
     for (const Fault& fault : faults) {
         file.write(fault.text);
-        LevelText text;
-        std::string error;
-        ASSERT_TRUE(readLevelText(file.name, text, error)) << error;
-        const std::string told = findFault(text);
-        EXPECT_EQ(told.substr(0, fault.told.size()), fault.told) << fault.text;
-        EXPECT_EQ(told.empty(), fault.told.empty()) << told;
+        LevelFileReport report;
+        EXPECT_FALSE(startRun(file.name.c_str(), report)) << fault.text;
+        const std::string told = explainFault(report.fault);
+        EXPECT_TRUE(told.starts_with(fault.told)) << told;
     }
 }
 
@@ -154,7 +153,8 @@ TEST(Drives, AreRefusedWithTheLineAndTheReason) {
 TEST(Drives, EndForAMarbleThatIsCaughtForEver) {
     const HandWritten file;
     file.write("holecount= 1 .data 0 0 1e30 1 .end");
-    ASSERT_TRUE(startRun(file.name.c_str()));
+    LevelFileReport report;
+    ASSERT_TRUE(startRun(file.name.c_str(), report));
     const Drive drive = driveToEnd(10, [](float) { return upKey; });
     EXPECT_FALSE(drive.end.done);
     EXPECT_EQ(drive.keys.ticks.size(), 1000U);

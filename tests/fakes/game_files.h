@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "data/level.h"
+#include "sim/level.h"
 
 // The working directory while it lives; gone afterwards with all that is in it.
 class EmptyFolder {

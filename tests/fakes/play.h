@@ -7,9 +7,9 @@
 #include <functional>
 #include <vector>
 
-#include "app/game.h"
+#include "state/game.h"
 #include "app/window.h"
-#include "data/level.h"
+#include "sim/level.h"
 #include "fakes/game_files.h"
 #include "fakes/trace.h"
 #include "sim/marble.h"

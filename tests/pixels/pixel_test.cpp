@@ -7,11 +7,11 @@
 #include <cstdlib>
 #include <set>
 
-#include "app/game.h"
-#include "app/screens.h"
+#include "state/game.h"
+#include "render/screens.h"
 #include "app/window.h"
 #include "data/font.h"
-#include "data/level.h"
+#include "sim/level.h"
 #include "fakes/game_files.h"
 #include "pixels/picture.h"
 #include "platform/sdl/machine.h"

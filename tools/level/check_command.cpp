@@ -4,21 +4,19 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "app/game.h"
 #include "data/level_list.h"
-#include "sim/simulation.h"
+#include "sim/course.h"
+#include "state/game.h"
 #include "tools/level/command_line.h"
+#include "tools/level/fault_text.h"
 #include "tools/level/game_folder.h"
 #include "tools/level/guide.h"
 #include "tools/level/level_run.h"
-#include "tools/level/level_text.h"
-#include "tools/level/machine.h"
 #include "tools/level/return_spots.h"
 
 namespace {
 
 constexpr double alikeColours = 90.0; // distance of two colours that are hard to tell apart
-constexpr double catchRadii = 1.5;    // hole widths
 
 struct Findings {
     const std::string& file;
@@ -54,7 +52,7 @@ void checkHole(int index, Findings& findings) {
     const bool onCourse = hole.x >= courseLeft && hole.x <= courseRight && hole.y >= courseBack &&
                           hole.y <= -courseBack;
     if (!onCourse) findings.add(holeName(index) + " is a well beside the course");
-    if (std::abs(static_cast<double>(hole.y) - goalLine) <= catchRadii * hole.width)
+    if (std::abs(static_cast<double>(hole.y) - goalLine) <= catchRadiusInWidths * hole.width)
         findings.add(holeName(index) + " catches on the goal line");
 }
 
@@ -79,8 +77,7 @@ void checkCourse(Findings& findings) {
     for (int i = 0; i < level.holeCount; ++i)
         checkHole(i, findings);
     if (level.holeCount == 0) findings.add("there is not a single hole: the ground is flat");
-    if (level.holeAt(0.0F, startLine) > 0.0F)
-        findings.add("the start (0 -5800) lies in a catch circle");
+    if (level.holeAt(0.0F, startLine) > 0.0F) findings.add("the start lies in a catch circle");
     if (colourDistance(level.fogColourCode, level.marbleColourCode) < alikeColours)
         findings.add("fogcolor= and marblecolor= are so alike that the marble will be lost in fog");
     checkReturns(findings);
@@ -88,35 +85,18 @@ void checkCourse(Findings& findings) {
         findings.add("no way leads from the start to the goal past all wells");
 }
 
-// The game's own words where it has some; not those that only say that the level is refused.
-std::string wordsOfTheGame() {
-    const std::vector<std::string> boxes = takeBoxes();
-    return boxes.size() > 1 ? " (the game says: " + boxes.front() + ")" : "";
-}
-
-void explainRefusal(const LevelText& text, Findings& findings) {
-    const std::string fault = findFault(text);
-    const std::string said = wordsOfTheGame();
-    if (!fault.empty()) {
-        findings.add(fault + said);
-    } else {
-        findings.add("the game refuses the level" + said +
-                     "; where it names a picture, that is missing or not of the size it must have");
-    }
-}
-
 int checkLevel(const std::string& file) {
-    LevelText text;
-    std::string error;
-    if (!readLevelText(file, text, error)) return refuseFile(error);
     Findings findings = {file};
-    takeBoxes();
     level.fogColourCode = level.marbleColourCode = 0;
-    if (!startRun(file.c_str())) {
-        explainRefusal(text, findings);
+    LevelFileReport report;
+    if (!startRun(file.c_str(), report)) {
+        if (report.fault.cause == LevelFault::Cause::FileUnreadable) {
+            return refuseFile(file + ": cannot be read: " + report.fault.token);
+        }
+        findings.add(explainFault(report.fault));
         return levelHasFaults;
     }
-    for (const std::string& odd : findOddDirectives(text))
+    for (const std::string& odd : findOddDirectives(report))
         findings.add(odd);
     checkCourse(findings);
     if (findings.count == 0) std::printf("%s: good\n", file.c_str());

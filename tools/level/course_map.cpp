@@ -3,19 +3,18 @@
 #include <algorithm>
 #include <cmath>
 
-#include "sim/simulation.h"
+#include "sim/course.h"
 
 namespace {
 
 constexpr double unitsPerPixel = 6.0;
 constexpr int strips = 2;
 constexpr int border = 12; // pixels
-constexpr float stripLength = 6000.0F;
+constexpr float stripLength = -courseBack;
 constexpr int stripPixels = static_cast<int>(stripLength / unitsPerPixel);
 constexpr int stripHeight = static_cast<int>((courseRight - courseLeft) / unitsPerPixel);
 constexpr int pictureWidth = stripPixels + 2 * border;
 constexpr int pictureHeight = strips * (stripHeight + border) + border;
-constexpr float catchRadii = 1.5F; // hole widths
 constexpr float mostHeight = 1.0e6F;
 constexpr double mostRadius = 2.0 * pictureWidth; // pixels: that covers the picture
 constexpr double farAway = 4.0 * pictureWidth;    // pixels: nothing there reaches the picture
@@ -150,7 +149,8 @@ struct Mapper {
 
     void drawHole(const Hole& hole) {
         if (hole.depth <= 0.0F) return;
-        const double radius = std::min<double>(catchRadii * hole.width / unitsPerPixel, mostRadius);
+        const double radius =
+            std::min<double>(catchRadiusInWidths * hole.width / unitsPerPixel, mostRadius);
         const double x = pictureX(hole.y);
         const double y = pictureY(hole.x, hole.y);
         if (std::abs(x) > farAway || std::abs(y) > farAway) return;

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-#include "data/level.h"
+#include "sim/level.h"
 #include "sim/vector.h"
 #include "tools/level/picture.h"
 

@@ -4,11 +4,12 @@
 
 #include <unistd.h>
 
+#include "sim/course.h"
 #include "tools/level/command_line.h"
 #include "tools/level/drive.h"
 #include "tools/level/driver.h"
+#include "tools/level/fault_text.h"
 #include "tools/level/game_folder.h"
-#include "tools/level/machine.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ std::string readOrder(Words& words, Order& order) {
 // On a terminal: how far along the course the drive is.
 void showProgress(float y) {
     static int shown = -1;
-    const int percent = static_cast<int>((y + 5800.0F) / 116.0F);
+    const int percent = static_cast<int>(100.0F * (y - startLine) / (goalLine - startLine));
     if (percent == shown || isatty(STDERR_FILENO) == 0) return;
     shown = percent;
     std::fprintf(stderr, "\r%3d %%", percent);
@@ -63,7 +64,7 @@ Drive driveAlone(const Order& order) {
     return drive;
 }
 
-int report(const Order& order, const Drive& drive) {
+int printResult(const Order& order, const Drive& drive) {
     const char* many = drive.end.catches == 1 ? "catch" : "catches";
     const double turbo = drive.end.turbo > 0.0F ? drive.end.turbo : 0.0;
     if (drive.end.done) {
@@ -87,10 +88,12 @@ int driveLevel(Words words) {
     std::string error;
     if (!order.keysIn.empty() && !readKeyFile(order.keysIn, keys, error)) return refuseFile(error);
     enterGameFolder(order.level);
-    if (!startRun(order.level.c_str()))
-        return refuseFile(order.level + ": the game refuses it; glorbix-level check tells why");
+    LevelFileReport report;
+    if (!startRun(order.level.c_str(), report)) {
+        return refuseFile(order.level + ":" + explainFault(report.fault));
+    }
     const Drive drive = order.keysIn.empty() ? driveAlone(order) : replay(keys);
     if (!order.keysOut.empty() && !writeKeyFile(order.keysOut, drive.keys, error))
         return refuseFile(error);
-    return report(order, drive);
+    return printResult(order, drive);
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "app/game.h"
+#include "state/game.h"
 #include "tools/level/level_run.h"
 
 namespace {
@@ -21,8 +21,8 @@ constexpr Keys directions[] = {upKey,   upKey | leftKey,   upKey | rightKey,   l
 // What the end of a look ahead is worth, in seconds.
 constexpr float catchCost = 1000.0F;
 constexpr float fullSpeedWorth = 0.9F; // rolling at top speed along the line, against standing
-constexpr float topSpeed = 4.0F;       // of the marble, and with turbo
-constexpr float turboSpeed = 6.5F;
+constexpr auto topSpeed = static_cast<float>(normalPower * topSpeedPerPower);
+constexpr auto turboSpeed = static_cast<float>(turboPower * topSpeedPerPower);
 constexpr float turboPrice =
     0.25F; // per second of turbo, which is better spent where it gains more
 

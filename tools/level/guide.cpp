@@ -6,16 +6,15 @@
 #include <queue>
 #include <utility>
 
-#include "sim/simulation.h"
+#include "sim/course.h"
+#include "sim/marble.h"
 
 namespace {
 
-constexpr float margin = 30.0F;       // world units kept from catch circles and sides
-constexpr float speedUnits = 210.0F;  // world units a second, per unit of the marble's velocity
-constexpr float topSpeed = 4.0F;      // of the marble, without turbo
-constexpr float drive = 40.0F;        // force of a key
+constexpr float margin = 30.0F; // world units kept from catch circles and sides
+constexpr auto speedUnits = static_cast<float>(unitsPerVelocity);
+constexpr auto topSpeed = static_cast<float>(normalPower * topSpeedPerPower);
 constexpr float slopePull = 58.8F;    // force on a vertical slope, see Level::downhillAt
-constexpr float dragFactor = 9.5F;    // force per velocity
 constexpr float crawlSpeed = 0.35F;   // assumed where a marble from rest could not climb
 constexpr float closedFactor = 40.0F; // how much longer a way through a closed place counts
 
@@ -54,7 +53,7 @@ bool isOpen(const Level& course, const Vector3& at) {
 float secondsBetween(const Vector3& from, const Vector3& to) {
     const float length = (to - from).length();
     const float sinDown = (to.z - from.z) / length; // above 0 downhill, z being a depth
-    const float balance = (drive + slopePull * sinDown) / dragFactor;
+    const float balance = (normalPower + slopePull * sinDown) / -drag;
     return length / (std::clamp(balance, crawlSpeed, topSpeed) * speedUnits);
 }
 

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "data/level.h"
+#include "sim/level.h"
 
 struct Guide {
     std::vector<float> seconds; // to the goal, for every vertex of the ground mesh

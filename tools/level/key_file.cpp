@@ -9,7 +9,7 @@
 #include <sstream>
 #include <system_error>
 
-#include "tools/level/text_file.h"
+#include "data/file_text.h"
 
 namespace {
 
@@ -88,7 +88,9 @@ bool readTicksPerSecond(const std::string& word, int& ticksPerSecond) {
 
 bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error) {
     std::string text;
-    if (!readTextFile(fileName, text, error)) {
+    std::string why;
+    if (!readWholeFile(fileName, text, why)) {
+        error = fileName + ": cannot be read: " + why;
         return false;
     }
     std::istringstream lines(text);

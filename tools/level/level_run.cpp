@@ -1,13 +1,14 @@
 #include "tools/level/level_run.h"
 
-#include <cstdio>
+#include <algorithm>
+#include <cstring>
 
-#include "app/game.h"
-#include "app/level_run.h"
-#include "data/level.h"
-#include "sim/penalty_label.h"
+#include "data/file_text.h"
+#include "data/mip_chain.h"
+#include "sim/level_clock.h"
+#include "sim/penalty.h"
 #include "sim/simulation.h"
-#include "tools/level/machine.h"
+#include "state/game.h"
 
 namespace {
 
@@ -16,39 +17,65 @@ constexpr int levelsInRun = 2;
 
 int catches = 0;
 
-void listLevel(const char* levelFile) {
-    Game.levelCount = levelsInRun;
-    Game.levelTimes.reset(new float[levelsInRun]{levelTime, levelTime});
-    Game.levelFiles.reset(new std::unique_ptr<char[]>[levelsInRun]);
-    for (std::size_t i = 0; i < levelsInRun; ++i) {
-        Game.levelFiles[i].reset(new char[LEVEL_NAME_CAPACITY]);
-        std::snprintf(Game.levelFiles[i].get(), LEVEL_NAME_CAPACITY, "%s", levelFile);
+bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_t* pixels) {
+    std::string file;
+    std::string why;
+    if (!readWholeFile(fileName, file, why)) return false;
+    constexpr std::size_t headers = bitmapFileHeaderSize + bitmapInfoHeaderSize;
+    file.resize(std::max(file.size(), headers)); // what the headers lack counts as 0
+    std::uint8_t infoHeader[bitmapInfoHeaderSize];
+    std::memcpy(infoHeader, file.data() + bitmapFileHeaderSize, sizeof infoHeader);
+    const std::int64_t bytes = pixelBytes(parseBitmapInfo(infoHeader));
+    if (bytes < 0 || bytes > capacity) return false;
+    const std::size_t there = std::min(file.size() - headers, static_cast<std::size_t>(bytes));
+    std::memcpy(pixels, file.data() + headers, there);
+    exchangeRedAndBlue(pixels, bytes);
+    return true;
+}
+
+bool readTexture(Level& into, const char* baseName, std::string& picture) {
+    picture = baseName;
+    if (std::strlen(baseName) >= mipBaseNameCapacity) return false;
+    for (int k = 0; k < groundChain.levels; ++k) {
+        picture = mipFileName(baseName, k);
+        const auto capacity = static_cast<std::int64_t>(slotSize(groundChain));
+        if (!readPicture(picture, capacity, into.texturePixels[k])) return false;
     }
-    Game.levelNumber = levelsInRun - 1;
+    return true;
+}
+
+Controls controlsOf(Keys keys) {
+    Controls controls;
+    controls.left = (keys & leftKey) != 0;
+    controls.right = (keys & rightKey) != 0;
+    controls.up = (keys & upKey) != 0;
+    controls.down = (keys & downKey) != 0;
+    controls.turbo = (keys & turboKey) != 0;
+    return controls;
 }
 
 } // namespace
 
-bool startRun(const char* levelFile) {
+bool startRun(const char* levelFile, LevelFileReport& report) {
     Game.penaltyPending = 0;
     Game.penaltyFade = fullPenaltyFade;
+    Game.levelCount = levelsInRun;
+    Game.levelNumber = levelsInRun;
+    Game.levelTimes.reset(new float[levelsInRun]{levelTime, levelTime});
     catches = 0;
-    listLevel(levelFile);
-    const std::size_t boxesBefore = machine.boxes.size();
-    startNextLevel();
-    return machine.boxes.size() == boxesBefore;
+    resetLevel();
+    if (!readLevelFile(levelFile, level, marble, readTexture, report)) return false;
+    Game.turbo = fullTurbo;
+    placeAtStart();
+    return true;
 }
 
 void tickRun(Keys keys, float dt) {
-    machine.held = keys;
     Game.frameTime = dt;
-    Game.clock -= dt;
-    Game.holdTime -= dt;
-    const float holdBefore = Game.holdTime;
-    updateSimulation();
-    if (Game.holdTime > holdBefore) ++catches;
-    drawPenaltyLabel();
-    checkLevelClock();
+    advanceClocks();
+    if (!Game.levelDone && stepWorld(controlsOf(keys)).resetMarble) ++catches;
+    agePenalty();
+    checkClock();
 }
 
 bool runIsOver() {

@@ -4,6 +4,7 @@
 // game's (tools/level/game_folder.h).
 #pragma once
 
+#include "data/level_file.h"
 #include "sim/marble.h"
 #include "tools/level/keys.h"
 
@@ -23,9 +24,9 @@ struct RunState {
 };
 
 // Loads the level and starts it as the game starts any level but a run's first: the marble at the
-// start line, 46.5 s on the clock. False when the game refuses the file; its messages are then in
-// the machine (tools/level/machine.h).
-bool startRun(const char* levelFile);
+// start line, 46.5 s on the clock. Returns false when the game would refuse the file; the report
+// then says why.
+bool startRun(const char* levelFile, LevelFileReport& report);
 
 // One tick of the game: clocks, simulation, penalty label, level clock. `dt` in seconds, above 0.
 void tickRun(Keys keys, float dt);

@@ -3,6 +3,7 @@
 
 #include "tools/level/command_line.h"
 #include "tools/level/drive.h"
+#include "tools/level/fault_text.h"
 #include "tools/level/game_folder.h"
 #include "tools/level/return_spots.h"
 
@@ -28,8 +29,8 @@ int drawMap(Words words) {
     if (keysFile && !readKeyFile(*keysFile, keys, error)) return refuseFile(error);
     std::string file = words.words[0];
     enterGameFolder(file);
-    if (!startRun(file.c_str()))
-        return refuseFile(file + ": the game refuses it; glorbix-level check tells why");
+    LevelFileReport report;
+    if (!startRun(file.c_str(), report)) return refuseFile(file + ":" + explainFault(report.fault));
     const std::vector<Vector3> spots = differentSpots(findReturns());
     const std::vector<LinePoint> line = keysFile ? replay(keys).line : std::vector<LinePoint>();
     if (!writePng(drawCourseMap(level, spots, line), picture, error)) return refuseFile(error);

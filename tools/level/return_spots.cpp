@@ -3,22 +3,23 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/game.h"
-#include "data/level.h"
+#include "sim/course.h"
+#include "sim/level.h"
 #include "sim/simulation.h"
+#include "state/game.h"
 #include "tools/level/level_run.h"
 
 namespace {
 
 constexpr int mostPairs = 2'000'000; // of a tried well and a hole near it or not: some seconds
-constexpr float catchRadii = 1.4F;   // hole widths: just within the catch radius
+constexpr float dropDistance = 1.4F; // hole widths: just within the catch radius
 
 // Lets the game find a marble in a hole, while the marble is held and the clock stands.
 bool dropInto(float x, float y, Vector3& spot) {
     Game.frameTime = 0.0F;
     Game.holdTime = 1.0F;
     placeMarble(x, y);
-    updateSimulation();
+    stepWorld({});
     spot = marble.getPosition();
     return level.holeAt(spot.x, spot.y) <= 0.0F;
 }
@@ -36,7 +37,7 @@ std::vector<Return> findReturns() {
         const Hole& hole = level.allHoles()[static_cast<std::size_t>(i)];
         if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) continue;
         if (std::abs(hole.y) > -courseBack) continue; // no marble gets there
-        for (const float side : {-catchRadii, catchRadii}) {
+        for (const float side : {-dropDistance, dropDistance}) {
             Return back = {i, false, {}};
             const float y = std::clamp(hole.y + side * hole.width, courseBack, -courseBack);
             back.found = dropInto(hole.x, y, back.spot);

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "data/level.h"
+#include "sim/level.h"
 #include "sim/vector.h"
 
 struct Landscape {

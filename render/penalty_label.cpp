@@ -1,15 +1,15 @@
-#include "sim/penalty_label.h"
+#include "render/penalty_label.h"
 
-#include "app/game.h"
 #include "data/font.h"
-#include "data/level.h"
+#include "sim/level.h"
 #include "sim/marble.h"
+#include "sim/penalty.h"
 #include "sim/projection.h"
+#include "state/game.h"
 
 namespace {
 
 constexpr const char* labelText = "-5";
-constexpr float secondsTaken = 4.0F;
 
 // The flight starts a little beyond the marble and reaches it after a tenth of a second.
 constexpr float flightPerFade = 1.6666666F; // share of the way left, per second of life left
@@ -39,10 +39,5 @@ void drawPenaltyLabel() {
     // the middle of the screen the label starts close to it, mirrored at the centre line.
     font.setPosition(start.x * f + clockX * (1.0F - f), start.y * f);
     font.drawText(labelText);
-
-    Game.penaltyFade -= Game.frameTime;
-    if (Game.penaltyFade > 0.0F) return;
-    Game.clock -= secondsTaken;
-    Game.penaltyFade = fullPenaltyFade;
-    Game.penaltyPending = 0;
+    agePenalty();
 }

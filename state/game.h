@@ -9,6 +9,7 @@
 #include <memory>
 #include <span>
 
+#include "platform/display_mode.h"
 #include "platform/windows_api.h"
 
 // What the player sees. The menu may be open over any of them.
@@ -36,12 +37,10 @@ inline constexpr float levelNotFinished = -4.0F; // levelEndAt while the goal ha
 inline constexpr float fullTurbo = 5.0F;         // seconds of turbo that each level starts with
 inline constexpr float fullPenaltyFade = 0.7F;   // seconds that a penalty label lives
 
-inline constexpr float clockX = 280.0F;  // pixels: where the clock is drawn, at the top
-inline constexpr int screenWidth = 640;  // pixels
-inline constexpr int screenHeight = 480; // pixels
+inline constexpr float clockX = 280.0F; // pixels: where the clock is drawn, at the top
 
 struct GameRecord {
-    // Defined in app/globals.cpp, or the program file would carry two empty pictures.
+    // Defined in state/game.cpp, or the program file would carry two empty pictures.
     GameRecord();
     GameRecord(const GameRecord&) = delete;
     GameRecord& operator=(const GameRecord&) = delete;
@@ -62,7 +61,7 @@ struct GameRecord {
     Screen screen = Screen::Title;
     Screen drawnScreen = {};   // the screen of the last frame; none yet
     std::uint8_t menuOpen = 0; // flag: the menu is shown over the screen
-    std::int32_t menuItem = 1; // the selected item, a MenuItem (app/keyboard.h)
+    std::int32_t menuItem = 1; // the selected item, a MenuItem (state/menu.h)
     std::uint8_t paused = 0;   // flag: ticks only draw
     std::uint8_t hasFocus = 1; // flag: the window has the keyboard
     std::int8_t lastKey = 0;   // low 8 bits of the last key pressed, signed; 0 = none

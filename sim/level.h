@@ -1,8 +1,8 @@
 // The level being played: the ground that its holes make, its colours, its texture, its mesh.
 //
 // The ground is not stored as a surface: each hole adds a soft well (or, with a negative depth, a
-// mound) to a field that is summed up on every question. Lengths are world units, heights are
-// depths (z points down), and the course spans x -750..720 and y -6000..5970.
+// mound) to a field that is summed up for every query. Lengths are world units, heights are depths
+// (z points down), and the course spans x -750..720 and y -6000..5970.
 #pragma once
 
 #include <cstddef>
@@ -17,18 +17,16 @@ struct ViewFrame;
 
 // One well of the ground, as the level file gives it; flat until it does.
 struct Hole {
-    float x = 0.0F;     // centre
-    float y = 0.0F;     // centre
+    float x = 0.0F;     // centre, world units
+    float y = 0.0F;     // centre, world units
     float width = 1.0F; // softening length, above 0; the marble is caught within 1.5 widths
     float depth = 0.0F; // the well's own height at its centre; only positive depths catch
 };
 
-// A level file with more of them is refused as if memory had run out: building the mesh of so many
-// takes some ten seconds.
-inline constexpr std::int32_t mostHoles = 100'000;
+inline constexpr double catchRadiusInWidths = 1.5;
 
 // The ground mesh: vertex (column c, row r) has the index r * groundColumns + c and stands at
-// x = (c - 25) * groundSpacing, y = (r - 200) * groundSpacing.
+// x = (c - groundCentreColumn) * groundSpacing, y = (r - groundCentreRow) * groundSpacing.
 inline constexpr int groundColumns = 50;
 inline constexpr int groundRows = 400;
 inline constexpr int groundVertices = groundColumns * groundRows;
@@ -39,7 +37,6 @@ inline constexpr double spacingsPerUnit = 1.0 / groundSpacing;
 
 inline constexpr int groundTextureLevels = 8; // mip levels 128 x 128 down to 1 x 1
 inline constexpr int groundTextureSize = 128; // pixels a side of level 0
-inline constexpr unsigned groundTexture = 1;  // the OpenGL name of the ground's texture
 
 // The level. One object lives for the whole run; load replaces its contents at each level start.
 struct Level {
@@ -53,32 +50,34 @@ struct Level {
     std::uint32_t marbleColourCode = 0;            // 0xRRGGBB
     std::uint8_t texturePixels[groundTextureLevels][groundTextureSize * groundTextureSize * 3] = {};
 
+    // The mesh (sim/ground_mesh.cpp).
+
     Level();
     ~Level();
 
-    // Reads a level file: gives the marble its colour, makes the ground texture and builds the
-    // mesh. What the file does not set keeps the value of the level before.
-    //
-    // The file is a row of directives in any order, tokens parted by white space: "texturefile="
-    // base name, "fogcolor=" and "marblecolor=" 0xRRGGBB, "holecount=" H, then ".data", H times
-    // x y width depth, ".end". It must end directly after its last token.
-    //
-    // At most `mostHoles` holes. On failure a message box says why, where there is something to say, and false comes back.
-    bool load(const char* fileName, Marble& playerMarble);
+    // Releases mesh and holes: the ground is level at height 0, and nothing is drawn.
+    void clearGround();
 
-    std::uint32_t getFogColourCode() const { return fogColourCode; }
+    // Replaces the holes by `count` flat ones. Returns false, with no holes, when there is no
+    // memory for them.
+    bool makeHoles(std::int32_t count);
+
+    // Builds the mesh from the holes. Returns false when there is no memory for it.
+    bool buildMesh();
 
     std::span<Hole> allHoles() const { return {holes.get(), static_cast<std::size_t>(holeCount)}; }
 
-    // The ground field (sim/ground_field.cpp). Each question sums over all holes; x and y are
-    // world units. Where there are no holes the ground is level at height 0.
+    std::uint32_t getFogColourCode() const { return fogColourCode; }
+
+    // The ground field (sim/ground_field.cpp). Each query sums over all holes; x and y are world
+    // units. Where there are no holes the ground is level at height 0.
 
     // The height: the sum of depth * width / sqrt(distance^2 + width^2) over the holes.
     float heightAt(float x, float y) const;
 
-    // The width of the first hole of positive depth that has the point within 1.5 widths, the
-    // catch radius; otherwise -1 when a hole of positive depth has its centre less than 250 units
-    // away; otherwise 0.
+    // The width of the first hole of positive depth that has the point within its catch radius;
+    // otherwise -1 when a hole of positive depth has its centre less than 250 units away;
+    // otherwise 0.
     float holeAt(float x, float y) const;
 
     // The upward unit normal; its z is negative.
@@ -92,9 +91,18 @@ struct Level {
     Vector3 tangentXAt(float x, float y) const;
     Vector3 tangentYAt(float x, float y) const;
 
-    // Draws the part of the ground that the view can see (render/ground.cpp). Without far sight
-    // it ends 60 rows beyond the point 400 units ahead of the eye. Needs a current OpenGL context,
-    // identity matrices and a depth buffer cleared to 0. Returns the triangles drawn.
+    // The file (app/resources.cpp; its grammar: data/level_file.h).
+
+    // Reads a level file: gives the marble its colour, makes the ground texture and builds the
+    // mesh. What the file does not set keeps the value of the level before. Returns false when the
+    // file is refused, after a message box for the causes that have one.
+    bool load(const char* fileName, Marble& playerMarble);
+
+    // The drawing (render/ground.cpp).
+
+    // Draws the part of the ground that the view can see. Without far sight it ends 60 rows beyond
+    // the point 400 units ahead of the eye. Needs a current OpenGL context, identity matrices and a
+    // depth buffer cleared to 0. Returns the number of triangles drawn.
     std::int32_t drawGround(const ViewFrame& view, bool farSight, bool fogOn);
 };
 

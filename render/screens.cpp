@@ -1,24 +1,15 @@
-#include "app/screens.h"
+#include "render/screens.h"
 
 #include <algorithm>
 
 #include <GL/gl.h>
 
-#include "app/game.h"
-#include "app/keyboard.h"
-#include "data/bitmap.h"
 #include "data/font.h"
-#include "sim/projection.h"
+#include "state/game.h"
+#include "state/menu.h"
+#include "state/screen.h"
 
 namespace {
-
-struct Picture {
-    const char* fileName;
-    const char* failure; // the message when it cannot be read
-};
-
-constexpr Picture titlePicture = {"graphics/title.bmp", "could not load.bmp title"};
-constexpr Picture backPicture = {"graphics/back.bmp", "could not load back.bmp"};
 
 constexpr float statisticsScale = smallText;
 constexpr float turboTextScale = 0.5F;
@@ -39,30 +30,6 @@ constexpr Colour grey = {0.5F, 0.5F, 0.5F};
 
 void setTextColour(Colour colour) {
     font.setColour(colour.red, colour.green, colour.blue, 1.0F);
-}
-
-void readPicture(const Picture& picture, std::uint8_t& pending, std::uint8_t* pixels) {
-    if (readBitmapOfSize(picture.fileName, screenWidth, screenHeight, pixels)) {
-        pending = 0;
-    } else {
-        MessageBoxA(Game.window, picture.failure, errorCaption, MB_OK);
-    }
-}
-
-// No raster position is ever set: the picture starts in the lower left corner.
-void putPicture(const std::uint8_t* pixels) {
-    glDisable(GL_DEPTH_TEST);
-    glDisable(GL_CULL_FACE);
-    glDisable(GL_BLEND);
-    glDisable(GL_FOG);
-    glDisable(GL_TEXTURE_2D);
-    glDrawPixels(screenWidth, screenHeight, GL_RGB, GL_UNSIGNED_BYTE, pixels);
-}
-
-void drawPicture(const Picture& picture, bool entered, std::uint8_t& pending,
-                 std::uint8_t* pixels) {
-    if (pending && entered) readPicture(picture, pending, pixels);
-    if (!pending) putPicture(pixels);
 }
 
 // A rectangle between two NDC points, corner by corner.
@@ -116,50 +83,30 @@ void drawClock() {
     font.drawNumber(v, 2);
 }
 
-void setItemColour(std::int32_t item, Colour notSelected) {
-    setTextColour(item == Game.menuItem ? white : notSelected);
+// "Far Sight" cannot be chosen while there is fog.
+Colour colourOf(std::int32_t item) {
+    if (item == Game.menuItem) return white;
+    return item == MenuItem::FarSight && Game.fogOn ? grey : blue;
 }
 
-void drawItem(std::int32_t item, const char* text) {
-    setItemColour(item, blue);
-    font.drawText(text);
-}
-
-void drawSwitch(std::int32_t item, const char* name, std::uint8_t on, Colour notSelected = blue) {
-    setItemColour(item, notSelected);
-    font.drawText(name);
-    font.drawText(on ? ": ON\n" : ": OFF\n");
-}
-
-void drawMainPage() {
-    font.setPosition(220.0F, 160.0F);
-    drawItem(MenuItem::NewGame, "NeW Game\n");
-    drawItem(MenuItem::HighScore, "HIGHSCORE\n");
-    drawItem(MenuItem::Options, "Options\n");
-    drawItem(MenuItem::Quit, "Quit");
-}
-
-void drawOptionsPage() {
-    font.setPosition(185.0F, 120.0F);
-    drawSwitch(MenuItem::Statistics, "Statistics", Game.showStatistics);
-    drawSwitch(MenuItem::Fog, "Fog", Game.fogOn);
-    drawSwitch(MenuItem::FarSight, "Far Sight", Game.farSight, Game.fogOn ? grey : blue);
-    drawSwitch(MenuItem::Normal, "Normal", Game.normalMode);
-    drawItem(MenuItem::CameraLag, "Camera Lag: ");
-    font.drawNumber(Game.cameraLag, 0);
-    font.drawText("\n");
-    drawSwitch(MenuItem::Midi, "MIDI", Game.midiOn);
-    drawItem(MenuItem::Done, "Done");
+void drawMenuLine(std::int32_t item) {
+    const MenuLine& line = menuLine(item);
+    setTextColour(colourOf(item));
+    font.drawText(line.text);
+    if (line.option != nullptr) font.drawText(Game.*line.option ? "ON" : "OFF");
+    if (item == MenuItem::CameraLag) font.drawNumber(Game.cameraLag, 0);
 }
 
 } // namespace
 
-void drawTitlePicture(bool entered) {
-    drawPicture(titlePicture, entered, Game.titlePending, Game.titlePicture);
-}
-
-void drawBackPicture(bool entered) {
-    drawPicture(backPicture, entered, Game.backPending, Game.backPicture);
+// No raster position is ever set: the picture starts in the lower left corner.
+void drawPicture(const std::uint8_t* pixels) {
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_CULL_FACE);
+    glDisable(GL_BLEND);
+    glDisable(GL_FOG);
+    glDisable(GL_TEXTURE_2D);
+    glDrawPixels(screenWidth, screenHeight, GL_RGB, GL_UNSIGNED_BYTE, pixels);
 }
 
 void drawShade() {
@@ -209,9 +156,10 @@ void drawBanner() {
 
 void drawMenu() {
     font.setScale(normalText);
-    if (Game.menuItem < MenuItem::Statistics) {
-        drawMainPage();
-    } else {
-        drawOptionsPage();
+    const MenuPage& page = menuPageOf(Game.menuItem);
+    font.setPosition(page.x, page.y);
+    for (std::int32_t item = page.first; item <= page.last; ++item) {
+        drawMenuLine(item);
+        if (item != page.last) font.drawText("\n");
     }
 }

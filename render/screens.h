@@ -1,11 +1,10 @@
 // The 2-D pieces of a frame, each drawn over what is there. Called by drawFrame only.
 #pragma once
 
-// The full-screen pictures. Each is read from its file when it is first needed. One that cannot be
-// read, or has not 640 x 480 pixels, is reported once and left out; it is tried again when its
-// screen is entered anew, which `entered` tells.
-void drawTitlePicture(bool entered);
-void drawBackPicture(bool entered);
+#include <cstdint>
+
+// A picture of the whole screen: red, green, blue, bottom row first.
+void drawPicture(const std::uint8_t* pixels);
 
 // Darkens everything drawn so far to half.
 void drawShade();

@@ -1,18 +1,16 @@
 // The program-wide objects, defined in one file so that they are constructed in this order, before
 // the entry runs, and torn down in reverse after it has returned. Each is declared, and explained,
 // in its own header.
-#include "app/display.h"
-#include "app/game.h"
 #include "data/best_times.h"
 #include "data/font.h"
-#include "data/level.h"
 #include "sim/camera.h"
+#include "sim/level.h"
 #include "sim/marble.h"
 #include "sim/simulation.h"
 #include "sim/view_frame.h"
+#include "state/game.h"
 
 GameRecord Game;
-DEVMODEA displayMode = {};
 BestTimes bestTimes;
 
 ViewFrame viewFrame;
@@ -25,17 +23,3 @@ Vector3 cameraPosition;
 float cameraAngleX = 0.0F;
 float cameraAngleY = 0.0F;
 float cameraAngleZ = 0.0F;
-
-GameRecord::GameRecord() = default;
-
-void GameRecord::endLevel() {
-    paused = 0;
-    levelDone = 1;
-    stopped = 1;
-}
-
-void GameRecord::clearLevelTimes() {
-    for (float& time : allLevelTimes()) {
-        time = levelTime;
-    }
-}

@@ -1,9 +1,9 @@
-#include "data/best_times_screen.h"
+#include "render/best_times_screen.h"
 
-#include "app/game.h"
 #include "data/best_times.h"
 #include "data/font.h"
-#include "sim/projection.h"
+#include "state/game.h"
+#include "state/screen.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
-#include "data/name_entry.h"
+#include "app/name_entry.h"
 
 #include "app/effects.h"
-#include "app/game.h"
 #include "data/best_times.h"
+#include "platform/windows_api.h"
+#include "state/game.h"
 
 namespace {
 

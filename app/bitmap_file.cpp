@@ -1,0 +1,66 @@
+#include "app/bitmap_file.h"
+
+#include <cstring>
+
+#include "platform/windows_api.h"
+
+namespace {
+
+// Reads both headers. Of a header that ends early the missing bytes count as 0.
+bool readHeaders(HANDLE file, BitmapInfo& info) {
+    std::uint8_t fileHeader[bitmapFileHeaderSize] = {};
+    std::uint8_t infoHeader[bitmapInfoHeaderSize] = {};
+    DWORD got = 0;
+    if (!ReadFile(file, fileHeader, bitmapFileHeaderSize, &got, nullptr)) return false;
+    if (!ReadFile(file, infoHeader, bitmapInfoHeaderSize, &got, nullptr)) return false;
+    info = parseBitmapInfo(infoHeader);
+    return true;
+}
+
+bool readPixels(HANDLE file, std::int64_t bytes, std::uint8_t* pixels) {
+    DWORD got = 0;
+    return ReadFile(file, pixels, static_cast<DWORD>(bytes), &got, nullptr) != FALSE;
+}
+
+// Reads the picture if accepts(info) says that it fits the buffer.
+template <typename Accepts>
+bool readIfAccepted(const char* fileName, std::uint8_t* pixels, Accepts accepts) {
+    const HANDLE file = CreateFileA(fileName, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return false;
+    BitmapInfo info = {};
+    const bool read = readHeaders(file, info) && pixelBytes(info) >= 0 && accepts(info) &&
+                      readPixels(file, pixelBytes(info), pixels);
+    const bool closed = CloseHandle(file) != FALSE;
+    if (!read || !closed) return false;
+    exchangeRedAndBlue(pixels, pixelBytes(info));
+    return true;
+}
+
+} // namespace
+
+bool readBitmap(const char* fileName, std::uint8_t* pixels, std::int32_t capacity) {
+    return readIfAccepted(fileName, pixels, [capacity](const BitmapInfo& info) {
+        return pixelBytes(info) <= capacity;
+    });
+}
+
+bool readBitmapOfSize(const char* fileName, std::int32_t width, std::int32_t height,
+                      std::uint8_t* pixels) {
+    return readIfAccepted(fileName, pixels, [width, height](const BitmapInfo& info) {
+        return info.width == width && info.height == height;
+    });
+}
+
+bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slots,
+                  std::string& picture) {
+    picture = baseName;
+    if (std::strlen(baseName) >= mipBaseNameCapacity) return false;
+    const std::size_t slot = slotSize(chain);
+    for (int k = 0; k < chain.levels; ++k) {
+        picture = mipFileName(baseName, k);
+        std::uint8_t* pixels = slots + static_cast<std::size_t>(k) * slot;
+        if (!readBitmap(picture.c_str(), pixels, static_cast<std::int32_t>(slot))) return false;
+    }
+    return true;
+}

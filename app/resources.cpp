@@ -1,0 +1,64 @@
+#include "app/resources.h"
+
+#include <string>
+
+#include "app/bitmap_file.h"
+#include "data/best_times.h"
+#include "data/font.h"
+#include "data/level_file.h"
+#include "platform/windows_api.h"
+#include "render/textures.h"
+#include "sim/level.h"
+#include "state/game.h"
+
+namespace {
+
+bool refuse(const std::string& text) {
+    MessageBoxA(nullptr, text.c_str(), fileErrorCaption, MB_OK);
+    return false;
+}
+
+// The texture is made at once, so it stays where a later part of the file is refused.
+bool loadGroundTexture(Level& into, const char* baseName, std::string& picture) {
+    if (!readMipChain(groundChain, baseName, into.texturePixels[0], picture)) return false;
+    uploadGroundTexture(into);
+    return true;
+}
+
+// Some causes have no message of their own: the level run reports that the level is refused.
+bool refuseLevel(const std::string& fileName, const LevelFault& fault) {
+    using Cause = LevelFault::Cause;
+    switch (fault.cause) {
+    case Cause::FileUnreadable: return refuse(fileName + "file not found");
+    case Cause::UnknownToken: return refuse(fileName + " contains a unknown token" + fault.token);
+    case Cause::PictureUnreadable: return refuse(fault.token);
+    case Cause::HoleCountInvalid:
+    case Cause::OutOfMemory: return refuse("out of memory");
+    case Cause::EndMissing: return refuse("expected .end");
+    default: return false;
+    }
+}
+
+} // namespace
+
+bool Level::load(const char* fileName, Marble& playerMarble) {
+    LevelFileReport report;
+    if (readLevelFile(fileName, *this, playerMarble, loadGroundTexture, report)) return true;
+    return refuseLevel(fileName, report.fault);
+}
+
+bool Font::load(const char* baseName, const char* metricsName) {
+    std::string picture;
+    if (!readMipChain(fontChain, baseName, imageLevels[0], picture)) return refuse(picture);
+    uploadFontTexture(*this);
+    if (!readMetrics(metricsName)) return false;
+    loaded = true;
+    return true;
+}
+
+bool loadBestTimes() {
+    if (readBestTimes()) return true;
+    MessageBoxA(nullptr, "Creating new highScores file", "Notice", MB_OK);
+    setDefaultBestTimes();
+    return true;
+}

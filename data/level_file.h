@@ -1,0 +1,70 @@
+// Level files: their grammar, and why one is refused. The only reader of them; game and level tool
+// put the reasons into words of their own.
+//
+// A level file is a row of directives in any order, tokens separated by white space:
+//
+//   texturefile= BASE      the ground texture: the mip chain BASE_0.bmp to BASE_7.bmp
+//   fogcolor= 0xRRGGBB     the colour of fog and sky
+//   marblecolor= 0xRRGGBB  the colour of the marble
+//   holecount= H           the number of holes, 0 to mostHoles; they are flat until .data
+//   .data ... .end         H times x y width depth
+//
+// It must end directly after its last token, without so much as a line break.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "data/tokens.h"
+#include "sim/level.h"
+
+inline constexpr std::int32_t mostHoles = 100'000;
+
+enum class Directive { TextureFile, FogColour, MarbleColour, HoleCount, Data };
+
+// The directives' keys, in the order of Directive.
+inline constexpr const char* directiveKeys[] = {
+    "texturefile=", "fogcolor=", "marblecolor=", "holecount=", ".data"};
+inline constexpr int directiveCount = 5;
+inline constexpr const char* endOfHoles = ".end";
+
+// Why a level file is refused, and where.
+struct LevelFault {
+    enum class Cause {
+        None,
+        FileUnreadable,
+        FileEmpty,        // or nothing but white space
+        TrailingSpace,    // white space follows the last token
+        UnknownToken,     // the token is not a directive's key
+        TokenTooLong,     // or it holds a zero byte
+        ValueMissing,     // the file ends after a key
+        NumberMalformed,  // a colour or count that is not an integer in its range
+        HoleCountInvalid, // negative or above mostHoles
+        HoleMalformed,    // one of a hole's four numbers is missing or malformed
+        EndMissing,       // something else than .end follows the holes, or nothing
+        PictureUnreadable,
+        OutOfMemory,
+    };
+    Cause cause = Cause::None;
+    TextPlace place;
+    std::string token; // the offending token; a picture's file name; why the file is unreadable
+    Directive directive = Directive::TextureFile; // being read, for the causes within one
+    std::int32_t holeCount = 0; // HoleMalformed, EndMissing: the level's count of holes
+    std::int32_t number = 0;    // HoleMalformed: the hole numbers that were good
+};
+
+// Takes the ground texture of that base name into Level::texturePixels. Returns false, with the
+// name of the first picture that cannot be read in `picture`, when it fails.
+using TextureReader = bool (*)(Level& into, const char* baseName, std::string& picture);
+
+// What was read of a level file.
+struct LevelFileReport {
+    LevelFault fault;                          // cause None: the level is good
+    std::array<int, directiveCount> seen = {}; // how often each directive was read
+};
+
+// Reads a level file into the level, calling `readTexture` at each texturefile= directive, and
+// builds the ground mesh. Returns false when the file is refused. What was read before the fault
+// stays; the mesh is then empty.
+bool readLevelFile(const char* fileName, Level& into, Marble& playerMarble,
+                   TextureReader readTexture, LevelFileReport& report);
