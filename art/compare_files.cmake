@@ -1,14 +1,13 @@
-# Makes files with MAKER into the folder MADE, and others that are not compared into ALSO where it is
-# given, and fails unless all in MADE are equal, byte for byte, to the files of the same names in
-# COMMITTED, and there are no others.
+# Runs MAKER with the folder MADE and ARGUMENT, and fails unless the files in MADE/FOLDER are those
+# in COMMITTED/FOLDER: the same names, the same bytes.
 file(REMOVE_RECURSE ${MADE})
-execute_process(COMMAND ${MAKER} ${MADE} ${ALSO} RESULT_VARIABLE result)
+execute_process(COMMAND ${MAKER} ${MADE} ${ARGUMENT} RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
   message(FATAL_ERROR "${MAKER} failed: ${result}")
 endif()
 
-file(GLOB_RECURSE made RELATIVE ${MADE} ${MADE}/*)
-file(GLOB_RECURSE committed RELATIVE ${COMMITTED} ${COMMITTED}/*)
+file(GLOB_RECURSE made RELATIVE ${MADE} ${MADE}/${FOLDER}/*)
+file(GLOB_RECURSE committed RELATIVE ${COMMITTED} ${COMMITTED}/${FOLDER}/*)
 if(NOT made STREQUAL committed)
   message(FATAL_ERROR "made: ${made}\ncommitted: ${committed}")
 endif()
@@ -16,6 +15,6 @@ foreach(name IN LISTS made)
   execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${MADE}/${name} ${COMMITTED}/${name}
     RESULT_VARIABLE result)
   if(NOT result EQUAL 0)
-    message(FATAL_ERROR "${name} differs from the committed one; build the target art")
+    message(FATAL_ERROR "${name} is not the committed one; build the target art")
   endif()
 endforeach()

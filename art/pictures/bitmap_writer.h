@@ -1,15 +1,14 @@
-// Bitmap files as the game reads them: 24 bits, uncompressed, a 14-byte and a 40-byte header.
+// Bitmap files as the game reads them: 24 bits, uncompressed, with headers of 14 and 40 bytes.
 //
-// The game takes width x height x 3 bytes from byte 54 on, bottom row first, without padding
-// between rows. From 4 pixels of width on our sizes need no padding and the files are standard.
-// The 2 x 2 and 1 x 1 levels at the end of a mip chain do: their rows are written packed, for the
-// game, and the missing padding follows at the end, so that the file has the size that its header
-// promises and viewers open it (they show the upper row of a 2 x 2 picture in shifted colours).
+// The game reads width * height * 3 bytes from byte 54 on, bottom row first, without padding
+// between rows. Widths that are multiples of 4 need no padding, and their files are standard. The
+// 2 x 2 and 1 x 1 levels of a mip chain do need it: their rows are packed, for the game, and the
+// missing bytes follow at the end, so that the file has the size that its header gives.
 #pragma once
 
-#include <string>
+#include <filesystem>
 
-#include "art/pictures/canvas.h"
+#include "art/pictures/image.h"
 
-// Writes the picture to the file, replacing it. False when the file cannot be written.
-bool writeBitmap(const Picture& picture, const std::string& fileName);
+// Replaces the file. Returns false, after a message, when it cannot be written.
+bool writeBitmap(const Image8& image, const std::filesystem::path& file);

@@ -1,34 +1,31 @@
-// A marble of clear glass with a twisted swirl of coloured ribbons inside.
+// A marble of clear glass with twisted ribbons inside.
 #pragma once
 
-#include "sim/vector.h"
-#include "art/pictures/canvas.h"
+#include "art/pictures/image.h"
+#include "art/pictures/ray.h"
 
-struct GlassMarble {
-    Vector3 centre;
-    double radius;
-    Vector3 axis;  // unit vector that the ribbons wind about
-    Colour ribbon; // every other one is white
-    Colour second;
-    Colour glass; // what is left of white light after one diameter
-};
-
-// The distance along the ray at which it enters the marble, or -1.
-double hitMarble(const GlassMarble& marble, const Vector3& eye, const Vector3& direction);
-
-// The share of light that the surface mirrors under the cosine of the angle of incidence.
-double mirrored(double cosine);
-
-// A mirrored direction; `normal` is a unit vector.
-Vector3 reflected(const Vector3& direction, const Vector3& normal);
-
-// What happens to a ray that enters at `point`: where and in which direction it leaves, the light
-// it meets on the ribbons, and the share of what comes from behind that still passes.
+// What happens to a ray that enters a marble: where it leaves, the light that the ribbons add, and
+// the share that they and the glass let through.
 struct GlassPath {
     Vector3 exit;
     Vector3 direction;
     Colour ribbonLight;
-    Colour passing;
+    Colour transmittance;
 };
-GlassPath throughMarble(const GlassMarble& marble, const Vector3& point, const Vector3& direction,
-                        const Vector3& sun);
+
+struct GlassMarble {
+    Vector3 centre;
+    double radius;
+    Vector3 axis;  // a unit vector that the ribbons wind about
+    Colour ribbon; // of every other ribbon; the rest are white
+
+    // Returns the distance along the ray at which it enters the marble, or -1.
+    double hit(const Ray& ray) const;
+
+    // Follows a ray of the given direction that enters at `point`.
+    GlassPath refractThrough(const Vector3& point, const Vector3& direction) const;
+};
+
+// Returns the share of light that glass reflects at an angle of incidence with this cosine
+// (Schlick's approximation).
+double fresnelReflectance(double cosine);

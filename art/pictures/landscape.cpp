@@ -4,30 +4,24 @@
 #include <cmath>
 #include <memory>
 
-#include "art/pictures/portable_math.h"
+#include "art/common/portable_math.h"
+#include "art/pictures/sky.h"
 
 namespace {
 
-constexpr double spacing = 10.0; // between heights, world units
+// The lattice of heights, in world units.
+constexpr double spacing = 10.0;
 constexpr double firstX = -2500.0;
 constexpr double firstY = -1000.0;
 constexpr int columns = 501;
 constexpr int rows = 601;
 
-constexpr double slopeStep = 2.0;     // world units, for normals
-constexpr double hollowReach = 70.0;  // around a point, to see whether it lies low
-constexpr double shadowReach = 900.0; // how far away a mound may be that throws a shadow
-
-// The three weights of a quadratic spline around its nearest lattice line; `t` is -0.5..0.5.
+// The weights of a quadratic spline for the three nearest lattice lines; `t` is -0.5..0.5.
 struct SplineWeights {
     double w[3];
     explicit SplineWeights(double t)
         : w{0.5 * (0.5 - t) * (0.5 - t), 0.75 - t * t, 0.5 * (0.5 + t) * (0.5 + t)} {}
 };
-
-Vector3 along(const Vector3& eye, const Vector3& direction, double distance) {
-    return eye + direction * static_cast<float>(distance);
-}
 
 } // namespace
 
@@ -36,7 +30,6 @@ Landscape::Landscape(std::span<const Hole> holes) : highest(-1e9) {
     ground->holeCount = static_cast<std::int32_t>(holes.size());
     ground->holes = std::make_unique<Hole[]>(holes.size());
     std::copy(holes.begin(), holes.end(), ground->holes.get());
-    heights.reserve(static_cast<std::size_t>(columns) * rows);
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
             const auto x = static_cast<float>(firstX + column * spacing);
@@ -71,51 +64,57 @@ double Landscape::heightAt(double x, double y) const {
 }
 
 Vector3 Landscape::normalAt(double x, double y) const {
-    const double dx = heightAt(x - slopeStep, y) - heightAt(x + slopeStep, y);
-    const double dy = heightAt(x, y - slopeStep) - heightAt(x, y + slopeStep);
-    return Vector3(static_cast<float>(dx), static_cast<float>(dy),
-                   static_cast<float>(2.0 * slopeStep))
+    constexpr double step = 2.0;
+    const double dx = heightAt(x - step, y) - heightAt(x + step, y);
+    const double dy = heightAt(x, y - step) - heightAt(x, y + step);
+    return Vector3(static_cast<float>(dx), static_cast<float>(dy), static_cast<float>(2.0 * step))
         .unit();
 }
 
-double Landscape::opennessAt(double x, double y) const {
-    const double around = heightAt(x - hollowReach, y) + heightAt(x + hollowReach, y) +
-                          heightAt(x, y - hollowReach) + heightAt(x, y + hollowReach);
+double Landscape::ambientOcclusion(double x, double y) const {
+    constexpr double reach = 70.0; // around the point, to see whether it is low
+    const double around = heightAt(x - reach, y) + heightAt(x + reach, y) + heightAt(x, y - reach) +
+                          heightAt(x, y + reach);
     const double below = 0.25 * around - heightAt(x, y);
-    return std::clamp(1.0 - 0.9 * below / hollowReach, 0.25, 1.15);
+    return std::clamp(1.0 - 0.9 * below / reach, 0.25, 1.15);
 }
 
-double Landscape::hit(const Vector3& eye, const Vector3& direction, double limit) const {
+double Landscape::hit(const Ray& ray, double limit) const {
     const auto clearance = [&](double distance) {
-        const Vector3 p = along(eye, direction, distance);
+        const Vector3 p = ray.at(distance);
         return static_cast<double>(p.z) - heightAt(p.x, p.y);
     };
     double before = 0.0;
-    double at = 0.0;
-    double above = clearance(at);
+    double distance = 0.0;
+    double above = clearance(distance);
     while (above > 0.0) {
-        if (at > limit) return -1.0;
-        if (direction.z > 0.0F && along(eye, direction, at).z > highest) return -1.0;
-        before = at;
-        at += std::max(0.4 * above, 0.5 + 0.0015 * at);
-        above = clearance(at);
+        const bool leftTheGround = ray.direction.z > 0.0F && ray.at(distance).z > highest;
+        if (distance > limit || leftTheGround) {
+            return -1.0;
+        }
+        before = distance;
+        distance += std::max(0.4 * above, 0.5 + 0.0015 * distance);
+        above = clearance(distance);
     }
     for (int i = 0; i < 10; ++i) {
-        const double middle = 0.5 * (before + at);
-        (clearance(middle) > 0.0 ? before : at) = middle;
+        const double middle = 0.5 * (before + distance);
+        (clearance(middle) > 0.0 ? before : distance) = middle;
     }
-    return at;
+    return distance;
 }
 
-double Landscape::sunAt(const Vector3& point, const Vector3& towards) const {
-    double lightest = 1.0;
+double Landscape::sunlightAt(const Vector3& point) const {
+    constexpr double reach = 900.0; // of the longest shadow
+    double least = 1.0;
     double distance = 4.0;
-    while (distance < shadowReach && lightest > 0.0) {
-        const Vector3 p = along(point, towards, distance);
-        if (p.z > highest) break;
+    while (distance < reach && least > 0.0) {
+        const Vector3 p = point + sunDirection * static_cast<float>(distance);
+        if (p.z > highest) {
+            break;
+        }
         const double above = p.z - heightAt(p.x, p.y);
-        lightest = std::min(lightest, 0.5 + 7.0 * above / distance);
+        least = std::min(least, 0.5 + 7.0 * above / distance);
         distance += std::max(5.0, 0.6 * above);
     }
-    return smoothStep(0.0, 1.0, lightest);
+    return smoothstep(0.0, 1.0, least);
 }

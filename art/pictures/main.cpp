@@ -1,99 +1,122 @@
-// Makes the game's pictures: the font, the grounds, the title, the background and the icons.
+// Makes the game's pictures: make_pictures GAME ICONS [PICTURE...]
 //
-//   make_pictures <graphics folder> <icon folder>
-//
-// Missing folders are made; files of the same names are replaced. The same source gives the same
-// bytes on every machine. Ends with 0 when every file was written.
-#include <cstdio>
+// Writes GAME/graphics and the icons in the folder ICONS, replacing files. The bitmaps have the
+// same bytes on every machine. With names of pictures (font, title, back, icons, or that of a
+// ground) only these are made. Exits with 0 when every file was written.
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
-#include <fstream>
+#include <iostream>
+#include <string>
 
+#include "art/common/byte_writer.h"
+#include "art/common/portable_math.h"
 #include "art/pictures/bitmap_writer.h"
-#include "art/pictures/dither.h"
 #include "art/pictures/font_sheet.h"
 #include "art/pictures/ground_textures.h"
 #include "art/pictures/paintings.h"
-#include "art/pictures/png_writer.h"
+#include "data/font.h"
+#include "tools/png/png_writer.h"
 
 namespace {
 
 using std::filesystem::path;
 
-constexpr double iconCorner = 0.2; // radius of the icon's corners in its widths
+struct Ground {
+    const char* name;
+    GroundPattern* pattern;
+};
 
-bool written(bool success, const path& file) {
-    if (!success) std::fprintf(stderr, "cannot write %s\n", file.c_str());
-    return success;
-}
+constexpr Ground grounds[] = {
+    {"grid", gridPattern},        {"embers", emberPattern},   {"sand", sandPattern},
+    {"hexagons", hexagonPattern}, {"planks", plankPattern},   {"scales", scalePattern},
+    {"circuit", circuitPattern},  {"paving", pavingPattern},  {"ice", icePattern},
+    {"lava", lavaPattern},        {"ribbons", ribbonPattern},
+};
 
-path levelFile(const path& base, int level) {
+path levelFile(const path& base, std::size_t level) {
     return base.string() + "_" + std::to_string(level) + ".bmp";
 }
 
-bool writeFont(const path& base) {
+bool writeFont(const path& game) {
     const std::vector<GlyphCell> cells = layOutGlyphs();
     if (cells.empty()) {
-        std::fprintf(stderr, "the glyphs do not fit into the font picture\n");
+        std::cerr << "the glyphs do not fit into the font sheet\n";
         return false;
     }
     for (int level = 0; level < fontLevels; ++level) {
-        const path file = levelFile(base, level);
-        if (!written(writeBitmap(drawFontLevel(cells, level), file.string()), file)) return false;
+        const path file = levelFile(game / fontBaseName, static_cast<std::size_t>(level));
+        if (!writeBitmap(drawFontLevel(cells, level), file)) {
+            return false;
+        }
     }
-    const path file = base.string() + ".dat";
-    std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    out << fontMetrics(cells);
-    return written(out.flush().good(), file);
+    return ByteWriter{fontMetrics(cells)}.writeTo(game / fontMetricsFile);
 }
 
-bool writeGround(const path& folder, const GroundTexture& texture) {
-    const std::vector<Canvas> chain = groundMipChain(texture.pattern);
-    for (int level = 0; level < groundTileLevels; ++level) {
-        const path file = levelFile(folder / texture.name, level);
-        const Picture picture = developed(chain[static_cast<std::size_t>(level)]);
-        if (!written(writeBitmap(picture, file.string()), file)) return false;
-    }
-    return true;
-}
-
-bool writeGrounds(const path& folder) {
-    for (const GroundTexture& texture : groundTextures()) {
-        if (!writeGround(folder, texture)) return false;
+bool writeGround(const path& folder, const Ground& ground) {
+    const std::vector<Image> chain = groundMipChain(ground.pattern);
+    for (std::size_t level = 0; level < chain.size(); ++level) {
+        if (!writeBitmap(toSrgb8(chain[level]), levelFile(folder / ground.name, level))) {
+            return false;
+        }
     }
     return true;
 }
 
-bool writeScreens(const path& folder) {
-    const path title = folder / "title.bmp";
-    const path back = folder / "back.bmp";
-    return written(writeBitmap(ditheredTo565(titlePainting()), title.string()), title) &&
-           written(writeBitmap(ditheredTo565(backPainting()), back.string()), back);
+// Returns how much of the pixel around a point is inside a square with rounded corners.
+double coverage(double x, double y, double size) {
+    const double radius = 0.2 * size;
+    const double half = 0.5 * size;
+    const double dx = std::max(0.0, std::fabs(x - half) - (half - radius));
+    const double dy = std::max(0.0, std::fabs(y - half) - (half - radius));
+    return clamp01(radius + 0.5 - std::sqrt(dx * dx + dy * dy));
 }
 
-bool writeIconFile(const path& file, int size) {
-    return written(writeIcon(developed(iconPainting(size)), size * iconCorner, file.string()),
-                   file);
+bool writeIcon(const path& file, int size) {
+    const Image8 image = toSrgb8(iconPainting(size));
+    std::vector<std::uint8_t> pixels;
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const double inside = coverage(x + 0.5, y + 0.5, size);
+            pixels.insert(pixels.end(), image.at(x, y).begin(), image.at(x, y).end());
+            pixels.push_back(static_cast<std::uint8_t>(inside * 255.0 + 0.5));
+        }
+    }
+    std::string error;
+    if (!writePngRgba(file.string(), size, size, pixels, error)) {
+        std::cerr << error << '\n';
+        return false;
+    }
+    return true;
 }
 
-bool makeFolder(const path& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    return written(!error, folder);
+bool writeIcons(const path& folder) {
+    std::error_code ignored; // writing an icon fails when there is no folder
+    std::filesystem::create_directories(folder, ignored);
+    return writeIcon(folder / "glorbix.png", 256) && writeIcon(folder / "glorbix-48.png", 48);
 }
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    if (argumentCount != 3) {
-        std::fprintf(stderr, "usage: %s <graphics folder> <icon folder>\n", arguments[0]);
+    if (argumentCount < 3) {
+        std::cerr << "usage: make_pictures GAME ICONS [PICTURE...]\n";
         return 2;
     }
-    const path graphics = arguments[1];
-    const path icons = arguments[2];
-    const bool done = makeFolder(graphics / "font") && makeFolder(graphics / "ground") &&
-                      makeFolder(icons) && writeFont(graphics / "font" / "font") &&
-                      writeGrounds(graphics / "ground") && writeScreens(graphics) &&
-                      writeIconFile(icons / "glorbix.png", 256) &&
-                      writeIconFile(icons / "glorbix-48.png", 48);
+    const path game = arguments[1];
+    const path graphics = game / "graphics";
+    const auto wanted = [&](const std::string& picture) {
+        char** end = arguments + argumentCount;
+        return argumentCount == 3 || std::find(arguments + 3, end, picture) != end;
+    };
+    bool done = !wanted("font") || writeFont(game);
+    for (const Ground& ground : grounds) {
+        done = done && (!wanted(ground.name) || writeGround(graphics / "ground", ground));
+    }
+    done = done &&
+           (!wanted("title") || writeBitmap(ditherTo565(titlePainting()), graphics / "title.bmp"));
+    done = done &&
+           (!wanted("back") || writeBitmap(ditherTo565(backPainting()), graphics / "back.bmp"));
+    done = done && (!wanted("icons") || writeIcons(arguments[2]));
     return done ? 0 : 1;
 }

@@ -2,193 +2,202 @@
 
 #include <algorithm>
 #include <cmath>
+#include <thread>
 
+#include "art/common/portable_math.h"
 #include "art/pictures/ground_textures.h"
-#include "art/pictures/parallel.h"
-#include "art/pictures/portable_math.h"
 
 namespace {
 
+constexpr double naturalLogarithmOf2 = 0.6931472;
 constexpr double farAway = 6000.0;
-constexpr int mirrorDepth = 2; // mirrorings followed after the first sight
+constexpr int maxDepth = 2; // reflections and refractions that are followed
 
-struct Ray {
-    Vector3 eye;
-    Vector3 direction;
-    double spread; // width of the ray's cone for each unit of length
-    int depth;     // mirrorings and refractions on the way
-};
-
-Vector3 at(const Ray& ray, double distance) {
-    return ray.eye + ray.direction * static_cast<float>(distance);
-}
-
-// The ray after a surface of the given radius at the given distance, which widens its cone.
-Ray onward(const Ray& ray, double distance, double radius, const Vector3& from,
-           const Vector3& direction) {
+// Returns the ray after a surface whose curvature, given by its radius, widens the ray's cone.
+Ray deflect(const Ray& ray, double distance, double radius, const Vector3& from,
+            const Vector3& direction) {
     const double widened = 2.0 * distance * ray.spread / radius;
     return {from + direction * 0.05F, direction, ray.spread + widened, ray.depth + 1};
 }
 
-const Colour& texel(const Canvas& level, int x, int y) {
+const Colour& texel(const Image& level, int x, int y) {
     const int mask = level.width - 1; // sizes are powers of two
     return level.at(x & mask, mask - (y & mask));
 }
 
-Colour bilinear(const Canvas& level, double x, double y) {
+Colour bilinear(const Image& level, double x, double y) {
     const double u = x / tileWidth * level.width - 0.5;
     const double v = y / tileLength * level.height - 0.5;
-    const double column = std::floor(u);
-    const double row = std::floor(v);
-    const int i = static_cast<int>(column);
-    const int j = static_cast<int>(row);
-    return mix(mix(texel(level, i, j), texel(level, i + 1, j), u - column),
-               mix(texel(level, i, j + 1), texel(level, i + 1, j + 1), u - column), v - row);
+    const int i = static_cast<int>(std::floor(u));
+    const int j = static_cast<int>(std::floor(v));
+    return lerp(lerp(texel(level, i, j), texel(level, i + 1, j), u - i),
+                lerp(texel(level, i, j + 1), texel(level, i + 1, j + 1), u - i), v - j);
 }
 
-// The ground's texture where one ray covers `footprint` world units.
-Colour textureAt(const std::vector<Canvas>& chain, double x, double y, double footprint) {
-    const double texelsCovered = footprint * groundTileSize / tileLength;
-    const double wanted = texelsCovered > 1.0 ? naturalLogarithm(texelsCovered) / 0.6931472 : 0.0;
+// Returns the ground's texture where one ray covers `footprint` world units.
+Colour trilinear(const std::vector<Image>& chain, double x, double y, double footprint) {
+    const double texels = footprint * chain[0].height / tileLength;
+    const double wanted = texels > 1.0 ? naturalLogarithm(texels) / naturalLogarithmOf2 : 0.0;
     const double level = std::min(wanted, static_cast<double>(chain.size()) - 1.001);
     const auto finer = static_cast<std::size_t>(level);
-    return mix(bilinear(chain[finer], x, y), bilinear(chain[finer + 1], x, y),
-               level - static_cast<double>(finer));
+    return lerp(bilinear(chain[finer], x, y), bilinear(chain[finer + 1], x, y),
+                level - static_cast<double>(finer));
 }
 
-Colour lightAlong(const Scene& scene, const Ray& ray);
+Colour trace(const Scene& scene, const Ray& ray);
 
-// What a marble does to the light on the ground: it takes the sun and some sky away, and gathers
-// the sun to a bright spot in the middle of its shadow.
-struct MarbleShade {
+// What the marbles do to the light on the ground: they take away sun and sky, and gather the sun
+// to a bright spot in the middle of each shadow.
+struct MarbleShadow {
     double sun = 1.0;
     double sky = 1.0;
-    Colour gathered;
+    Colour caustic;
 };
 
-MarbleShade shadeOf(const Scene& scene, const Vector3& point, const Vector3& normal) {
-    MarbleShade shade;
+MarbleShadow shadowOfMarbles(const Scene& scene, const Vector3& point, const Vector3& normal) {
+    MarbleShadow shadow;
     for (const GlassMarble& marble : scene.marbles) {
         const Vector3 to = marble.centre - point;
         const double distance = to.length();
         const double facing = std::max(0.0, static_cast<double>(dot(to, normal)) / distance);
         const double size = marble.radius / distance;
-        shade.sky *= 1.0 - 0.85 * facing * size * size;
-        const double along = dot(to, scene.mood.sun);
-        if (along < 0.0) continue;
-        const Vector3 aside = to - scene.mood.sun * static_cast<float>(along);
-        const double off = aside.length() / marble.radius;
-        shade.sun *= mix(0.12, 1.0, smoothStep(0.80, 1.12, off));
-        shade.gathered = shade.gathered + marble.ribbon * (1.6 * exponential(-off * off * 7.0));
+        shadow.sky *= 1.0 - 0.85 * facing * size * size;
+        const double along = dot(to, sunDirection);
+        if (along >= 0.0) {
+            const Vector3 aside = to - sunDirection * static_cast<float>(along);
+            const double off = aside.length() / marble.radius;
+            shadow.sun *= lerp(0.12, 1.0, smoothstep(0.80, 1.12, off));
+            shadow.caustic = shadow.caustic + marble.ribbon * (1.6 * exponential(-off * off * 7.0));
+        }
     }
-    return shade;
+    return shadow;
 }
 
-Colour groundLight(const Scene& scene, const Ray& ray, double distance) {
-    const Mood& mood = scene.mood;
-    const Vector3 point = at(ray, distance);
-    const double clear = clearnessAt(mood, distance);
-    if (clear < 0.004) return mood.haze;
-
+Colour shadeGround(const Scene& scene, const Ray& ray, double distance) {
+    const Sky& sky = scene.sky;
+    const double transmittance = sky.transmittance(distance);
+    if (transmittance < 0.004) {
+        return sky.haze;
+    }
+    const Vector3 point = ray.at(distance);
     const Vector3 normal = scene.land.normalAt(point.x, point.y);
     const double grazing = std::max(0.12, -static_cast<double>(dot(normal, ray.direction)));
     const Colour paint =
-        textureAt(scene.texture, point.x, point.y, distance * ray.spread / std::sqrt(grazing));
-    const MarbleShade shade = shadeOf(scene, point, normal);
-    const double facing = std::max(0.0F, dot(normal, mood.sun));
-    const double sun = facing > 0.0 ? facing * shade.sun * scene.land.sunAt(point, mood.sun) : 0.0;
-    const double open = scene.land.opennessAt(point.x, point.y) * shade.sky;
-    const Colour light = mood.sunlight * sun + mood.skylight * (open * (0.6 + 0.4 * normal.z)) +
-                         shade.gathered * facing;
-    const double unshaded = mix(0.3, 1.0, shade.sun * shade.sky);
-    const Colour own = paint * paint * (3.0 * scene.lineGlow * unshaded);
-    return mix(mood.haze, paint * light + own, clear);
+        trilinear(scene.texture, point.x, point.y, distance * ray.spread / std::sqrt(grazing));
+    const MarbleShadow shadow = shadowOfMarbles(scene, point, normal);
+    const double facing = std::max(0.0F, dot(normal, sunDirection));
+    const double sun = facing > 0.0 ? facing * shadow.sun * scene.land.sunlightAt(point) : 0.0;
+    const double open = scene.land.ambientOcclusion(point.x, point.y) * shadow.sky;
+    const Colour light = sky.sunlight * sun + sky.skylight * (open * (0.6 + 0.4 * normal.z)) +
+                         shadow.caustic * facing;
+    const double unshaded = lerp(0.3, 1.0, shadow.sun * shadow.sky);
+    const Colour emitted = paint * paint * (3.0 * scene.glow * unshaded);
+    return lerp(sky.haze, paint * light + emitted, transmittance);
 }
 
-// A bright, soft-edged window of light that polished things mirror towards the eye.
-Colour sparkle(const Mood& mood, const Vector3& mirror, double sharpness) {
-    const double towards = std::max(0.0F, dot(mirror, mood.sun));
-    return mood.sunlight * (3.0 * power(towards, sharpness));
+// Returns the reflection of the sun by something polished.
+Colour highlight(const Sky& sky, const Vector3& reflected, double sharpness) {
+    const double towards = std::max(0.0F, dot(reflected, sunDirection));
+    return sky.sunlight * (3.0 * power(towards, sharpness));
 }
 
-Colour signLight(const Scene& scene, const Ray& ray, double distance) {
-    const Mood& mood = scene.mood;
-    const Vector3 point = at(ray, distance);
+Colour shadeSign(const Scene& scene, const Ray& ray, double distance) {
+    const Sky& sky = scene.sky;
+    const Vector3 point = ray.at(distance);
     const Vector3 normal = scene.sign->normalAt(point);
     const double level = clamp01(scene.sign->levelOf(point));
-    const Colour low = mix(colourOf(0xff1f6e), colourOf(0xff7a1a), smoothStep(0.0, 0.5, level));
-    const Colour paint = mix(low, colourOf(0xffe24a), smoothStep(0.4, 1.0, level));
-    const double facing = clamp01(0.3 + 0.8 * dot(normal, mood.sun));
-    const Colour body = paint * (0.22 + 0.95 * facing) + paint * mood.skylight * 0.15;
-    const Vector3 mirror = reflected(ray.direction, normal);
-    const double share = mirrored(-dot(ray.direction, normal));
-    const Colour seen =
-        ray.depth < mirrorDepth
-            ? lightAlong(scene, onward(ray, distance, scene.sign->tubeRadius(), point, mirror))
-            : skyIn(mood, mirror);
-    return mix(body, seen, 0.10 + 0.8 * share) + sparkle(mood, mirror, 60.0) * 0.35;
-}
-
-Colour marbleLight(const Scene& scene, const GlassMarble& marble, const Ray& ray, double distance) {
-    const Mood& mood = scene.mood;
-    const Vector3 point = at(ray, distance);
-    const Vector3 normal = (point - marble.centre).unit();
-    const Vector3 mirror = reflected(ray.direction, normal);
-    const GlassPath path = throughMarble(marble, point, ray.direction, mood.sun);
-    Colour outside = skyIn(mood, mirror);
-    Colour behind = skyIn(mood, path.direction);
-    if (ray.depth < mirrorDepth) {
-        outside = lightAlong(scene, onward(ray, distance, marble.radius, point, mirror));
-        behind = lightAlong(scene, onward(ray, distance, marble.radius, path.exit, path.direction));
+    const Colour low = lerp(srgb(0xff1f6e), srgb(0xff7a1a), smoothstep(0.0, 0.5, level));
+    const Colour paint = lerp(low, srgb(0xffe24a), smoothstep(0.4, 1.0, level));
+    const double facing = clamp01(0.3 + 0.8 * dot(normal, sunDirection));
+    const Colour body = paint * (0.22 + 0.95 * facing) + paint * sky.skylight * 0.15;
+    const Vector3 direction = reflect(ray.direction, normal);
+    Colour reflection = sky.lightFrom(direction);
+    if (ray.depth < maxDepth) {
+        reflection = trace(scene, deflect(ray, distance, signTubeRadius, point, direction));
     }
-    const double share = mirrored(-dot(ray.direction, normal));
-    const Colour inside = path.ribbonLight + behind * path.passing;
-    return mix(inside, outside, share) + sparkle(mood, mirror, 220.0) +
-           sparkle(mood, mirror, 12.0) * 0.05;
+    const double share = fresnelReflectance(-dot(ray.direction, normal));
+    return lerp(body, reflection, 0.10 + 0.8 * share) + highlight(sky, direction, 60.0) * 0.35;
 }
 
-Colour lightAlong(const Scene& scene, const Ray& ray) {
-    double nearest = scene.land.hit(ray.eye, ray.direction, farAway);
-    if (nearest < 0.0) nearest = farAway;
+Colour shadeMarble(const Scene& scene, const GlassMarble& marble, const Ray& ray, double distance) {
+    const Sky& sky = scene.sky;
+    const Vector3 point = ray.at(distance);
+    const Vector3 normal = (point - marble.centre).unit();
+    const Vector3 direction = reflect(ray.direction, normal);
+    const GlassPath path = marble.refractThrough(point, ray.direction);
+    Colour reflection = sky.lightFrom(direction);
+    Colour beyond = sky.lightFrom(path.direction);
+    if (ray.depth < maxDepth) {
+        reflection = trace(scene, deflect(ray, distance, marble.radius, point, direction));
+        beyond = trace(scene, deflect(ray, distance, marble.radius, path.exit, path.direction));
+    }
+    const double share = fresnelReflectance(-dot(ray.direction, normal));
+    const Colour inside = path.ribbonLight + beyond * path.transmittance;
+    return lerp(inside, reflection, share) + highlight(sky, direction, 220.0) +
+           highlight(sky, direction, 12.0) * 0.05;
+}
+
+// Returns the light that comes back along a ray.
+Colour trace(const Scene& scene, const Ray& ray) {
+    double nearest = scene.land.hit(ray, farAway);
+    if (nearest < 0.0) {
+        nearest = farAway;
+    }
     const GlassMarble* marbleSeen = nullptr;
     for (const GlassMarble& marble : scene.marbles) {
-        const double distance = hitMarble(marble, ray.eye, ray.direction);
-        if (distance < 0.0 || distance >= nearest) continue;
-        nearest = distance;
-        marbleSeen = &marble;
+        const double distance = marble.hit(ray);
+        if (distance >= 0.0 && distance < nearest) {
+            nearest = distance;
+            marbleSeen = &marble;
+        }
     }
-    if (scene.sign) {
-        const double distance = scene.sign->hit(ray.eye, ray.direction);
-        if (distance > 0.0 && distance < nearest) return signLight(scene, ray, distance);
+    const double toSign = scene.sign ? scene.sign->hit(ray) : -1.0;
+    if (toSign > 0.0 && toSign < nearest) {
+        return shadeSign(scene, ray, toSign);
     }
-    if (marbleSeen != nullptr) return marbleLight(scene, *marbleSeen, ray, nearest);
-    if (nearest < farAway) return groundLight(scene, ray, nearest);
-    const Colour sky = skyIn(scene.mood, ray.direction);
-    return ray.depth == 0 ? sky + starsIn(scene.mood, ray.direction) : sky;
+    if (marbleSeen != nullptr) {
+        return shadeMarble(scene, *marbleSeen, ray, nearest);
+    }
+    if (nearest < farAway) {
+        return shadeGround(scene, ray, nearest);
+    }
+    const Colour sky = scene.sky.lightFrom(ray.direction);
+    return ray.depth == 0 ? sky + starlight(ray.direction) : sky;
 }
 
-} // namespace
-
-Canvas render(const Scene& scene, const Camera& camera, int width, int height, int samplesAcross) {
-    Canvas picture(width, height);
+// Renders every n-th row of the image, beginning with the given one.
+void renderRows(const Scene& scene, const Camera& camera, int samples, int first, int n,
+                Image& image) {
     const auto c = static_cast<float>(cosine(camera.pitch));
     const auto s = static_cast<float>(sine(camera.pitch));
     const Vector3 forward(0.0F, c, -s);
     const Vector3 up(0.0F, s, c);
-    const double pixel = 1.0 / (camera.focal * width);
-    const double share = 1.0 / samplesAcross;
-    forEachRow(height, [&](int row) {
-        for (int column = 0; column < width; ++column) {
+    const double pixel = 1.0 / (camera.focalLength * image.width);
+    const double share = 1.0 / samples;
+    for (int row = first; row < image.height; row += n) {
+        for (int column = 0; column < image.width; ++column) {
             Colour sum;
-            for (int i = 0; i < samplesAcross * samplesAcross; ++i) {
-                const double x = column + (i % samplesAcross + 0.5) * share - 0.5 * width;
-                const double y = 0.5 * height - row - (i / samplesAcross + 0.5) * share;
+            for (int i = 0; i < samples * samples; ++i) {
+                const double x = column + (i % samples + 0.5) * share - 0.5 * image.width;
+                const double y = 0.5 * image.height - row - (i / samples + 0.5) * share;
                 const Vector3 direction = forward + up * static_cast<float>(y * pixel) +
                                           Vector3(static_cast<float>(x * pixel), 0.0F, 0.0F);
-                sum = sum + lightAlong(scene, {camera.eye, direction.unit(), pixel, 0});
+                sum = sum + trace(scene, {camera.eye, direction.unit(), pixel, 0});
             }
-            picture.at(column, row) = sum * (share * share);
+            image.at(column, row) = sum * (share * share);
         }
-    });
-    return picture;
+    }
+}
+
+} // namespace
+
+Image render(const Scene& scene, const Camera& camera, int width, int height, int samples) {
+    Image image(width, height);
+    const int count = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < count; ++i) {
+        threads.emplace_back([&, i] { renderRows(scene, camera, samples, i, count, image); });
+    }
+    threads.clear(); // waits for all of them
+    return image;
 }

@@ -1,32 +1,30 @@
-// A painted scene: land with a texture, glass marbles on it, a sign above it, a sky. One call tells
-// the light along a ray; render makes a picture of many.
+// A scene and its ray tracer: land with a texture, glass marbles, a sign, a sky.
 #pragma once
 
 #include <optional>
 #include <vector>
 
-#include "art/pictures/canvas.h"
 #include "art/pictures/glass_marble.h"
+#include "art/pictures/image.h"
 #include "art/pictures/landscape.h"
-#include "art/pictures/mood.h"
 #include "art/pictures/sign.h"
+#include "art/pictures/sky.h"
 
 struct Scene {
-    Mood mood;
+    Sky sky;
     Landscape land;
-    std::vector<Canvas> texture; // the mip chain of the ground (ground_textures.h)
-    double lineGlow;             // how much of the texture shines by itself, 0..1
-    std::vector<GlassMarble> marbles;
-    std::optional<Sign> sign;
+    std::vector<Image> texture; // the mip chain of the ground (ground_textures.h)
+    double glow = 0.35;         // how much the bright parts of the texture glow, 0..1
+    std::vector<GlassMarble> marbles = {};
+    std::optional<Sign> sign = {};
 };
 
-// Eye, view and size of the picture. The picture's middle looks along `forward`.
 struct Camera {
     Vector3 eye;
-    double pitch; // radians below the horizon
-    double focal; // in widths of the picture
+    double pitch;       // radians below the horizon; it looks towards +y
+    double focalLength; // in widths of the picture
 };
 
-// The picture of the scene, every pixel the mean of samplesAcross x samplesAcross rays. Rows are
-// shared out among the processors; the result does not depend on their number.
-Canvas render(const Scene& scene, const Camera& camera, int width, int height, int samplesAcross);
+// Renders the scene; every pixel is the mean of samples x samples rays. All processors share the
+// work; the result does not depend on their number.
+Image render(const Scene& scene, const Camera& camera, int width, int height, int samples);

@@ -1,42 +1,36 @@
-// A word of the game's typeface as a body: the letters' strokes as thick round tubes that stand
-// upright in a scene and face its eye.
+// A word of the game's typeface as a solid body: the strokes are thick round tubes that stand
+// upright in a scene and face -y.
 #pragma once
 
 #include <string_view>
 #include <vector>
 
-#include "sim/vector.h"
+#include "art/pictures/image.h"
+#include "art/pictures/ray.h"
 
 struct Sign {
-    // Stands on its baseline at `foot`, the middle of the word, facing -y. `scale` is world units
-    // a glyph pixel, `radius` the tubes' in glyph pixels, `tracking` room added between letters.
-    Sign(std::string_view word, const Vector3& foot, double scale, double radius, double tracking);
+    // Stands with its baseline at `foot`, which is under the middle of the word.
+    Sign(std::string_view word, const Vector3& foot);
 
-    // The distance along the ray at which it meets a tube, or -1.
-    double hit(const Vector3& eye, const Vector3& direction) const;
+    // Returns the distance along the ray to the nearest tube, or -1.
+    double hit(const Ray& ray) const;
 
-    // The outward unit normal at a point of the surface.
+    // Returns the outward unit normal at a point of the surface.
     Vector3 normalAt(const Vector3& point) const;
 
-    // Half the thickness of the strokes, world units.
-    double tubeRadius() const { return tube; }
-
-    // 0 at the foot of the capitals, 1 at their top.
+    // Returns 0 at the foot of the capitals, 1 at their top.
     double levelOf(const Vector3& point) const;
 
-    // The middle of a letter's ring or stem, in the world: half its width, half the capitals'
-    // height. `index` counts the word's letters from 0.
-    Vector3 middleOf(int index) const;
+    // Returns the middle of the letter at `index` of the word: half its width, half its height.
+    Vector3 middleOf(std::size_t index) const;
 
 private:
-    double toSkeleton(double x, double z) const;
-    double distanceTo(const Vector3& point) const;
+    double signedDistance(const Vector3& point) const;
 
-    Vector3 origin; // the word's left end on the baseline
-    double unit;    // world units a glyph pixel
-    double tube;    // world units
-    int gridWidth;
-    int gridHeight;
+    Vector3 origin;                    // the word's left end on the baseline
     std::vector<double> letterMiddles; // glyph pixels from the left end
-    std::vector<double> grid;          // distances to the skeleton in glyph pixels
+    Raster<double> distances;          // from grid points to the middle of the strokes, in pixels
 };
+
+inline constexpr double signScale = 7.5;                  // world units a glyph pixel
+inline constexpr double signTubeRadius = 3.0 * signScale; // world units

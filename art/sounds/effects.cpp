@@ -5,11 +5,10 @@
 namespace {
 
 constexpr double peakInDecibels = -3.0;
-
-// A blown tone is louder to the ear than struck ones of the same peak; so low it matches them.
+// A blown tone sounds louder than a struck one of the same peak; this makes them equal.
 constexpr double blownPeakInDecibels = -6.5;
 
-// Pitches by name; a trailing 4, 5 ... is the octave, with a4 at 440 Hz.
+// MIDI pitches by name; a4 is 440 Hz.
 constexpr double d4 = 62, f4 = 65, a4 = 69, d5 = 74, fSharp5 = 78, a5 = 81, d6 = 86, fSharp6 = 90;
 constexpr double a6 = 93, d7 = 98;
 
@@ -20,7 +19,7 @@ SoundBuffer menuTick() {
     knock(sound, 0.0, 0.9);
     strikeGlass(sound, {0.0, 97.3, 1.0, -0.1}, 0.011);
     strikeGlass(sound, {0.047, 97.9, 0.3, 0.15}, 0.008);
-    sound.finish(peakInDecibels, 0.03);
+    sound.master(peakInDecibels, 0.03);
     return sound;
 }
 
@@ -31,8 +30,8 @@ SoundBuffer startSignal() {
     blowHorn(sound, {0.12, a5, 0.6, 0.3}, {0.7, 0.5});
     strikeGlass(sound, {0.12, d6, 0.5}, 0.14);
     strikeGlass(sound, {0.12, d7, 0.2}, 0.1);
-    sound.addEchoes(0.3);
-    sound.finish(peakInDecibels, 0.2);
+    sound.addReverb(0.3);
+    sound.master(peakInDecibels, 0.2);
     return sound;
 }
 
@@ -41,8 +40,8 @@ SoundBuffer timeUp() {
     blowHorn(sound, {0.0, a4, 0.8, -0.2}, {0.28, 0.5, -0.5, 0.0, 0.7});
     blowHorn(sound, {0.25, f4, 0.8, 0.2}, {0.28, 0.5, -0.5, 0.0, 0.7});
     blowHorn(sound, {0.50, d4, 0.9}, {0.9, 0.55, -3.0, 0.5, 0.8});
-    sound.addEchoes(0.25);
-    sound.finish(blownPeakInDecibels, 0.2);
+    sound.addReverb(0.25);
+    sound.master(blownPeakInDecibels, 0.2);
     return sound;
 }
 
@@ -56,7 +55,7 @@ SoundBuffer goalReached() {
     strikeGlass(sound, {0.42, a5, 0.5, 0.2}, 0.3);
     strikeGlass(sound, {0.42, d5, 0.5}, 0.3);
     strikeGlass(sound, {0.48, a6, 0.4, 0.3}, 0.25);
-    sound.addEchoes(0.3);
-    sound.finish(peakInDecibels, 0.3);
+    sound.addReverb(0.3);
+    sound.master(peakInDecibels, 0.3);
     return sound;
 }

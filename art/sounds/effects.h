@@ -1,12 +1,9 @@
-// The four effects of the game, each of which tells without a look what has happened.
-//
-// All are finished sounds: they begin and end at zero and are of matching loudness.
+// The four sound effects of the game, ready to be written. They are equally loud.
 #pragma once
 
 #include "art/sounds/sound_buffer.h"
 
-// A step in the menu, a typed letter: the tick of a glass marble. A tenth of a second, because it
-// follows the fingers.
+// A step in the menu, a typed letter: the tick of a glass marble, a tenth of a second.
 SoundBuffer menuTick();
 
 // The marble may roll: a leap upwards into a bright open chord.

@@ -1,52 +1,38 @@
-// Makes all sounds of the game: make_sounds FOLDER writes them into the folder.
-
-#include "art/sounds/arranger.h"
-#include "art/sounds/effects.h"
-#include "art/sounds/performer.h"
-#include "art/sounds/pieces.h"
-#include "art/sounds/wave_writer.h"
-
+// Makes the game's sounds: make_sounds GAME SCORES
+//
+// Reads the scores in the folder SCORES and writes GAME/sounds, replacing files. Exits with 0 when
+// every file was written.
 #include <filesystem>
 #include <iostream>
+#include <string>
+
+#include "art/sounds/effects.h"
+#include "art/sounds/midi_writer.h"
+#include "art/sounds/performance.h"
+#include "art/sounds/score.h"
 
 namespace {
 
-bool report(const std::filesystem::path& path, bool written) {
-    if (!written) std::cerr << "make_sounds: cannot write " << path.string() << '\n';
-    return written;
-}
+using std::filesystem::path;
 
-bool writeEffect(const std::filesystem::path& path, const SoundBuffer& sound) {
-    return report(path, writeWaveFile(path, sound));
-}
-
-bool writePiece(const std::filesystem::path& folder, const Piece& piece) {
-    Arrangement arrangement;
-    std::string error;
-    if (!arrange(piece, arrangement, error)) {
-        std::cerr << "make_sounds: " << error << '\n';
-        return false;
-    }
-    const std::filesystem::path path = folder / piece.fileName;
-    return report(path, writeMidiFile(path, perform(piece, arrangement), ticksPerQuarter,
-                                      lastTickOf(piece, arrangement)));
+bool writeMusic(const path& sounds, const path& scores, const std::string& name) {
+    const Score score = readScore(scores / (name + ".score"));
+    return writeMidiFile(sounds / (name + ".mid"), perform(score), lastTickOf(score));
 }
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    if (argumentCount != 2) {
-        std::cerr << "usage: make_sounds FOLDER\n";
+    if (argumentCount != 3) {
+        std::cerr << "usage: make_sounds GAME SCORES\n";
         return 2;
     }
-    const std::filesystem::path folder = arguments[1];
-    std::error_code ignored; // a folder that cannot be made shows when its files are written
-    std::filesystem::create_directories(folder, ignored);
-    const bool done = writeEffect(folder / "menu.wav", menuTick()) &&
-                      writeEffect(folder / "go.wav", startSignal()) &&
-                      writeEffect(folder / "timeup.wav", timeUp()) &&
-                      writeEffect(folder / "allright.wav", goalReached()) &&
-                      writePiece(folder, offTheLine()) && writePiece(folder, downhillRace()) &&
-                      writePiece(folder, glassGarden());
+    const path sounds = path(arguments[1]) / "sounds";
+    const path scores = arguments[2];
+    const bool done =
+        menuTick().writeWave(sounds / "menu.wav") && startSignal().writeWave(sounds / "go.wav") &&
+        timeUp().writeWave(sounds / "timeup.wav") &&
+        goalReached().writeWave(sounds / "allright.wav") && writeMusic(sounds, scores, "midi1") &&
+        writeMusic(sounds, scores, "drwho2") && writeMusic(sounds, scores, "midi3");
     return done ? 0 : 1;
 }

@@ -1,38 +1,39 @@
 #include "art/sounds/midi_writer.h"
 
-#include "art/sounds/file_bytes.h"
-
 #include <algorithm>
 #include <cmath>
+
+#include "art/common/byte_writer.h"
 
 namespace {
 
 // Order among the events of one tick.
-constexpr int noteEndRank = 0, settingRank = 1, noteRank = 2;
+constexpr int noteOffRank = 0;
+constexpr int metaRank = 1;
+constexpr int noteOnRank = 2;
+constexpr int endRank = 3;
 
-constexpr std::uint8_t tempoType = 0x51, timeSignatureType = 0x58, keySignatureType = 0x59;
-constexpr std::uint8_t endOfTrackType = 0x2f;
-
-char byteOf(int value) {
-    return static_cast<char>(value & 0xff);
+std::string byte(int value) {
+    return std::string(1, static_cast<char>(value));
 }
 
-// Seven bits a byte, the most significant first; all but the last have the top bit set.
+// Returns seven bits a byte, the most significant first; all but the last have the top bit set.
 std::string variableLength(std::uint32_t number) {
-    std::string bytes(1, byteOf(number & 0x7f));
-    while ((number >>= 7) != 0)
-        bytes.insert(bytes.begin(), byteOf(0x80 | (number & 0x7f)));
+    std::string bytes = byte(number & 0x7f);
+    while ((number >>= 7) != 0) {
+        bytes.insert(0, byte(0x80 | (number & 0x7f)));
+    }
     return bytes;
 }
 
-std::string metaEvent(std::uint8_t type, const std::string& data) {
-    return std::string{byteOf(0xff), byteOf(type)} +
-           variableLength(static_cast<std::uint32_t>(data.size())) + data;
+std::string metaEvent(int type, const std::string& data) {
+    return byte(0xff) + byte(type) + variableLength(static_cast<std::uint32_t>(data.size())) + data;
 }
 
 std::string trackBytes(const MidiTrack& track, int lastTick) {
+    constexpr int endOfTrack = 0x2f;
     std::vector<MidiTrack::Event> events = track.events;
-    events.push_back({lastTick, noteRank + 1, metaEvent(endOfTrackType, "")});
+    events.push_back({lastTick, endRank, metaEvent(endOfTrack, "")});
     std::stable_sort(events.begin(), events.end(), [](const auto& a, const auto& b) {
         return a.tick != b.tick ? a.tick < b.tick : a.rank < b.rank;
     });
@@ -48,56 +49,58 @@ std::string trackBytes(const MidiTrack& track, int lastTick) {
 } // namespace
 
 void MidiTrack::text(int tick, MidiText kind, const std::string& words) {
-    events.push_back({tick, settingRank, metaEvent(static_cast<std::uint8_t>(kind), words)});
+    events.push_back({tick, metaRank, metaEvent(static_cast<int>(kind), words)});
 }
 
 void MidiTrack::tempo(int tick, double quartersPerMinute) {
-    FileBytes data;
-    data.bigEndian(static_cast<std::uint32_t>(std::lround(60e6 / quartersPerMinute)), 3);
-    events.push_back({tick, settingRank, metaEvent(tempoType, data.bytes)});
+    const auto microsecondsPerQuarter =
+        static_cast<std::uint32_t>(std::lround(60e6 / quartersPerMinute));
+    ByteWriter data;
+    data.bigEndian(microsecondsPerQuarter, 3);
+    events.push_back({tick, metaRank, metaEvent(0x51, data.bytes)});
 }
 
-void MidiTrack::timeSignature(int beatsPerBar) {
-    constexpr int quarterAsPowerOfTwo = 2, clocksPerClick = 24, thirtySecondsPerQuarter = 8;
-    const std::string data{byteOf(beatsPerBar), byteOf(quarterAsPowerOfTwo), byteOf(clocksPerClick),
-                           byteOf(thirtySecondsPerQuarter)};
-    events.push_back({0, settingRank, metaEvent(timeSignatureType, data)});
+void MidiTrack::timeSignature(int quartersPerBar) {
+    constexpr int quarterAsPowerOfTwo = 2;
+    constexpr int clocksPerClick = 24;
+    constexpr int thirtySecondsPerQuarter = 8;
+    events.push_back({0, metaRank,
+                      metaEvent(0x58, byte(quartersPerBar) + byte(quarterAsPowerOfTwo) +
+                                          byte(clocksPerClick) + byte(thirtySecondsPerQuarter))});
 }
 
 void MidiTrack::keySignature(int sharps, bool minor) {
-    const std::string data{byteOf(sharps), byteOf(minor ? 1 : 0)};
-    events.push_back({0, settingRank, metaEvent(keySignatureType, data)});
+    events.push_back({0, metaRank, metaEvent(0x59, byte(sharps) + byte(minor ? 1 : 0))});
 }
 
-void MidiTrack::program(int channel, int number) {
-    events.push_back({0, settingRank, {byteOf(0xc0 | channel), byteOf(number)}});
+void MidiTrack::programChange(int channel, int program) {
+    events.push_back({0, metaRank, byte(0xc0 | channel) + byte(program)});
 }
 
-void MidiTrack::control(int channel, int controller, int value) {
-    events.push_back({0, settingRank, {byteOf(0xb0 | channel), byteOf(controller), byteOf(value)}});
+void MidiTrack::controlChange(int channel, int controller, int value) {
+    events.push_back({0, metaRank, byte(0xb0 | channel) + byte(controller) + byte(value)});
 }
 
 void MidiTrack::note(int channel, int pitch, int velocity, int start, int end) {
     constexpr int releaseVelocity = 64;
-    events.push_back({start, noteRank, {byteOf(0x90 | channel), byteOf(pitch), byteOf(velocity)}});
+    events.push_back({start, noteOnRank, byte(0x90 | channel) + byte(pitch) + byte(velocity)});
     events.push_back(
-        {end, noteEndRank, {byteOf(0x80 | channel), byteOf(pitch), byteOf(releaseVelocity)}});
+        {end, noteOffRank, byte(0x80 | channel) + byte(pitch) + byte(releaseVelocity)});
 }
 
-bool writeMidiFile(const std::filesystem::path& path, const std::vector<MidiTrack>& tracks,
-                   int ticksInQuarter, int lastTick) {
-    constexpr std::uint32_t simultaneousTracks = 1;
-    FileBytes file;
-    file.text("MThd");
-    file.bigEndian(6, 4);
-    file.bigEndian(simultaneousTracks, 2);
-    file.bigEndian(static_cast<std::uint32_t>(tracks.size()), 2);
-    file.bigEndian(static_cast<std::uint32_t>(ticksInQuarter), 2);
+bool writeMidiFile(const std::filesystem::path& file, const std::vector<MidiTrack>& tracks,
+                   int lastTick) {
+    ByteWriter out;
+    out.text("MThd");
+    out.bigEndian(6, 4);
+    out.bigEndian(1, 2); // the tracks are played together
+    out.bigEndian(static_cast<std::uint32_t>(tracks.size()), 2);
+    out.bigEndian(ticksPerQuarter, 2);
     for (const MidiTrack& track : tracks) {
         const std::string bytes = trackBytes(track, lastTick);
-        file.text("MTrk");
-        file.bigEndian(static_cast<std::uint32_t>(bytes.size()), 4);
-        file.text(bytes);
+        out.text("MTrk");
+        out.bigEndian(static_cast<std::uint32_t>(bytes.size()), 4);
+        out.text(bytes);
     }
-    return file.writeTo(path);
+    return out.writeTo(file);
 }

@@ -1,7 +1,7 @@
-// Writes a Standard MIDI File of format 1.
+// Standard MIDI Files of format 1.
 //
-// Fill one MidiTrack for each player and one, the first, for tempo, metre and names; then hand
-// them to writeMidiFile. Events may be added in any order of time.
+// The first track is for tempo, metre and names, each of the others for one part. Events may be
+// added in any order.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-// Texts that a track can carry.
+inline constexpr int ticksPerQuarter = 480;
+
 enum class MidiText : std::uint8_t {
     Copyright = 2,
     TrackName = 3, // of the first track: the title of the piece
@@ -19,13 +20,13 @@ enum class MidiText : std::uint8_t {
 struct MidiTrack {
     void text(int tick, MidiText kind, const std::string& words);
     void tempo(int tick, double quartersPerMinute);
-    void timeSignature(int beatsPerBar);
+    void timeSignature(int quartersPerBar);
     void keySignature(int sharps, bool minor);
-    void program(int channel, int number);
-    void control(int channel, int controller, int value);
+    void programChange(int channel, int program);
+    void controlChange(int channel, int controller, int value);
 
-    // A note with its end. Where one note ends and another begins at the same tick, the end is
-    // written first, so that a repeated note is heard.
+    // A note and its end. Where one note ends and another begins at the same tick, the end comes
+    // first, so that a repeated note is heard.
     void note(int channel, int pitch, int velocity, int start, int end);
 
     struct Event {
@@ -36,7 +37,7 @@ struct MidiTrack {
     std::vector<Event> events;
 };
 
-// Every track ends at the last tick, which is the end of the piece. False when the file cannot be
-// written.
-bool writeMidiFile(const std::filesystem::path& path, const std::vector<MidiTrack>& tracks,
-                   int ticksInQuarter, int lastTick);
+// Replaces the file; every track ends at `lastTick`. Returns false, after a message, when it cannot
+// be written.
+bool writeMidiFile(const std::filesystem::path& file, const std::vector<MidiTrack>& tracks,
+                   int lastTick);

@@ -1,29 +1,28 @@
 #include "art/sounds/sound_buffer.h"
 
-#include "art/sounds/exact_math.h"
-
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+
+#include "art/common/byte_writer.h"
+#include "art/common/portable_math.h"
 
 namespace {
 
 struct Echo {
     double delay; // seconds
-    double level; // share of the wetness
+    double level; // of the wetness
     bool crossed; // heard on the other side
 };
 
-// Delays without a common measure, so that the echoes do not add up to a tone of their own.
+// Delays without a common divisor, so that the echoes do not add up to a tone.
 constexpr Echo room[] = {
     {0.0191, 1.00, true}, {0.0313, 0.83, false}, {0.0437, 0.71, true}, {0.0599, 0.58, false},
     {0.0787, 0.47, true}, {0.1031, 0.36, false}, {0.1327, 0.27, true}, {0.1693, 0.19, false},
 };
 
-// Cuts what lies below the range of a small loudspeaker, and with it every constant part: a
-// first-order high pass at about 30 Hz.
-void removeOffset(std::vector<double>& samples) {
-    constexpr double keep = 1.0 - 2.0 * std::numbers::pi * 30.0 / samplesPerSecond;
+// A first-order high pass at 30 Hz, which also removes the offset.
+void highPass(std::vector<double>& samples) {
+    constexpr double keep = 1.0 - 2.0 * pi * 30.0 / sampleRate;
     double before = 0.0;
     double out = 0.0;
     for (double& sample : samples) {
@@ -33,42 +32,41 @@ void removeOffset(std::vector<double>& samples) {
     }
 }
 
-// Ramps shaped like half a cosine: no corner at either end.
-void fadeEdges(std::vector<double>& samples, double fadeOutSeconds) {
+// Fades both ends along half a cosine.
+void fadeEnds(std::vector<double>& samples, double fadeOutSeconds) {
     constexpr double fadeInSeconds = 0.001;
-    const auto count = static_cast<double>(samples.size() - 1);
+    const auto last = static_cast<double>(samples.size() - 1);
     for (std::size_t i = 0; i < samples.size(); ++i) {
         const auto place = static_cast<double>(i);
-        const double in = std::min(1.0, place / (fadeInSeconds * samplesPerSecond));
-        const double out = std::min(1.0, (count - place) / (fadeOutSeconds * samplesPerSecond));
-        const double gain = std::min(in, out);
+        const double in = place / (fadeInSeconds * sampleRate);
+        const double out = (last - place) / (fadeOutSeconds * sampleRate);
+        const double gain = std::min({1.0, in, out});
         samples[i] *= 0.5 - 0.5 * sineOfTurns(0.25 + 0.5 * gain);
     }
 }
 
-double highestOf(const std::vector<double>& samples) {
-    double highest = 0.0;
-    for (const double sample : samples)
-        highest = std::max(highest, std::abs(sample));
-    return highest;
+std::uint32_t toInt16(double sample) {
+    const double scaled = std::floor(std::clamp(sample, -1.0, 1.0) * 32767.0 + 0.5);
+    return static_cast<std::uint32_t>(static_cast<int>(scaled));
 }
 
 } // namespace
 
 SoundBuffer::SoundBuffer(double seconds)
-    : left(static_cast<std::size_t>(seconds * samplesPerSecond)), right(left.size()) {}
+    : left(static_cast<std::size_t>(seconds * sampleRate)), right(left.size()) {}
 
 void SoundBuffer::add(std::size_t place, double sample, double pan) {
-    if (place >= left.size()) return;
-    left[place] += sample * std::sqrt(0.5 - 0.5 * pan);
-    right[place] += sample * std::sqrt(0.5 + 0.5 * pan);
+    if (place < left.size()) {
+        left[place] += sample * std::sqrt(0.5 - 0.5 * pan);
+        right[place] += sample * std::sqrt(0.5 + 0.5 * pan);
+    }
 }
 
-void SoundBuffer::addEchoes(double wetness) {
+void SoundBuffer::addReverb(double wetness) {
     const std::vector<double> dryLeft = left;
     const std::vector<double> dryRight = right;
     for (const Echo& echo : room) {
-        const auto delay = static_cast<std::size_t>(echo.delay * samplesPerSecond);
+        const auto delay = static_cast<std::size_t>(echo.delay * sampleRate);
         for (std::size_t i = delay; i < left.size(); ++i) {
             left[i] += wetness * echo.level * (echo.crossed ? dryRight : dryLeft)[i - delay];
             right[i] += wetness * echo.level * (echo.crossed ? dryLeft : dryRight)[i - delay];
@@ -76,15 +74,45 @@ void SoundBuffer::addEchoes(double wetness) {
     }
 }
 
-void SoundBuffer::finish(double peakInDecibels, double fadeOutSeconds) {
-    for (std::vector<double>* side : {&left, &right}) {
-        removeOffset(*side);
-        fadeEdges(*side, fadeOutSeconds);
-    }
+void SoundBuffer::master(double peakInDecibels, double fadeOutSeconds) {
     constexpr double decibelsPerDoubling = 6.020599913;
-    const double peak = powerOfTwo(peakInDecibels / decibelsPerDoubling);
-    const double gain = peak / std::max(highestOf(left), highestOf(right));
-    for (std::vector<double>* side : {&left, &right})
-        for (double& sample : *side)
+    double highest = 0.0;
+    for (std::vector<double>* side : {&left, &right}) {
+        highPass(*side);
+        fadeEnds(*side, fadeOutSeconds);
+        for (const double sample : *side) {
+            highest = std::max(highest, std::abs(sample));
+        }
+    }
+    const double gain = powerOfTwo(peakInDecibels / decibelsPerDoubling) / highest;
+    for (std::vector<double>* side : {&left, &right}) {
+        for (double& sample : *side) {
             sample *= gain;
+        }
+    }
+}
+
+bool SoundBuffer::writeWave(const std::filesystem::path& file) const {
+    constexpr std::uint32_t channels = 2;
+    constexpr std::uint32_t frameBytes = channels * 2;
+    constexpr auto rate = static_cast<std::uint32_t>(sampleRate);
+    const auto dataBytes = static_cast<std::uint32_t>(left.size()) * frameBytes;
+    ByteWriter out;
+    out.text("RIFF");
+    out.littleEndian(36 + dataBytes, 4);
+    out.text("WAVEfmt ");
+    out.littleEndian(16, 4); // bytes of the format
+    out.littleEndian(1, 2);  // uncompressed
+    out.littleEndian(channels, 2);
+    out.littleEndian(rate, 4);
+    out.littleEndian(rate * frameBytes, 4);
+    out.littleEndian(frameBytes, 2);
+    out.littleEndian(16, 2); // bits of a sample
+    out.text("data");
+    out.littleEndian(dataBytes, 4);
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        out.littleEndian(toInt16(left[i]), 2);
+        out.littleEndian(toInt16(right[i]), 2);
+    }
+    return out.writeTo(file);
 }

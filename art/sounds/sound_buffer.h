@@ -1,12 +1,12 @@
-// A stereo sound of fixed length while it is being made, and what is done to a sound as a whole.
+// A stereo sound of fixed length, and what is done to it as a whole.
 //
-// Order of use: make a SoundBuffer, add tones to it (tones.h), give it a room with addEchoes, and
-// end with finish, which takes care of level, offset and edges.
+// Make a SoundBuffer, add tones to it (tones.h), add reverb, master it, write it to a file.
 #pragma once
 
+#include <filesystem>
 #include <vector>
 
-constexpr double samplesPerSecond = 44100.0;
+inline constexpr double sampleRate = 44100.0; // Hz
 
 struct SoundBuffer {
     std::vector<double> left;
@@ -15,15 +15,17 @@ struct SoundBuffer {
     // A silent sound of that many seconds.
     explicit SoundBuffer(double seconds);
 
-    // Adds one sample at a place, spread by pan: -1.0 is left, 0.0 the middle, 1.0 right. Places
-    // beyond the end are dropped.
+    // Adds a sample at a place; pan is -1.0 left .. 1.0 right. Samples beyond the end are dropped.
     void add(std::size_t place, double sample, double pan);
 
-    // A small bright room: a handful of echoes that cross between the sides. Wetness 0.0 .. 1.0 is
-    // the level of the first one.
-    void addEchoes(double wetness);
+    // Adds the reverb of a small bright room; wetness 0.0 .. 1.0 is the level of the first echo.
+    void addReverb(double wetness);
 
-    // Takes the constant part out, fades both edges to zero so that nothing clicks, and brings the
-    // highest sample to the peak, given in dB below full scale (a negative number).
-    void finish(double peakInDecibels, double fadeOutSeconds);
+    // Removes the offset, fades both ends, and normalizes to the peak, in dB below full scale (a
+    // negative number).
+    void master(double peakInDecibels, double fadeOutSeconds);
+
+    // Replaces a WAVE file: 16 bits, stereo, uncompressed. Returns false, after a message, when it
+    // cannot be written.
+    bool writeWave(const std::filesystem::path& file) const;
 };

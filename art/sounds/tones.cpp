@@ -1,35 +1,51 @@
 #include "art/sounds/tones.h"
 
-#include "art/sounds/envelope.h"
-#include "art/sounds/exact_math.h"
+#include "art/common/portable_math.h"
+#include "art/common/random.h"
 
 namespace {
 
 struct Partial {
-    double ratio; // of the lowest partial's frequency
-    double level;
-    double life; // share of the lowest partial's ring
+    double ratio;    // of the lowest partial's frequency
+    double level;    // of the lowest partial's
+    double halfLife; // of the lowest partial's
 };
 
-// Between a small glass bowl and a bar: the second and third lie near an octave and a twelfth, so
-// that a struck chord still sounds in tune.
+// Between a small glass bowl and a bar: the second and third are close to an octave and a twelfth,
+// so that a struck chord is still in tune.
 constexpr Partial glass[] = {
     {1.0, 1.0, 1.0},   {2.003, 0.55, 0.62}, {3.011, 0.28, 0.40},
     {5.41, 0.17, 0.2}, {8.93, 0.09, 0.09},
 };
 
-constexpr int hornOvertones = 8;
-constexpr double vibratoPerSecond = 5.5;
-
 std::size_t placeOf(double seconds) {
-    return static_cast<std::size_t>(seconds * samplesPerSecond);
+    return static_cast<std::size_t>(seconds * sampleRate);
 }
 
-// One sample of the horn's wave at a phase in turns: overtones that weaken evenly.
+double timeOf(std::size_t place) {
+    return static_cast<double>(place) / sampleRate;
+}
+
+// Returns the frequency of a MIDI pitch in equal temperament, in Hz.
+double frequencyOf(double pitch) {
+    return 440.0 * powerOfTwo((pitch - 69.0) / 12.0);
+}
+
+// Rises from 0 to 1 along half a cosine while x does.
+double halfCosine(double x) {
+    return 0.5 - 0.5 * sineOfTurns(0.25 + 0.5 * clamp01(x));
+}
+
+// An envelope that rises in `attack` seconds and falls by half every `halfLife`.
+double decay(double time, double attack, double halfLife) {
+    return halfCosine(time / attack) * powerOfTwo(-time / halfLife);
+}
+
 double hornWave(double phase, double brightness) {
+    constexpr int overtones = 8;
     double sum = 0.0;
     double level = 1.0;
-    for (int n = 1; n <= hornOvertones; ++n) {
+    for (int n = 1; n <= overtones; ++n) {
         sum += level * sineOfTurns(n * phase);
         level *= brightness;
     }
@@ -38,46 +54,44 @@ double hornWave(double phase, double brightness) {
 
 } // namespace
 
-void strikeGlass(SoundBuffer& sound, const Cue& cue, double ring) {
+void strikeGlass(SoundBuffer& sound, const Cue& cue, double halfLife) {
     constexpr double attack = 0.0015;
-    constexpr double nyquist = samplesPerSecond / 2.0;
+    constexpr double highest = 0.45 * sampleRate; // just below the Nyquist frequency
     const std::size_t start = placeOf(cue.start);
     for (const Partial& partial : glass) {
         const double frequency = frequencyOf(cue.pitch) * partial.ratio;
-        if (frequency > 0.9 * nyquist) continue;
-        const Decay decay{attack, ring * partial.life};
-        for (std::size_t i = start; i < sound.left.size(); ++i) {
-            const double time = static_cast<double>(i - start) / samplesPerSecond;
+        for (std::size_t i = start; i < sound.left.size() && frequency <= highest; ++i) {
+            const double time = timeOf(i - start);
+            const double envelope = decay(time, attack, halfLife * partial.halfLife);
             const double wave = sineOfTurns(frequency * time);
-            sound.add(i, cue.level * partial.level * decay.at(time) * wave, cue.pan);
+            sound.add(i, cue.level * partial.level * envelope * wave, cue.pan);
         }
     }
 }
 
 void knock(SoundBuffer& sound, double start, double level) {
     constexpr double length = 0.03;
-    constexpr double dullness = 0.55;
-    const Decay decay{0.0004, 0.0018};
-    Dice dice{7};
-    double smoothed = 0.0;
+    constexpr double smoothing = 0.55; // of the low pass
+    Random random{7};
+    double noise = 0.0;
     for (std::size_t i = 0; i < placeOf(length); ++i) {
-        smoothed += (1.0 - dullness) * (dice.next() - smoothed);
-        const double time = static_cast<double>(i) / samplesPerSecond;
-        sound.add(placeOf(start) + i, level * decay.at(time) * smoothed, 0.0);
+        noise += (1.0 - smoothing) * (random.next() - noise);
+        sound.add(placeOf(start) + i, level * decay(timeOf(i), 0.0004, 0.0018) * noise, 0.0);
     }
 }
 
 void blowHorn(SoundBuffer& sound, const Cue& cue, const HornShape& shape) {
-    const Swell swell{0.02, shape.length * shape.fall, shape.length};
-    const std::size_t start = placeOf(cue.start);
+    constexpr double rise = 0.02;
+    constexpr double vibratoFrequency = 5.5; // Hz
     double phase = 0.0;
     for (std::size_t i = 0; i < placeOf(shape.length); ++i) {
-        const double time = static_cast<double>(i) / samplesPerSecond;
+        const double time = timeOf(i);
         const double share = time / shape.length;
-        const double wobble = shape.vibrato * share * sineOfTurns(vibratoPerSecond * time);
-        const double loudness = swell.at(time);
+        const double loudness = halfCosine(time / rise) *
+                                halfCosine((shape.length - time) / (shape.length * shape.fall));
         const double wave = hornWave(phase, shape.brightness * (0.6 + 0.4 * loudness));
-        sound.add(start + i, cue.level * loudness * wave, cue.pan);
-        phase += frequencyOf(cue.pitch + shape.bend * share * share + wobble) / samplesPerSecond;
+        sound.add(placeOf(cue.start) + i, cue.level * loudness * wave, cue.pan);
+        const double vibrato = shape.vibrato * share * sineOfTurns(vibratoFrequency * time);
+        phase += frequencyOf(cue.pitch + shape.bend * share * share + vibrato) / sampleRate;
     }
 }

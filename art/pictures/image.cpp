@@ -1,0 +1,103 @@
+#include "art/pictures/image.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "art/common/portable_math.h"
+
+namespace {
+
+double srgbToLinear(double value) {
+    return value <= 0.04045 ? value / 12.92 : power((value + 0.055) / 1.055, 2.4);
+}
+
+std::array<float, 256> linearOfBytes() {
+    std::array<float, 256> light{};
+    for (std::size_t i = 0; i < light.size(); ++i) {
+        light[i] = static_cast<float>(srgbToLinear(static_cast<double>(i) / 255.0));
+    }
+    return light;
+}
+
+std::uint8_t toSrgb8(float light) {
+    return static_cast<std::uint8_t>(linearToSrgb(clamp01(light)) * 255.0 + 0.5);
+}
+
+// Returns the byte that the given number of bits holds nearest to a value 0..1.
+int nearestByte(double value, int bits) {
+    const int highest = (1 << bits) - 1;
+    const int level = std::clamp(static_cast<int>(std::floor(value * highest + 0.5)), 0, highest);
+    return (level << (8 - bits)) | (level >> (2 * bits - 8));
+}
+
+// Rounds the sRGB values of one channel of the image and spreads the errors.
+void ditherChannel(Raster<double>& values, int bits, std::size_t channel, Image8& result) {
+    const auto add = [&values](int x, int y, double error) {
+        if (x >= 0 && x < values.width && y < values.height) {
+            values.at(x, y) += error;
+        }
+    };
+    for (int y = 0; y < values.height; ++y) {
+        const int forward = y % 2 == 0 ? 1 : -1;
+        for (int i = 0; i < values.width; ++i) {
+            const int x = forward > 0 ? i : values.width - 1 - i;
+            const int byte = nearestByte(values.at(x, y), bits);
+            const double error = values.at(x, y) - byte / 255.0;
+            result.at(x, y)[channel] = static_cast<std::uint8_t>(byte);
+            add(x + forward, y, error * 7.0 / 16.0);
+            add(x - forward, y + 1, error * 3.0 / 16.0);
+            add(x, y + 1, error * 5.0 / 16.0);
+            add(x + forward, y + 1, error * 1.0 / 16.0);
+        }
+    }
+}
+
+} // namespace
+
+Colour operator+(const Colour& a, const Colour& b) {
+    return {a.red + b.red, a.green + b.green, a.blue + b.blue};
+}
+
+Colour operator*(const Colour& a, const Colour& b) {
+    return {a.red * b.red, a.green * b.green, a.blue * b.blue};
+}
+
+Colour operator*(const Colour& a, double share) {
+    const auto s = static_cast<float>(share);
+    return {a.red * s, a.green * s, a.blue * s};
+}
+
+Colour lerp(const Colour& a, const Colour& b, double share) {
+    return a * (1.0 - share) + b * share;
+}
+
+Colour srgb(std::uint32_t code) {
+    static const std::array<float, 256> light = linearOfBytes();
+    return {light[(code >> 16) & 255U], light[(code >> 8) & 255U], light[code & 255U]};
+}
+
+double linearToSrgb(double light) {
+    return light <= 0.0031308 ? 12.92 * light : 1.055 * power(light, 1.0 / 2.4) - 0.055;
+}
+
+Image8 toSrgb8(const Image& image) {
+    Image8 result(image.width, image.height);
+    std::transform(image.pixels.begin(), image.pixels.end(), result.pixels.begin(),
+                   [](const Colour& c) {
+                       return Rgb8{toSrgb8(c.red), toSrgb8(c.green), toSrgb8(c.blue)};
+                   });
+    return result;
+}
+
+Image8 ditherTo565(const Image& image) {
+    constexpr float Colour::*channels[] = {&Colour::red, &Colour::green, &Colour::blue};
+    constexpr int bits[] = {5, 6, 5};
+    Image8 result(image.width, image.height);
+    for (std::size_t c = 0; c < 3; ++c) {
+        Raster<double> values(image.width, image.height);
+        std::transform(image.pixels.begin(), image.pixels.end(), values.pixels.begin(),
+                       [&](const Colour& p) { return linearToSrgb(clamp01(p.*channels[c])); });
+        ditherChannel(values, bits[c], c, result);
+    }
+    return result;
+}

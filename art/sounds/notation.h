@@ -1,0 +1,41 @@
+// Reads melodies, chord symbols and rhythms, each from a text. All are counted in ticks from the
+// beginning of a section. Mistakes end the program (refuse in score.h).
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct WrittenNote {
+    int start;
+    int length;
+    int pitch;
+};
+
+// A chord without octaves: pitch classes 0 (c) .. 11.
+struct Chord {
+    int start;
+    int length;
+    int bass;
+    std::vector<int> tones; // root first, then the third (or what replaces it) and so on
+};
+
+// A step of a rhythm that is played; the length includes the steps that hold it.
+struct Hit {
+    int start;
+    int length;
+    char sign;
+};
+
+// Reads a melody: pitches like c4 (middle c) or f#5, and r for a rest. A length such as :4 :8. :8t
+// (a quarter, a dotted eighth, a triplet eighth) holds until the next one. After the length: ~ ties
+// to the next note, ' is short. | ends a bar, which must be full.
+std::vector<WrittenNote> readMelody(const std::string& text, int barCount, int ticksPerBar);
+
+// Reads chord symbols: "D | G/A | Em7 A7 | Bm . . A". The chords of a bar share it evenly; '.'
+// repeats the one before. The bass follows '/' where it is not the root.
+std::vector<Chord> readChords(const std::string& text, int ticksPerBar, int transpose);
+
+// Reads a rhythm: each bar has as many steps as signs. '.' is silence, '-' holds the sign before.
+// Bars are separated by '|'; "*3" after a bar plays it three times. A rhythm repeats until it fills
+// that many bars.
+std::vector<Hit> readRhythm(const std::string& text, int barCount, int ticksPerBar);

@@ -1,0 +1,106 @@
+#include "art/sounds/performance.h"
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+
+#include "art/common/random.h"
+
+namespace {
+
+constexpr int eighth = ticksPerQuarter / 2;
+
+MidiTrack conductorTrack(const Score& score) {
+    MidiTrack track;
+    track.text(0, MidiText::TrackName, score.title);
+    track.text(0, MidiText::Copyright, "Glorbix, zlib licence");
+    track.timeSignature(score.quartersPerBar);
+    track.keySignature(score.sharps, score.minor);
+    const std::vector<MidiTrack::Event>& changes = score.conductor.events;
+    track.events.insert(track.events.end(), changes.begin(), changes.end());
+    return track;
+}
+
+void setUpChannel(const Part& part, MidiTrack& track) {
+    constexpr int volume = 7;
+    constexpr int pan = 10;
+    constexpr int expression = 11;
+    constexpr int reverb = 91;
+    constexpr int chorus = 93;
+    track.text(0, MidiText::TrackName, part.name);
+    track.programChange(part.channel, part.program);
+    track.controlChange(part.channel, volume, part.volume);
+    track.controlChange(part.channel, pan, part.pan);
+    track.controlChange(part.channel, expression, 127);
+    track.controlChange(part.channel, reverb, part.reverb);
+    track.controlChange(part.channel, chorus, 0);
+}
+
+// Moves the second eighth of a quarter to its swung place and stretches the first to match.
+int swingTick(int tick, double swing) {
+    const int within = tick % ticksPerQuarter;
+    const double share = within < eighth ? within * swing / eighth
+                                         : swing + (within - eighth) * (1.0 - swing) / eighth;
+    return tick - within + static_cast<int>(std::lround(share * ticksPerQuarter));
+}
+
+// Returns what the place in the bar adds to a note's velocity.
+int metricAccent(int tick, int ticksPerBar) {
+    if (tick % ticksPerBar == 0) {
+        return 5;
+    }
+    if (tick % ticksPerQuarter == 0) {
+        return 1;
+    }
+    return tick % eighth == 0 ? -3 : -6;
+}
+
+int velocityOf(const ScoreNote& note, int ticksPerBar, Random& random) {
+    constexpr double unevenness = 4.0;
+    const int velocity = note.velocity + metricAccent(note.start, ticksPerBar) +
+                         static_cast<int>(unevenness * random.next());
+    return std::clamp(velocity, 1, 127);
+}
+
+int nextStartOf(const std::vector<ScoreNote>& notes, std::size_t index) {
+    for (std::size_t i = index + 1; i < notes.size(); ++i) {
+        if (notes[i].pitch == notes[index].pitch) {
+            return notes[i].start;
+        }
+    }
+    return INT_MAX;
+}
+
+MidiTrack performPart(const Score& score, const Part& part) {
+    MidiTrack track;
+    setUpChannel(part, track);
+    std::vector<ScoreNote> notes = part.notes;
+    std::stable_sort(notes.begin(), notes.end(),
+                     [](const ScoreNote& a, const ScoreNote& b) { return a.start < b.start; });
+    Random random{static_cast<std::uint32_t>(part.channel + 1)};
+    for (std::size_t i = 0; i < notes.size(); ++i) {
+        const ScoreNote& note = notes[i];
+        const int sounding = std::max(1, static_cast<int>(note.length * part.gate));
+        const int start = note.start + note.delay;
+        const int end = std::min(note.start + sounding, nextStartOf(notes, i));
+        if (end > start) {
+            track.note(part.channel, note.pitch, velocityOf(note, score.ticksPerBar(), random),
+                       swingTick(start, score.swing), swingTick(end, score.swing));
+        }
+    }
+    return track;
+}
+
+} // namespace
+
+std::vector<MidiTrack> perform(const Score& score) {
+    std::vector<MidiTrack> tracks{conductorTrack(score)};
+    for (const Part& part : score.parts) {
+        tracks.push_back(performPart(score, part));
+    }
+    return tracks;
+}
+
+int lastTickOf(const Score& score) {
+    return score.length + static_cast<int>(score.ring * score.tempo / 60.0 * ticksPerQuarter);
+}
