@@ -47,11 +47,6 @@ RibbonSample sampleRibbons(double u, double v, double w) {
     return {1.0 - smoothstep(0.2 * thickness, thickness, aside), index};
 }
 
-Vector3 anyPerpendicular(const Vector3& axis) {
-    const Vector3 helper = std::fabs(axis.z) < 0.9F ? Vector3(0, 0, 1) : Vector3(1, 0, 0);
-    return cross(axis, helper).unit();
-}
-
 // Adds the ribbons between `point` and the end of the path. Returns the share of light that they
 // let through.
 double marchThroughRibbons(const GlassMarble& marble, const Vector3& point,
@@ -59,7 +54,7 @@ double marchThroughRibbons(const GlassMarble& marble, const Vector3& point,
     constexpr int steps = 128;
     constexpr double extinction = 60.0; // of a ribbon, for each radius of way
     const Colour white = srgb(0xfff4e0);
-    const Vector3 across = anyPerpendicular(marble.axis);
+    const Vector3 across = cross(marble.axis, Vector3(0, 0, 1)).unit();
     const Vector3 third = cross(marble.axis, across);
     const double step = length / steps / marble.radius;
     double transmittance = 1.0;

@@ -16,7 +16,7 @@ struct GlassPath {
 struct GlassMarble {
     Vector3 centre;
     double radius;
-    Vector3 axis;  // a unit vector that the ribbons wind about
+    Vector3 axis;  // a unit vector, not vertical, that the ribbons wind about
     Colour ribbon; // of every other ribbon; the rest are white
 
     // Returns the distance along the ray at which it enters the marble, or -1.

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <vector>
 
 // Linear light: 0 is black, 1 is the brightest that the display shows. May exceed 1 while an image
@@ -55,3 +56,9 @@ Image8 toSrgb8(const Image& image);
 // Returns the image in sRGB bytes that a display of 5-6-5 bits shows exactly, so that it has no
 // bands: error diffusion by Floyd and Steinberg, every other row from right to left.
 Image8 ditherTo565(const Image& image);
+
+// Replaces a bitmap file as the game reads them: 24 bits, uncompressed, headers of 54 bytes, bottom
+// row first. Rows are never padded: where a width is not a multiple of 4, at the end of a mip chain,
+// the padding follows after the last row, so that the file has the size that its header gives.
+// Returns false, after a message, when the file cannot be written.
+bool writeBitmap(const Image8& image, const std::filesystem::path& file);

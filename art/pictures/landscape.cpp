@@ -25,7 +25,7 @@ struct SplineWeights {
 
 } // namespace
 
-Landscape::Landscape(std::span<const Hole> holes) : highest(-1e9) {
+Landscape::Landscape(std::span<const Hole> holes) : heights(columns, rows), highest(-1e9) {
     const auto ground = std::make_unique<Level>();
     ground->holeCount = static_cast<std::int32_t>(holes.size());
     ground->holes = std::make_unique<Hole[]>(holes.size());
@@ -34,16 +34,10 @@ Landscape::Landscape(std::span<const Hole> holes) : highest(-1e9) {
         for (int column = 0; column < columns; ++column) {
             const auto x = static_cast<float>(firstX + column * spacing);
             const auto y = static_cast<float>(firstY + row * spacing);
-            heights.push_back(-static_cast<double>(ground->heightAt(x, y)));
-            highest = std::max(highest, heights.back());
+            heights.at(column, row) = -static_cast<double>(ground->heightAt(x, y));
+            highest = std::max(highest, heights.at(column, row));
         }
     }
-}
-
-double Landscape::latticeHeight(int column, int row) const {
-    const int c = std::clamp(column, 0, columns - 1);
-    const int r = std::clamp(row, 0, rows - 1);
-    return heights[static_cast<std::size_t>(r * columns + c)];
 }
 
 double Landscape::heightAt(double x, double y) const {
@@ -56,8 +50,9 @@ double Landscape::heightAt(double x, double y) const {
     double sum = 0.0;
     for (int j = 0; j < 3; ++j) {
         for (int i = 0; i < 3; ++i) {
-            sum += across.w[i] * ahead.w[j] *
-                   latticeHeight(static_cast<int>(column) + i - 1, static_cast<int>(row) + j - 1);
+            const int c = std::clamp(static_cast<int>(column) + i - 1, 0, columns - 1);
+            const int r = std::clamp(static_cast<int>(row) + j - 1, 0, rows - 1);
+            sum += across.w[i] * ahead.w[j] * heights.at(c, r);
         }
     }
     return sum;

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <span>
-#include <vector>
 
+#include "art/pictures/image.h"
 #include "art/pictures/ray.h"
 #include "sim/level.h"
 
@@ -28,8 +28,6 @@ struct Landscape {
     double sunlightAt(const Vector3& point) const;
 
 private:
-    double latticeHeight(int column, int row) const;
-
-    std::vector<double> heights;
+    Raster<double> heights;
     double highest;
 };

@@ -11,9 +11,9 @@
 
 #include "art/common/byte_writer.h"
 #include "art/common/portable_math.h"
-#include "art/pictures/bitmap_writer.h"
 #include "art/pictures/font_sheet.h"
 #include "art/pictures/ground_textures.h"
+#include "art/pictures/image.h"
 #include "art/pictures/paintings.h"
 #include "data/font.h"
 #include "tools/png/png_writer.h"

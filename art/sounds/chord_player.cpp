@@ -62,56 +62,75 @@ std::vector<int> voice(const Chord& chord, const std::vector<int>& previous, int
     return best;
 }
 
+// Plays hits in order of time, with the voicing of the chord before in mind.
+struct ChordPlayer {
+    const std::vector<Chord>& chords;
+    int lowest;
+    int highest;
+    std::vector<int> voicing = {};
+    std::size_t voicedChord = static_cast<std::size_t>(-1);
+
+    // Goes through every chord on the way, so that the voices move on where the part is silent.
+    void leadVoicesTo(std::size_t chord) {
+        while (voicedChord != chord) {
+            ++voicedChord;
+            voicing = voice(chords[voicedChord], voicing, lowest, highest);
+        }
+    }
+
+    int bassPitch(char sign, std::size_t chord) const {
+        const std::vector<int>& tones = chords[chord].tones;
+        const Chord& next = chords[std::min(chord + 1, chords.size() - 1)];
+        const int bass = pitchAbove(lowest, chords[chord].bass);
+        switch (sign) {
+        case 'R': return bass;
+        case '8': return bass + 12;
+        case '3': return pitchAbove(bass, tones[1]);
+        case '5': return pitchAbove(bass, tones[2]);
+        case '7': return pitchAbove(bass, tones.back());
+        case 'n': return pitchAbove(lowest, next.bass) - 1;
+        default: refuse(std::string("no such sign: ") + sign);
+        }
+    }
+
+    std::vector<int> pitchesOf(char sign, std::size_t chord) {
+        leadVoicesTo(chord);
+        if (sign == 'x' || sign == 'X') {
+            return voicing;
+        }
+        const int index = std::tolower(static_cast<unsigned char>(sign)) - 'a';
+        if (index >= 0 && index <= 4) {
+            const auto i = static_cast<std::size_t>(index);
+            return {voicing[i % voicing.size()] + 12 * static_cast<int>(i / voicing.size())};
+        }
+        return {bassPitch(sign, chord)};
+    }
+
+    std::vector<WrittenNote> play(const Hit& hit) {
+        std::vector<WrittenNote> notes;
+        const bool wholeChord = hit.sign == 'x' || hit.sign == 'X';
+        for (std::size_t i = 0; i < chords.size(); ++i) {
+            const int start = std::max(hit.start, chords[i].start);
+            const int end = std::min(hit.start + hit.length, chords[i].start + chords[i].length);
+            if (start < end && (wholeChord || notes.empty())) {
+                for (const int pitch : pitchesOf(hit.sign, i)) {
+                    notes.push_back({start, end - start, pitch});
+                }
+            }
+        }
+        return notes;
+    }
+};
+
 } // namespace
 
-std::vector<WrittenNote> ChordPlayer::play(const Hit& hit) {
-    std::vector<WrittenNote> notes;
-    const bool wholeChord = hit.sign == 'x' || hit.sign == 'X';
-    for (std::size_t i = 0; i < chords.size(); ++i) {
-        const int start = std::max(hit.start, chords[i].start);
-        const int end = std::min(hit.start + hit.length, chords[i].start + chords[i].length);
-        if (start >= end || (!wholeChord && !notes.empty())) {
-            continue;
-        }
-        for (const int pitch : pitchesOf(hit.sign, i)) {
-            notes.push_back({start, end - start, pitch});
-        }
+std::vector<std::vector<WrittenNote>> playChords(const std::vector<Chord>& chords,
+                                                 const std::vector<Hit>& hits, int lowest,
+                                                 int highest) {
+    ChordPlayer player{chords, lowest, highest};
+    std::vector<std::vector<WrittenNote>> notes;
+    for (const Hit& hit : hits) {
+        notes.push_back(player.play(hit));
     }
     return notes;
-}
-
-// Goes through every chord on the way, so that the voices move on where the part is silent.
-void ChordPlayer::leadVoicesTo(std::size_t chord) {
-    while (voicedChord != chord) {
-        ++voicedChord;
-        voicing = voice(chords[voicedChord], voicing, lowest, highest);
-    }
-}
-
-std::vector<int> ChordPlayer::pitchesOf(char sign, std::size_t chord) {
-    leadVoicesTo(chord);
-    if (sign == 'x' || sign == 'X') {
-        return voicing;
-    }
-    const int index = std::tolower(static_cast<unsigned char>(sign)) - 'a';
-    if (index >= 0 && index <= 4) {
-        const auto place = static_cast<std::size_t>(index);
-        return {voicing[place % voicing.size()] + 12 * static_cast<int>(place / voicing.size())};
-    }
-    return {bassPitch(sign, chord)};
-}
-
-int ChordPlayer::bassPitch(char sign, std::size_t chord) const {
-    const std::vector<int>& tones = chords[chord].tones;
-    const Chord& next = chords[std::min(chord + 1, chords.size() - 1)];
-    const int bass = pitchAbove(lowest, chords[chord].bass);
-    switch (sign) {
-    case 'R': return bass;
-    case '8': return bass + 12;
-    case '3': return pitchAbove(bass, tones[1]);
-    case '5': return pitchAbove(bass, tones[2]);
-    case '7': return pitchAbove(bass, tones.back());
-    case 'n': return pitchAbove(lowest, next.bass) - 1;
-    default: refuse(std::string("no such sign: ") + sign);
-    }
 }

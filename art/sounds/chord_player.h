@@ -10,20 +10,7 @@
 
 #include "art/sounds/notation.h"
 
-// Plays one rhythm of one section. A hit that is held into the next chord ends there; a whole chord
-// is struck again.
-struct ChordPlayer {
-    const std::vector<Chord>& chords;
-    int lowest;  // pitch above which basses and chords are played
-    int highest; // pitch that chords do not exceed where they can
-    std::vector<int> voicing = {};
-    std::size_t voicedChord = static_cast<std::size_t>(-1);
-
-    // Returns the notes of a hit. Hits must come in order of time.
-    std::vector<WrittenNote> play(const Hit& hit);
-
-private:
-    void leadVoicesTo(std::size_t chord);
-    std::vector<int> pitchesOf(char sign, std::size_t chord);
-    int bassPitch(char sign, std::size_t chord) const;
-};
+// Returns the notes of each hit, basses just above the lowest pitch and chords between the two
+// pitches. A hit that is held into the next chord ends there; a whole chord is struck again.
+std::vector<std::vector<WrittenNote>>
+playChords(const std::vector<Chord>& chords, const std::vector<Hit>& hits, int lowest, int highest);

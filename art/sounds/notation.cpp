@@ -137,6 +137,9 @@ std::vector<WrittenNote> readMelody(const std::string& text, int barCount, int t
             word.erase(0, 1);
         }
         length = takeLength(word, length);
+        if (!word.empty() && word != "'" && word != "~") {
+            refuse("\"" + word + "\" does not belong there");
+        }
         if (tied && pitch == notes.back().pitch) {
             notes.back().length += length;
         } else if (!rest && !tied) {
@@ -187,6 +190,9 @@ std::vector<Hit> readRhythm(const std::string& text, int barCount, int ticksPerB
     for (int i = 0; i < barCount; ++i) {
         const std::string& signs = bars[static_cast<std::size_t>(i) % bars.size()];
         const int step = ticksPerBar / static_cast<int>(signs.size());
+        if (ticksPerBar != step * static_cast<int>(signs.size())) {
+            refuse("uneven steps: " + signs);
+        }
         for (const char sign : signs) {
             const bool held = sign == '-';
             if (held && !hits.empty() && hits.back().start + hits.back().length == start) {

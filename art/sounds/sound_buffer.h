@@ -1,6 +1,6 @@
 // A stereo sound of fixed length, and what is done to it as a whole.
 //
-// Make a SoundBuffer, add tones to it (tones.h), add reverb, master it, write it to a file.
+// Make a SoundBuffer, add samples to it, add reverb, master it, write it to a file.
 #pragma once
 
 #include <filesystem>
