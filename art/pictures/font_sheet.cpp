@@ -4,7 +4,6 @@
 #include <sstream>
 
 #include "art/common/portable_math.h"
-#include "art/pictures/stroke.h"
 #include "art/pictures/typeface.h"
 #include "data/font.h"
 

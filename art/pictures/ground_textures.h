@@ -16,7 +16,7 @@ inline constexpr double tileLength = 120.0; // and along it
 // it.
 using GroundPattern = Colour(double x, double y);
 
-// Laid floors (laid_patterns.cpp).
+// The patterns (ground_patterns.cpp).
 GroundPattern gridPattern;    // glowing lines on a two-tone checker
 GroundPattern emberPattern;   // the same in amber on wine
 GroundPattern hexagonPattern; // enamelled six-sided tiles
@@ -24,12 +24,10 @@ GroundPattern plankPattern;   // boards laid across the course
 GroundPattern scalePattern;   // overlapping round scales
 GroundPattern circuitPattern; // copper traces and lit pads
 GroundPattern ribbonPattern;  // slanting ribbons in candy colours
-
-// Natural grounds (natural_patterns.cpp).
-GroundPattern sandPattern;   // raked rings around stones
-GroundPattern pavingPattern; // rounded stones in moss
-GroundPattern icePattern;    // floes with bright cracks
-GroundPattern lavaPattern;   // cooled plates over a glow
+GroundPattern sandPattern;    // raked rings around stones
+GroundPattern pavingPattern;  // rounded stones in moss
+GroundPattern icePattern;     // floes with bright cracks
+GroundPattern lavaPattern;    // cooled plates over a glow
 
 // Returns all mip levels, filtered in linear light. The top row is the far end of the tile: y grows
 // upwards, as in the bitmap files and in OpenGL.

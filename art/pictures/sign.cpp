@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "art/pictures/stroke.h"
 #include "art/pictures/typeface.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "art/sounds/chord_player.h"
+#include "art/sounds/notation.h"
 
 #include <algorithm>
 #include <cctype>
@@ -70,14 +70,6 @@ struct ChordPlayer {
     std::vector<int> voicing = {};
     std::size_t voicedChord = static_cast<std::size_t>(-1);
 
-    // Goes through every chord on the way, so that the voices move on where the part is silent.
-    void leadVoicesTo(std::size_t chord) {
-        while (voicedChord != chord) {
-            ++voicedChord;
-            voicing = voice(chords[voicedChord], voicing, lowest, highest);
-        }
-    }
-
     int bassPitch(char sign, std::size_t chord) const {
         const std::vector<int>& tones = chords[chord].tones;
         const Chord& next = chords[std::min(chord + 1, chords.size() - 1)];
@@ -94,7 +86,11 @@ struct ChordPlayer {
     }
 
     std::vector<int> pitchesOf(char sign, std::size_t chord) {
-        leadVoicesTo(chord);
+        // Every chord on the way counts, so that the voices move on where the part is silent.
+        while (voicedChord != chord) {
+            ++voicedChord;
+            voicing = voice(chords[voicedChord], voicing, lowest, highest);
+        }
         if (sign == 'x' || sign == 'X') {
             return voicing;
         }

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "art/sounds/effects.h"
-#include "art/sounds/midi_writer.h"
 #include "art/sounds/performance.h"
 #include "art/sounds/score.h"
 
@@ -16,8 +15,7 @@ namespace {
 using std::filesystem::path;
 
 bool writeMusic(const path& sounds, const path& scores, const std::string& name) {
-    const Score score = readScore(scores / (name + ".score"));
-    return writeMidiFile(sounds / (name + ".mid"), perform(score), lastTickOf(score));
+    return writePerformance(readScore(scores / (name + ".score")), sounds / (name + ".mid"));
 }
 
 } // namespace

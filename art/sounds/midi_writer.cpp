@@ -60,16 +60,13 @@ void MidiTrack::tempo(int tick, double quartersPerMinute) {
     events.push_back({tick, metaRank, metaEvent(0x51, data.bytes)});
 }
 
-void MidiTrack::timeSignature(int quartersPerBar) {
+void MidiTrack::signatures(int quartersPerBar, int sharps, bool minor) {
     constexpr int quarterAsPowerOfTwo = 2;
     constexpr int clocksPerClick = 24;
     constexpr int thirtySecondsPerQuarter = 8;
     events.push_back({0, metaRank,
                       metaEvent(0x58, byte(quartersPerBar) + byte(quarterAsPowerOfTwo) +
                                           byte(clocksPerClick) + byte(thirtySecondsPerQuarter))});
-}
-
-void MidiTrack::keySignature(int sharps, bool minor) {
     events.push_back({0, metaRank, metaEvent(0x59, byte(sharps) + byte(minor ? 1 : 0))});
 }
 

@@ -39,3 +39,13 @@ std::vector<Chord> readChords(const std::string& text, int ticksPerBar, int tran
 // Bars are separated by '|'; "*3" after a bar plays it three times. A rhythm repeats until it fills
 // that many bars.
 std::vector<Hit> readRhythm(const std::string& text, int barCount, int ticksPerBar);
+
+// Plays the signs of a rhythm on chords (chord_player.cpp):
+//   x X         the whole chord; accented
+//   a..e A..E   one of its voices, from the lowest; accented
+//   R 3 5 7 8   the bass note, the chord's tones above it, its octave
+//   n           the semitone below the next chord's bass note
+// Returns the notes of each hit, basses just above the lowest pitch and chords between the two
+// pitches. A hit that is held into the next chord ends there; a whole chord is struck again.
+std::vector<std::vector<WrittenNote>>
+playChords(const std::vector<Chord>& chords, const std::vector<Hit>& hits, int lowest, int highest);

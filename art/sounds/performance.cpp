@@ -14,26 +14,22 @@ MidiTrack conductorTrack(const Score& score) {
     MidiTrack track;
     track.text(0, MidiText::TrackName, score.title);
     track.text(0, MidiText::Copyright, "Glorbix, zlib licence");
-    track.timeSignature(score.quartersPerBar);
-    track.keySignature(score.sharps, score.minor);
+    track.signatures(score.quartersPerBar, score.sharps, score.minor);
     const std::vector<MidiTrack::Event>& changes = score.conductor.events;
     track.events.insert(track.events.end(), changes.begin(), changes.end());
     return track;
 }
 
 void setUpChannel(const Part& part, MidiTrack& track) {
-    constexpr int volume = 7;
-    constexpr int pan = 10;
-    constexpr int expression = 11;
-    constexpr int reverb = 91;
-    constexpr int chorus = 93;
+    const std::pair<int, int> controllers[] = {
+        {7, part.volume},  {10, part.pan}, {11, 127}, // expression
+        {91, part.reverb}, {93, 0},                   // chorus
+    };
     track.text(0, MidiText::TrackName, part.name);
     track.programChange(part.channel, part.program);
-    track.controlChange(part.channel, volume, part.volume);
-    track.controlChange(part.channel, pan, part.pan);
-    track.controlChange(part.channel, expression, 127);
-    track.controlChange(part.channel, reverb, part.reverb);
-    track.controlChange(part.channel, chorus, 0);
+    for (const auto& [controller, value] : controllers) {
+        track.controlChange(part.channel, controller, value);
+    }
 }
 
 // Moves the second eighth of a quarter to its swung place and stretches the first to match.
@@ -93,14 +89,11 @@ MidiTrack performPart(const Score& score, const Part& part) {
 
 } // namespace
 
-std::vector<MidiTrack> perform(const Score& score) {
+bool writePerformance(const Score& score, const std::filesystem::path& file) {
     std::vector<MidiTrack> tracks{conductorTrack(score)};
     for (const Part& part : score.parts) {
         tracks.push_back(performPart(score, part));
     }
-    return tracks;
-}
-
-int lastTickOf(const Score& score) {
-    return score.length + static_cast<int>(score.ring * score.tempo / 60.0 * ticksPerQuarter);
+    const double ringTicks = score.ring * score.tempo / 60.0 * ticksPerQuarter;
+    return writeMidiFile(file, tracks, score.length + static_cast<int>(ringTicks));
 }

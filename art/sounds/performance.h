@@ -3,14 +3,11 @@
 // score always sounds the same.
 #pragma once
 
-#include <vector>
+#include <filesystem>
 
-#include "art/sounds/midi_writer.h"
 #include "art/sounds/score.h"
 
-// Returns the conductor's track, then one for each part. No two notes of one pitch overlap in a
-// part: the earlier one ends where the later one starts.
-std::vector<MidiTrack> perform(const Score& score);
-
-// Returns the tick at which the piece is over, after the last notes have faded.
-int lastTickOf(const Score& score);
+// Replaces a MIDI file: the conductor's track, then one for each part. No two notes of one pitch
+// overlap in a part: the earlier one ends where the later one starts. Returns false, after a
+// message, when the file cannot be written.
+bool writePerformance(const Score& score, const std::filesystem::path& file);

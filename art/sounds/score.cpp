@@ -6,7 +6,6 @@
 #include <map>
 #include <sstream>
 
-#include "art/sounds/chord_player.h"
 #include "art/sounds/notation.h"
 
 namespace {
