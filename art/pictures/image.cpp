@@ -8,6 +8,10 @@
 
 namespace {
 
+double linearToSrgb(double light) {
+    return light <= 0.0031308 ? 12.92 * light : 1.055 * power(light, 1.0 / 2.4) - 0.055;
+}
+
 double srgbToLinear(double value) {
     return value <= 0.04045 ? value / 12.92 : power((value + 0.055) / 1.055, 2.4);
 }
@@ -75,10 +79,6 @@ Colour lerp(const Colour& a, const Colour& b, double share) {
 Colour srgb(std::uint32_t code) {
     static const std::array<float, 256> light = linearOfBytes();
     return {light[(code >> 16) & 255U], light[(code >> 8) & 255U], light[code & 255U]};
-}
-
-double linearToSrgb(double light) {
-    return light <= 0.0031308 ? 12.92 * light : 1.055 * power(light, 1.0 / 2.4) - 0.055;
 }
 
 Image8 toSrgb8(const Image& image) {

@@ -28,9 +28,6 @@ Colour lerp(const Colour& a, const Colour& b, double share);
 // Returns the linear light of an sRGB colour 0xRRGGBB.
 Colour srgb(std::uint32_t code);
 
-// The sRGB curve: the display value 0..1 of an amount of light 0..1.
-double linearToSrgb(double light);
-
 using Rgb8 = std::array<std::uint8_t, 3>; // red, green, blue
 
 // A rectangle of pixels, top row first.

@@ -83,11 +83,9 @@ bool writeIcon(const path& file, int size) {
         }
     }
     std::string error;
-    if (!writePngRgba(file.string(), size, size, pixels, error)) {
-        std::cerr << error << '\n';
-        return false;
-    }
-    return true;
+    const bool written = writePngRgba(file.string(), size, size, pixels, error);
+    std::cerr << error << (written ? "" : "\n");
+    return written;
 }
 
 bool writeIcons(const path& folder) {

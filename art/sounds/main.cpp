@@ -10,27 +10,20 @@
 #include "art/sounds/performance.h"
 #include "art/sounds/score.h"
 
-namespace {
-
-using std::filesystem::path;
-
-bool writeMusic(const path& sounds, const path& scores, const std::string& name) {
-    return writePerformance(readScore(scores / (name + ".score")), sounds / (name + ".mid"));
-}
-
-} // namespace
-
 int main(int argumentCount, char** arguments) {
     if (argumentCount != 3) {
         std::cerr << "usage: make_sounds GAME SCORES\n";
         return 2;
     }
-    const path sounds = path(arguments[1]) / "sounds";
-    const path scores = arguments[2];
-    const bool done =
-        menuTick().writeWave(sounds / "menu.wav") && startSignal().writeWave(sounds / "go.wav") &&
-        timeUp().writeWave(sounds / "timeup.wav") &&
-        goalReached().writeWave(sounds / "allright.wav") && writeMusic(sounds, scores, "midi1") &&
-        writeMusic(sounds, scores, "drwho2") && writeMusic(sounds, scores, "midi3");
+    const std::filesystem::path sounds = std::filesystem::path(arguments[1]) / "sounds";
+    const std::filesystem::path scores = arguments[2];
+    const auto writeMusic = [&](const std::string& name) {
+        return writePerformance(readScore(scores / (name + ".score")), sounds / (name + ".mid"));
+    };
+    const bool done = menuTick().writeWave(sounds / "menu.wav") &&
+                      startSignal().writeWave(sounds / "go.wav") &&
+                      timeUp().writeWave(sounds / "timeup.wav") &&
+                      goalReached().writeWave(sounds / "allright.wav") && writeMusic("midi1") &&
+                      writeMusic("drwho2") && writeMusic("midi3");
     return done ? 0 : 1;
 }

@@ -60,7 +60,8 @@ void MidiTrack::tempo(int tick, double quartersPerMinute) {
     events.push_back({tick, metaRank, metaEvent(0x51, data.bytes)});
 }
 
-void MidiTrack::signatures(int quartersPerBar, int sharps, bool minor) {
+void MidiTrack::signatures(int sharps, bool minor) {
+    constexpr int quartersPerBar = 4;
     constexpr int quarterAsPowerOfTwo = 2;
     constexpr int clocksPerClick = 24;
     constexpr int thirtySecondsPerQuarter = 8;

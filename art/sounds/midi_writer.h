@@ -20,7 +20,7 @@ enum class MidiText : std::uint8_t {
 struct MidiTrack {
     void text(int tick, MidiText kind, const std::string& words);
     void tempo(int tick, double quartersPerMinute);
-    void signatures(int quartersPerBar, int sharps, bool minor); // of metre and key
+    void signatures(int sharps, bool minor); // of the key, and of four quarters a bar
     void programChange(int channel, int program);
     void controlChange(int channel, int controller, int value);
 

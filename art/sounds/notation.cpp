@@ -1,5 +1,6 @@
 #include "art/sounds/notation.h"
 
+#include <algorithm>
 #include <cctype>
 #include <sstream>
 
@@ -19,15 +20,6 @@ const Quality qualities[] = {
     {"69", {0, 4, 9, 2}},  {"m9", {0, 3, 10, 2}},    {"maj9", {0, 4, 11, 2}},
     {"13", {0, 4, 10, 9}}, {"7sus4", {0, 5, 7, 10}}, {"9sus4", {0, 5, 10, 2}},
 };
-
-// Returns the text with blanks around every bar line.
-std::string separateBars(const std::string& text) {
-    std::string result;
-    for (const char letter : text) {
-        result += letter == '|' ? std::string(" | ") : std::string(1, letter);
-    }
-    return result;
-}
 
 // Takes a sign from the front of the text if it is there.
 bool take(std::string& text, char sign) {
@@ -56,10 +48,7 @@ int takeLength(std::string& text, int before) {
     if (!take(text, ':')) {
         return before;
     }
-    std::size_t digits = 0;
-    while (digits < text.size() && std::isdigit(static_cast<unsigned char>(text[digits]))) {
-        ++digits;
-    }
+    const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
     const int divisor = digits == 1 || digits == 2 ? std::stoi(text) : 0;
     if (divisor < 1 || divisor > 32) {
         refuse("a length is 1 to 32");
@@ -116,12 +105,12 @@ std::vector<std::string> readBars(const std::string& text) {
 
 } // namespace
 
-std::vector<WrittenNote> readMelody(const std::string& text, int barCount, int ticksPerBar) {
+std::vector<WrittenNote> readMelody(const std::string& text, int barCount) {
     std::vector<WrittenNote> notes;
     int now = 0;
     int length = ticksPerQuarter;
     bool tied = false;
-    std::istringstream words(separateBars(text));
+    std::istringstream words(text);
     for (std::string word; words >> word;) {
         if (word == "|") {
             if (now % ticksPerBar != 0) {
@@ -157,7 +146,7 @@ std::vector<WrittenNote> readMelody(const std::string& text, int barCount, int t
     return notes;
 }
 
-std::vector<Chord> readChords(const std::string& text, int ticksPerBar, int transpose) {
+std::vector<Chord> readChords(const std::string& text, int transpose) {
     std::vector<Chord> chords;
     std::istringstream bars(text);
     int start = 0;
@@ -180,7 +169,7 @@ std::vector<Chord> readChords(const std::string& text, int ticksPerBar, int tran
     return chords;
 }
 
-std::vector<Hit> readRhythm(const std::string& text, int barCount, int ticksPerBar) {
+std::vector<Hit> readRhythm(const std::string& text, int barCount) {
     const std::vector<std::string> bars = readBars(text);
     if (bars.empty() || barCount % static_cast<int>(bars.size()) != 0) {
         refuse(std::to_string(bars.size()) + " bars do not fill " + std::to_string(barCount));

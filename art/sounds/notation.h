@@ -28,17 +28,18 @@ struct Hit {
 
 // Reads a melody: pitches like c4 (middle c) or f#5, and r for a rest. A length such as :4 :8. :8t
 // (a quarter, a dotted eighth, a triplet eighth) holds until the next one. After the length: ~ ties
-// to the next note, ' is short. | ends a bar, which must be full.
-std::vector<WrittenNote> readMelody(const std::string& text, int barCount, int ticksPerBar);
+// to the next note, ' is short. | ends a bar, which must be full. All are
+// separated by blanks.
+std::vector<WrittenNote> readMelody(const std::string& text, int barCount);
 
 // Reads chord symbols: "D | G/A | Em7 A7 | Bm . . A". The chords of a bar share it evenly; '.'
 // repeats the one before. The bass follows '/' where it is not the root.
-std::vector<Chord> readChords(const std::string& text, int ticksPerBar, int transpose);
+std::vector<Chord> readChords(const std::string& text, int transpose);
 
 // Reads a rhythm: each bar has as many steps as signs. '.' is silence, '-' holds the sign before.
 // Bars are separated by '|'; "*3" after a bar plays it three times. A rhythm repeats until it fills
 // that many bars.
-std::vector<Hit> readRhythm(const std::string& text, int barCount, int ticksPerBar);
+std::vector<Hit> readRhythm(const std::string& text, int barCount);
 
 // Plays the signs of a rhythm on chords (chord_player.cpp):
 //   x X         the whole chord; accented

@@ -10,16 +10,6 @@ namespace {
 
 constexpr int eighth = ticksPerQuarter / 2;
 
-MidiTrack conductorTrack(const Score& score) {
-    MidiTrack track;
-    track.text(0, MidiText::TrackName, score.title);
-    track.text(0, MidiText::Copyright, "Glorbix, zlib licence");
-    track.signatures(score.quartersPerBar, score.sharps, score.minor);
-    const std::vector<MidiTrack::Event>& changes = score.conductor.events;
-    track.events.insert(track.events.end(), changes.begin(), changes.end());
-    return track;
-}
-
 void setUpChannel(const Part& part, MidiTrack& track) {
     const std::pair<int, int> controllers[] = {
         {7, part.volume},  {10, part.pan}, {11, 127}, // expression
@@ -41,7 +31,7 @@ int swingTick(int tick, double swing) {
 }
 
 // Returns what the place in the bar adds to a note's velocity.
-int metricAccent(int tick, int ticksPerBar) {
+int metricAccent(int tick) {
     if (tick % ticksPerBar == 0) {
         return 5;
     }
@@ -51,10 +41,10 @@ int metricAccent(int tick, int ticksPerBar) {
     return tick % eighth == 0 ? -3 : -6;
 }
 
-int velocityOf(const ScoreNote& note, int ticksPerBar, Random& random) {
+int velocityOf(const ScoreNote& note, Random& random) {
     constexpr double unevenness = 4.0;
-    const int velocity = note.velocity + metricAccent(note.start, ticksPerBar) +
-                         static_cast<int>(unevenness * random.next());
+    const int velocity =
+        note.velocity + metricAccent(note.start) + static_cast<int>(unevenness * random.next());
     return std::clamp(velocity, 1, 127);
 }
 
@@ -80,7 +70,7 @@ MidiTrack performPart(const Score& score, const Part& part) {
         const int start = note.start + note.delay;
         const int end = std::min(note.start + sounding, nextStartOf(notes, i));
         if (end > start) {
-            track.note(part.channel, note.pitch, velocityOf(note, score.ticksPerBar(), random),
+            track.note(part.channel, note.pitch, velocityOf(note, random),
                        swingTick(start, score.swing), swingTick(end, score.swing));
         }
     }
@@ -90,7 +80,7 @@ MidiTrack performPart(const Score& score, const Part& part) {
 } // namespace
 
 bool writePerformance(const Score& score, const std::filesystem::path& file) {
-    std::vector<MidiTrack> tracks{conductorTrack(score)};
+    std::vector<MidiTrack> tracks{score.conductor};
     for (const Part& part : score.parts) {
         tracks.push_back(performPart(score, part));
     }

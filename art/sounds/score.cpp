@@ -85,14 +85,16 @@ struct ScoreReader {
 
     bool readHeader(const std::string& word, std::istringstream& in) {
         if (word == "title") {
-            score.title = restOf(in);
+            score.conductor.text(0, MidiText::TrackName, restOf(in));
+            score.conductor.text(0, MidiText::Copyright, "Glorbix, zlib licence");
         } else if (word == "tempo") {
             in >> score.tempo;
             score.conductor.tempo(0, score.tempo);
         } else if (word == "key") {
+            int sharps = 0;
             std::string mode;
-            in >> score.sharps >> mode;
-            score.minor = mode == "minor";
+            in >> sharps >> mode;
+            score.conductor.signatures(sharps, mode == "minor");
         } else if (word == "swing") {
             in >> score.swing;
         } else if (word == "ring") {
@@ -128,9 +130,9 @@ struct ScoreReader {
         } else if (word == "transpose") {
             in >> transpose;
         } else if (word == "chords") {
-            chords = readChords(restOf(in), score.ticksPerBar(), transpose);
+            chords = readChords(restOf(in), transpose);
             score.length = start + chords.back().start + chords.back().length;
-            barCount = (score.length - start) / score.ticksPerBar();
+            barCount = (score.length - start) / ticksPerBar;
         } else if (word == "reach") {
             double goal = 0.0;
             in >> goal;
@@ -178,7 +180,7 @@ struct ScoreReader {
     // A melody gets louder as it rises above its mean pitch, by half a step for each semitone.
     void addMelody(Part& part, const std::string& text, int shift) {
         constexpr int mostSwell = 6;
-        const std::vector<WrittenNote> notes = readMelody(text, barCount, score.ticksPerBar());
+        const std::vector<WrittenNote> notes = readMelody(text, barCount);
         int sum = 0;
         for (const WrittenNote& note : notes) {
             sum += note.pitch;
@@ -192,7 +194,7 @@ struct ScoreReader {
     }
 
     void addPattern(Part& part, const std::string& text) {
-        const std::vector<Hit> hits = readRhythm(text, barCount, score.ticksPerBar());
+        const std::vector<Hit> hits = readRhythm(text, barCount);
         const auto notes = playChords(chords, hits, part.lowest, part.highest);
         for (std::size_t i = 0; i < hits.size(); ++i) {
             const bool accented = hits[i].sign >= 'A' && hits[i].sign <= 'E';
@@ -216,7 +218,7 @@ struct ScoreReader {
             std::string name;
             in >> name;
             const int key = lookUp(drumKeys, name);
-            for (const Hit& hit : readRhythm(restOf(in), barCount, score.ticksPerBar())) {
+            for (const Hit& hit : readRhythm(restOf(in), barCount)) {
                 int velocity = velocityAt(hit.start) + (hit.sign == 'X' ? accent : 0);
                 if (hit.sign == 'o') {
                     velocity = velocity * ghostPercent / 100;

@@ -33,20 +33,15 @@ struct Part {
 };
 
 inline constexpr int drumChannel = 9;
+inline constexpr int ticksPerBar = 4 * ticksPerQuarter;
 
 struct Score {
-    std::string title;
     double tempo = 0.0; // quarters per minute at the beginning, then at the end
-    int quartersPerBar = 4;
-    int sharps = 0;     // of the key signature; flats are negative
-    bool minor = false; // of the key signature
     double swing = 0.5; // place of the off-beat eighth within its quarter: 0.5 is straight
     double ring = 0.0;  // seconds after the last bar, for what is still ringing
     std::vector<Part> parts;
-    MidiTrack conductor; // tempo, metre and the names of the sections
+    MidiTrack conductor; // title, key, tempo and the names of the sections
     int length = 0;      // ticks
-
-    int ticksPerBar() const { return quartersPerBar * ticksPerQuarter; }
 };
 
 // Reads a score. A mistake ends the program with a message: file, line and reason.
