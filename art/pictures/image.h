@@ -55,7 +55,7 @@ Image8 toSrgb8(const Image& image);
 Image8 ditherTo565(const Image& image);
 
 // Replaces a bitmap file as the game reads them: 24 bits, uncompressed, headers of 54 bytes, bottom
-// row first. Rows are never padded: where a width is not a multiple of 4, at the end of a mip chain,
-// the padding follows after the last row, so that the file has the size that its header gives.
+// row first. Rows are never padded. Where a width is not a multiple of 4, at the end of a mip
+// chain, the padding follows the last row, so that the file has the size that its header gives.
 // Returns false, after a message, when the file cannot be written.
 bool writeBitmap(const Image8& image, const std::filesystem::path& file);

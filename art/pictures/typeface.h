@@ -4,9 +4,9 @@
 // equally wide, so that a running clock does not jitter. The height of a letter is measured
 // between the centres of its strokes: capitals are 21 high, small letters 14; descenders go to -6.
 //
-// The text of a skeleton is a sequence of commands, each a letter and numbers, separated by blanks. Each starts
-// at the end of the one before. Units are glyph pixels, x to the right from the left edge of the
-// glyph, y UP from the baseline, which is the middle of a stroke that lies on it.
+// The text of a skeleton is a sequence of commands, each a letter and numbers, separated by blanks.
+// Each starts at the end of the one before. Units are glyph pixels, x to the right from the left
+// edge of the glyph, y UP from the baseline, which is the middle of a stroke that lies on it.
 //
 //   M x y              move to (x, y) without drawing
 //   L x y              a straight line to (x, y)

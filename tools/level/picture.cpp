@@ -1,11 +1,8 @@
 #include "tools/level/picture.h"
 
-#include <cerrno>
 #include <cmath>
-#include <cstdio>
-#include <cstring>
 
-#include <png.h>
+#include "tools/png/png_writer.h"
 
 Picture::Picture(int pixelsAcross, int pixelsDown)
     : width(pixelsAcross), height(pixelsDown),
@@ -54,16 +51,7 @@ void Picture::circle(double centreX, double centreY, double radius, int thicknes
 
 bool writePng(const Picture& picture, const std::string& fileName, std::string& error) {
     static_assert(sizeof(PaletteColour) == 3);
-    png_image image = {};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(picture.width);
-    image.height = static_cast<png_uint_32>(picture.height);
-    image.format = PNG_FORMAT_RGB_COLORMAP;
-    image.colormap_entries = static_cast<png_uint_32>(picture.palette.size());
-    if (png_image_write_to_file(&image, fileName.c_str(), 0, picture.pixels.data(), 0,
-                                picture.palette.data()) != 0) {
-        return true;
-    }
-    error = fileName + ": " + image.message;
-    return false;
+    const auto* palette = reinterpret_cast<const std::uint8_t*>(picture.palette.data());
+    return writePngPalette(fileName, picture.width, picture.height, picture.pixels,
+                           {palette, picture.palette.size() * 3}, error);
 }
