@@ -19,7 +19,7 @@ MCIERROR openDevice(const char* fileName) {
     open.lpstrElementName = fileName;
     const MCIERROR error = mciSendCommandA(0, MCI_OPEN, MCI_OPEN_TYPE | MCI_OPEN_ELEMENT,
                                            reinterpret_cast<DWORD_PTR>(&open));
-    if (error == 0) Game.musicDevice = open.wDeviceID;
+    if (error == 0) { Game.musicDevice = open.wDeviceID; }
     return error;
 }
 
@@ -47,10 +47,10 @@ void playTrack(std::int32_t track) {
 
 MCIERROR playMidi(HWND window, const char* fileName) {
     MCIERROR error = openDevice(fileName);
-    if (error != 0) return error;
+    if (error != 0) { return error; }
     error = queryPort();
-    if (error == 0) error = playDevice(window);
-    if (error != 0) closeDevice();
+    if (error == 0) { error = playDevice(window); }
+    if (error != 0) { closeDevice(); }
     return error;
 }
 
@@ -65,7 +65,7 @@ void stopMusic() {
 
 void rotateMusic() {
     closeDevice();
-    if (!Game.musicPlaying || Game.screen != Screen::Level) return;
+    if (!Game.musicPlaying || Game.screen != Screen::Level) { return; }
     playTrack(Game.nextTrack);
     Game.nextTrack = (Game.nextTrack + 1) % trackCount;
 }

@@ -11,8 +11,8 @@ bool readHeaders(HANDLE file, BitmapInfo& info) {
     std::uint8_t fileHeader[bitmapFileHeaderSize] = {};
     std::uint8_t infoHeader[bitmapInfoHeaderSize] = {};
     DWORD got = 0;
-    if (!ReadFile(file, fileHeader, bitmapFileHeaderSize, &got, nullptr)) return false;
-    if (!ReadFile(file, infoHeader, bitmapInfoHeaderSize, &got, nullptr)) return false;
+    if (!ReadFile(file, fileHeader, bitmapFileHeaderSize, &got, nullptr)) { return false; }
+    if (!ReadFile(file, infoHeader, bitmapInfoHeaderSize, &got, nullptr)) { return false; }
     info = parseBitmapInfo(infoHeader);
     return true;
 }
@@ -27,12 +27,12 @@ template <typename Accepts>
 bool readIfAccepted(const char* fileName, std::uint8_t* pixels, Accepts accepts) {
     const HANDLE file = CreateFileA(fileName, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return false;
+    if (file == INVALID_HANDLE_VALUE) { return false; }
     BitmapInfo info = {};
     const bool read = readHeaders(file, info) && pixelBytes(info) >= 0 && accepts(info) &&
                       readPixels(file, pixelBytes(info), pixels);
     const bool closed = CloseHandle(file) != FALSE;
-    if (!read || !closed) return false;
+    if (!read || !closed) { return false; }
     exchangeRedAndBlue(pixels, pixelBytes(info));
     return true;
 }
@@ -55,12 +55,12 @@ bool readBitmapOfSize(const char* fileName, std::int32_t width, std::int32_t hei
 bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slots,
                   std::string& picture) {
     picture = baseName;
-    if (std::strlen(baseName) >= mipBaseNameCapacity) return false;
+    if (std::strlen(baseName) >= mipBaseNameCapacity) { return false; }
     const std::size_t slot = slotSize(chain);
     for (int k = 0; k < chain.levels; ++k) {
         picture = mipFileName(baseName, k);
         std::uint8_t* pixels = slots + static_cast<std::size_t>(k) * slot;
-        if (!readBitmap(picture.c_str(), pixels, static_cast<std::int32_t>(slot))) return false;
+        if (!readBitmap(picture.c_str(), pixels, static_cast<std::int32_t>(slot))) { return false; }
     }
     return true;
 }

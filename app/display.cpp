@@ -23,8 +23,8 @@ bool findGameMode() {
     displayMode.dmSize = sizeof displayMode;
     for (DWORD index = 0;; ++index) {
         const bool exists = EnumDisplaySettingsA(nullptr, index, &displayMode) != FALSE;
-        if (isGameMode(displayMode)) return true;
-        if (!exists) return false;
+        if (isGameMode(displayMode)) { return true; }
+        if (!exists) { return false; }
     }
 }
 
@@ -97,7 +97,7 @@ bool switchDisplayMode() {
     if (!findGameMode()) {
         return refuseDisplay("640x480x65536 (16-bit color/Hicolor) is not supported", initError);
     }
-    if (ChangeDisplaySettingsA(&displayMode, 0) == DISP_CHANGE_SUCCESSFUL) return true;
+    if (ChangeDisplaySettingsA(&displayMode, 0) == DISP_CHANGE_SUCCESSFUL) { return true; }
     const LONG result = switchBySize();
     return result == DISP_CHANGE_SUCCESSFUL || reportSwitch(result);
 }
@@ -105,8 +105,8 @@ bool switchDisplayMode() {
 bool setupPixelFormat(HDC deviceContext) {
     const PIXELFORMATDESCRIPTOR wanted = wantedFormat();
     const int format = ChoosePixelFormat(deviceContext, &wanted);
-    if (format == 0) return refuseWithLastError("ChoosePixelFormat failed GetLastError");
-    if (needsPalette(deviceContext, format)) return refuseWithError(nullptr, "Needs palette");
+    if (format == 0) { return refuseWithLastError("ChoosePixelFormat failed GetLastError"); }
+    if (needsPalette(deviceContext, format)) { return refuseWithError(nullptr, "Needs palette"); }
     if (!SetPixelFormat(deviceContext, format, &wanted)) {
         return refuseWithLastError("SetPixelFormat failed GetLastError");
     }
@@ -115,11 +115,13 @@ bool setupPixelFormat(HDC deviceContext) {
 
 bool initGraphicsAndData(HWND window) {
     Game.deviceContext = GetDC(window);
-    if (!setupPixelFormat(Game.deviceContext)) PostQuitMessage(0);
+    if (!setupPixelFormat(Game.deviceContext)) { PostQuitMessage(0); }
     Game.glContext = wglCreateContext(Game.deviceContext);
     wglMakeCurrent(Game.deviceContext, Game.glContext);
-    if (!loadLevelList()) return refuseWithError(window, "could not initialize map data");
-    if (!loadBestTimes()) return refuseWithError(window, "could not initialize high score data");
+    if (!loadLevelList()) { return refuseWithError(window, "could not initialize map data"); }
+    if (!loadBestTimes()) {
+        return refuseWithError(window, "could not initialize high score data");
+    }
     if (!font.load(fontBaseName, fontMetricsFile)) {
         return refuseWithError(nullptr, "could not initialize fonts");
     }

@@ -39,17 +39,17 @@ void readPicture(const ScreenPicture& picture) {
 }
 
 void showPicture(const ScreenPicture& picture, bool entered) {
-    if (picture.pending && entered) readPicture(picture);
-    if (!picture.pending) drawPicture(picture.pixels);
+    if (picture.pending && entered) { readPicture(picture); }
+    if (!picture.pending) { drawPicture(picture.pixels); }
 }
 
 void endPlay() {
-    if (Game.musicPlaying) stopMusic();
+    if (Game.musicPlaying) { stopMusic(); }
     Game.endLevel();
 }
 
 void drawMenuIfOpen() {
-    if (!Game.menuOpen) return;
+    if (!Game.menuOpen) { return; }
     drawShade();
     drawMenu();
 }

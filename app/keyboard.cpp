@@ -22,7 +22,7 @@ void postKey(int key) {
 
 void startNewGame() {
     Game.menuOpen = 0;
-    if (Game.musicPlaying) stopMusic();
+    if (Game.musicPlaying) { stopMusic(); }
     Game.levelNumber = 0;
     PostMessageA(Game.window, WM_GAME_START_LEVEL, 0, 0);
 }
@@ -42,12 +42,12 @@ void quit() {
 
 void raiseCameraLag() {
     Game.cameraLag += 1.0F;
-    if (Game.cameraLag >= cameraLagCount) Game.cameraLag = 0.0F;
+    if (Game.cameraLag >= cameraLagCount) { Game.cameraLag = 0.0F; }
 }
 
 void lowerCameraLag() {
     Game.cameraLag -= 1.0F;
-    if (Game.cameraLag < 0.0F) Game.cameraLag = cameraLagCount - 1.0F;
+    if (Game.cameraLag < 0.0F) { Game.cameraLag = cameraLagCount - 1.0F; }
 }
 
 void chooseMenuItem() {
@@ -66,17 +66,17 @@ void chooseMenuItem() {
 void moveUp() {
     const MenuPage& page = menuPageOf(Game.menuItem);
     Game.menuItem = Game.menuItem == page.first ? page.last : Game.menuItem - 1;
-    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) --Game.menuItem;
+    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) { --Game.menuItem; }
 }
 
 void moveDown() {
     const MenuPage& page = menuPageOf(Game.menuItem);
     Game.menuItem = Game.menuItem == page.last ? page.first : Game.menuItem + 1;
-    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) ++Game.menuItem;
+    if (Game.menuItem == MenuItem::FarSight && Game.fogOn) { ++Game.menuItem; }
 }
 
 void pressEnter() {
-    if (!Game.menuOpen) return;
+    if (!Game.menuOpen) { return; }
     playEffect(menuSound);
     chooseMenuItem();
 }
@@ -96,7 +96,7 @@ void pressEscape() {
 }
 
 void pressLeft() {
-    if (!Game.menuOpen) return;
+    if (!Game.menuOpen) { return; }
     playEffect(menuSound);
     if (Game.menuItem == MenuItem::CameraLag) {
         lowerCameraLag();
@@ -106,46 +106,46 @@ void pressLeft() {
 }
 
 void pressUp() {
-    if (!Game.menuOpen) return;
+    if (!Game.menuOpen) { return; }
     playEffect(menuSound);
     moveUp();
 }
 
 void pressDown() {
-    if (!Game.menuOpen) return;
+    if (!Game.menuOpen) { return; }
     playEffect(menuSound);
     moveDown();
 }
 
 void skipLevel() {
-    if (Game.screen == Screen::Level) PostMessageA(Game.window, WM_GAME_START_LEVEL, 0, 0);
+    if (Game.screen == Screen::Level) { PostMessageA(Game.window, WM_GAME_START_LEVEL, 0, 0); }
 }
 
 void toggleFarSight() {
-    if (!Game.fogOn) toggle(Game.farSight);
+    if (!Game.fogOn) { toggle(Game.farSight); }
 }
 
 void toggleFog() {
     toggle(Game.fogOn);
-    if (Game.fogOn) Game.farSight = 0;
+    if (Game.fogOn) { Game.farSight = 0; }
     switchFog(Game.fogOn != 0);
 }
 
 void toggleMidi() {
     toggle(Game.midiOn);
     if (Game.midiOn) {
-        if (!Game.musicPlaying && Game.screen == Screen::Level) startMusic();
+        if (!Game.musicPlaying && Game.screen == Screen::Level) { startMusic(); }
     } else if (Game.musicPlaying) {
         stopMusic();
     }
 }
 
 void togglePause() {
-    if (Game.screen == Screen::Level && !Game.menuOpen) toggle(Game.paused);
+    if (Game.screen == Screen::Level && !Game.menuOpen) { toggle(Game.paused); }
 }
 
 void pressOther(WPARAM key) {
-    if (key != VK_SPACE) return;
+    if (key != VK_SPACE) { return; }
     if (Game.screen != Screen::Level && Game.screen != Screen::NameEntry) {
         Game.screen = Screen::Title;
     }

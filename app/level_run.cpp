@@ -15,7 +15,7 @@ constexpr float clockAtStartOfRun = 52.0F; // seconds: level 1 has a longer coun
 
 void beginRun() {
     Game.clock = clockAtStartOfRun;
-    if (Game.midiOn && !Game.musicPlaying) startMusic();
+    if (Game.midiOn && !Game.musicPlaying) { startMusic(); }
     Game.clearLevelTimes();
 }
 
@@ -46,19 +46,19 @@ void restartTime() {
 } // namespace
 
 void startNextLevel() {
-    if (Game.menuOpen) return;
+    if (Game.menuOpen) { return; }
     ++Game.levelNumber;
     resetLevel();
-    if (Game.levelNumber == 1) beginRun();
-    if (Game.levelNumber >= 1 && Game.levelNumber <= Game.levelCount) loadLevel();
-    if (Game.levelNumber > Game.levelCount && endRun()) return;
+    if (Game.levelNumber == 1) { beginRun(); }
+    if (Game.levelNumber >= 1 && Game.levelNumber <= Game.levelCount) { loadLevel(); }
+    if (Game.levelNumber > Game.levelCount && endRun()) { return; }
     placeAtStart();
     restartTime();
 }
 
 void checkLevelClock() {
     const ClockEvents events = checkClock();
-    if (events.levelIsOver) PostMessageA(Game.window, WM_GAME_START_LEVEL, 0, 0);
-    if (events.timeIsUp) playEffect(timeUpSound);
-    if (events.countDownIsOver) playEffect(goSound);
+    if (events.levelIsOver) { PostMessageA(Game.window, WM_GAME_START_LEVEL, 0, 0); }
+    if (events.timeIsUp) { playEffect(timeUpSound); }
+    if (events.countDownIsOver) { playEffect(goSound); }
 }

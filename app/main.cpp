@@ -39,7 +39,7 @@ int runMessageLoop() {
             PostMessageA(Game.window, WM_GAME_TICK, 0, 0);
             continue;
         }
-        if (message.message == WM_QUIT) return static_cast<int>(message.wParam);
+        if (message.message == WM_QUIT) { return static_cast<int>(message.wParam); }
         TranslateMessage(&message);
         DispatchMessageA(&message);
     }

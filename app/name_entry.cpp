@@ -37,7 +37,7 @@ void takeKey(char* name, std::int8_t key) {
 
 void takeNameKey() {
     Game.endLevel();
-    if (Game.lastKey == 0) return;
+    if (Game.lastKey == 0) { return; }
     takeKey(bestTimes.slots[Game.newBestEntry].name, Game.lastKey);
     Game.lastKey = 0;
 }

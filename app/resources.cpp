@@ -20,7 +20,7 @@ bool refuse(const std::string& text) {
 
 // The texture is made at once, so it stays where a later part of the file is refused.
 bool loadGroundTexture(Level& into, const char* baseName, std::string& picture) {
-    if (!readMipChain(groundChain, baseName, into.texturePixels[0], picture)) return false;
+    if (!readMipChain(groundChain, baseName, into.texturePixels[0], picture)) { return false; }
     uploadGroundTexture(into);
     return true;
 }
@@ -43,21 +43,21 @@ bool refuseLevel(const std::string& fileName, const LevelFault& fault) {
 
 bool Level::load(const char* fileName, Marble& playerMarble) {
     LevelFileReport report;
-    if (readLevelFile(fileName, *this, playerMarble, loadGroundTexture, report)) return true;
+    if (readLevelFile(fileName, *this, playerMarble, loadGroundTexture, report)) { return true; }
     return refuseLevel(fileName, report.fault);
 }
 
 bool Font::load(const char* baseName, const char* metricsName) {
     std::string picture;
-    if (!readMipChain(fontChain, baseName, imageLevels[0], picture)) return refuse(picture);
+    if (!readMipChain(fontChain, baseName, imageLevels[0], picture)) { return refuse(picture); }
     uploadFontTexture(*this);
-    if (!readMetrics(metricsName)) return false;
+    if (!readMetrics(metricsName)) { return false; }
     loaded = true;
     return true;
 }
 
 bool loadBestTimes() {
-    if (readBestTimes()) return true;
+    if (readBestTimes()) { return true; }
     MessageBoxA(nullptr, "Creating new highScores file", "Notice", MB_OK);
     setDefaultBestTimes();
     return true;

@@ -24,7 +24,7 @@ Controls sampleKeys() {
 } // namespace
 
 void updateSimulation() {
-    if (Game.levelDone) return;
+    if (Game.levelDone) { return; }
     const StepEvents events = stepWorld(sampleKeys());
-    if (events.reachedGoal) playEffect(goalSound);
+    if (events.reachedGoal) { playEffect(goalSound); }
 }

@@ -26,18 +26,18 @@ void create(HWND window) {
 
 // Gives everything back to the machine but the window itself.
 void shutDown(HWND window) {
-    if (Game.glContext != nullptr) wglDeleteContext(Game.glContext);
+    if (Game.glContext != nullptr) { wglDeleteContext(Game.glContext); }
     Game.glContext = nullptr;
-    if (Game.deviceContext != nullptr) ReleaseDC(window, Game.deviceContext);
+    if (Game.deviceContext != nullptr) { ReleaseDC(window, Game.deviceContext); }
     Game.deviceContext = nullptr;
     Game.stopped = 1;
-    if (Game.musicPlaying) stopMusic();
+    if (Game.musicPlaying) { stopMusic(); }
     Game.hasFocus = 0;
     PostQuitMessage(0);
 }
 
 void gainFocus() {
-    if (Game.hasFocus) return;
+    if (Game.hasFocus) { return; }
     Game.paused = 0;
     Game.hasFocus = 1;
 }

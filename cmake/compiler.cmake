@@ -3,6 +3,10 @@ add_library(glorbix_compiler INTERFACE)
 
 # The marble must roll alike on every machine: no multiply-add is contracted behind our back.
 target_compile_options(glorbix_compiler INTERFACE -ffp-contract=off)
+# With this vectorizer, GCC 12 gives other last bits at -O2 than at -O1 and than other compilers.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(glorbix_compiler INTERFACE -fno-tree-slp-vectorize)
+endif()
 target_compile_options(glorbix_compiler INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
   $<$<BOOL:${GLORBIX_WERROR}>:-Werror>)

@@ -53,10 +53,10 @@ int placeOfCandidate() {
 
 bool readBestTimes() {
     TokenReader reader;
-    if (!reader.open(bestTimesFile)) return false;
+    if (!reader.open(bestTimesFile)) { return false; }
     for (int i = 0; i < bestTimesShown; ++i) {
         BestTimeEntry& entry = bestTimes.slots[i];
-        if (!reader.readFloat(entry.time) || !reader.readToken(entry.name)) return false;
+        if (!reader.readFloat(entry.time) || !reader.readToken(entry.name)) { return false; }
     }
     return true;
 }
@@ -70,9 +70,7 @@ void setDefaultBestTimes() {
 
 bool saveBestTimes() {
     std::string why;
-    if (replaceFile(bestTimesFile, textOfTable(), why)) {
-        return true;
-    }
+    if (replaceFile(bestTimesFile, textOfTable(), why)) { return true; }
     std::fprintf(stderr, "glorbix: the best times are not saved: %s: %s\n", bestTimesFile,
                  why.c_str());
     return false;
@@ -86,7 +84,7 @@ bool finishRun() {
     setEntry(bestTimes.slots[candidateSlot], totalOfRun(), candidateName);
     sortTable();
     Game.newBestEntry = placeOfCandidate();
-    if (Game.newBestEntry < 0) return false;
+    if (Game.newBestEntry < 0) { return false; }
     Game.screen = Screen::NameEntry;
     Game.lastKey = 0;
     Game.nameCursor = 0; // a name that was never finished does not shorten this one

@@ -19,8 +19,8 @@ BitmapInfo parseBitmapInfo(const std::uint8_t (&infoHeader)[bitmapInfoHeaderSize
 }
 
 std::int64_t pixelBytes(const BitmapInfo& info) {
-    if (info.bitsPerPixel != 8 * bytesPerPixel) return -1;
-    if (info.width < 0 || info.height < 0) return -1;
+    if (info.bitsPerPixel != 8 * bytesPerPixel) { return -1; }
+    if (info.width < 0 || info.height < 0) { return -1; }
     return std::int64_t{bytesPerPixel} * info.width * info.height;
 }
 

@@ -11,11 +11,11 @@ namespace {
 std::string whyNotReadable(const std::string& fileName) {
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(fileName, error);
-    if (status.type() == std::filesystem::file_type::not_found) return "there is no such file";
-    if (error) return error.message();
-    if (!is_regular_file(status)) return "it is not a file";
+    if (status.type() == std::filesystem::file_type::not_found) { return "there is no such file"; }
+    if (error) { return error.message(); }
+    if (!is_regular_file(status)) { return "it is not a file"; }
     const std::uintmax_t size = std::filesystem::file_size(fileName, error);
-    if (error) return error.message();
+    if (error) { return error.message(); }
     return size > largestFile ? "it is longer than 16 MiB" : "";
 }
 
@@ -23,10 +23,10 @@ std::string whyNotReadable(const std::string& fileName) {
 
 bool readWholeFile(const std::string& fileName, std::string& into, std::string& why) {
     why = whyNotReadable(fileName);
-    if (!why.empty()) return false;
+    if (!why.empty()) { return false; }
     std::ifstream file(fileName, std::ios::in | std::ios::binary);
     into.assign(std::istreambuf_iterator<char>(file), {});
-    if (file.is_open() && !file.bad()) return true;
+    if (file.is_open() && !file.bad()) { return true; }
     why = "it cannot be opened and read";
     return false;
 }

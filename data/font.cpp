@@ -23,13 +23,13 @@ Font::Font()
 
 bool Font::readMetrics(const char* fileName) {
     TokenReader reader;
-    if (!reader.open(fileName)) return false;
-    if (!reader.readInteger(firstChar) || firstChar < 0) return false;
-    if (!reader.readInteger(lastChar)) return false;
+    if (!reader.open(fileName)) { return false; }
+    if (!reader.readInteger(firstChar) || firstChar < 0) { return false; }
+    if (!reader.readInteger(lastChar)) { return false; }
     do {
         char character = 0;
-        if (!reader.readCharacter(character)) return false;
-        if (!readGlyph(reader, *this, character)) return false;
+        if (!reader.readCharacter(character)) { return false; }
+        if (!readGlyph(reader, *this, character)) { return false; }
     } while (!reader.atEnd());
     return true;
 }
@@ -64,7 +64,7 @@ bool Font::isDrawable(char character) const {
 }
 
 float Font::advanceOf(char character) const {
-    if (!isDrawable(character)) return gapWidth * scale;
+    if (!isDrawable(character)) { return gapWidth * scale; }
     const auto code = static_cast<unsigned char>(character);
     return (glyphRight[code] - glyphLeft[code]) * scale;
 }

@@ -27,7 +27,7 @@ struct LevelReading {
 
 std::optional<Directive> directiveOf(const char* token) {
     for (int i = 0; i < directiveCount; ++i) {
-        if (std::strcmp(token, directiveKeys[i]) == 0) return static_cast<Directive>(i);
+        if (std::strcmp(token, directiveKeys[i]) == 0) { return static_cast<Directive>(i); }
     }
     return {};
 }
@@ -44,7 +44,7 @@ unsigned blueOf(std::uint32_t code) {
 }
 
 bool readKey(LevelReading& reading, char (&token)[tokenCapacity], Cause whenNothingIsLeft) {
-    if (reading.tokens.readToken(token)) return true;
+    if (reading.tokens.readToken(token)) { return true; }
     const bool nothing = reading.tokens.lastToken().empty();
     return reading.refuse(nothing ? whenNothingIsLeft : Cause::TokenTooLong);
 }
@@ -56,9 +56,9 @@ bool refuseNumber(LevelReading& reading) {
 
 bool takeTexture(LevelReading& reading) {
     char baseName[tokenCapacity];
-    if (!readKey(reading, baseName, Cause::ValueMissing)) return false;
+    if (!readKey(reading, baseName, Cause::ValueMissing)) { return false; }
     std::string picture;
-    if (reading.readTexture(reading.into, baseName, picture)) return true;
+    if (reading.readTexture(reading.into, baseName, picture)) { return true; }
     reading.refuse(Cause::PictureUnreadable);
     reading.report.fault.token = picture;
     return false;
@@ -66,7 +66,7 @@ bool takeTexture(LevelReading& reading) {
 
 bool takeFogColour(LevelReading& reading) {
     Level& into = reading.into;
-    if (!reading.tokens.readUnsigned(into.fogColourCode)) return refuseNumber(reading);
+    if (!reading.tokens.readUnsigned(into.fogColourCode)) { return refuseNumber(reading); }
     into.fogColour[0] = static_cast<float>(redOf(into.fogColourCode) / 255.0);
     into.fogColour[1] = static_cast<float>(greenOf(into.fogColourCode) / 255.0);
     into.fogColour[2] = static_cast<float>(blueOf(into.fogColourCode) / 255.0);
@@ -76,7 +76,7 @@ bool takeFogColour(LevelReading& reading) {
 
 bool takeMarbleColour(LevelReading& reading) {
     std::uint32_t& code = reading.into.marbleColourCode;
-    if (!reading.tokens.readUnsigned(code)) return refuseNumber(reading);
+    if (!reading.tokens.readUnsigned(code)) { return refuseNumber(reading); }
     reading.playerMarble.setColour(static_cast<float>(redOf(code)),
                                    static_cast<float>(greenOf(code)),
                                    static_cast<float>(blueOf(code)));
@@ -85,14 +85,14 @@ bool takeMarbleColour(LevelReading& reading) {
 
 bool takeHoleCount(LevelReading& reading) {
     std::int32_t count = 0;
-    if (!reading.tokens.readInteger(count)) return refuseNumber(reading);
-    if (count < 0 || count > mostHoles) return reading.refuse(Cause::HoleCountInvalid);
+    if (!reading.tokens.readInteger(count)) { return refuseNumber(reading); }
+    if (count < 0 || count > mostHoles) { return reading.refuse(Cause::HoleCountInvalid); }
     return reading.into.makeHoles(count) || reading.refuse(Cause::OutOfMemory);
 }
 
 bool takeHole(LevelReading& reading, Hole& hole) {
     for (float* number : {&hole.x, &hole.y, &hole.width, &hole.depth}) {
-        if (!reading.tokens.readFloat(*number)) return reading.refuse(Cause::HoleMalformed);
+        if (!reading.tokens.readFloat(*number)) { return reading.refuse(Cause::HoleMalformed); }
         ++reading.report.fault.number;
     }
     return true;
@@ -102,7 +102,7 @@ bool takeHoles(LevelReading& reading) {
     reading.report.fault.number = 0;
     reading.report.fault.holeCount = reading.into.holeCount;
     for (Hole& hole : reading.into.allHoles()) {
-        if (!takeHole(reading, hole)) return false;
+        if (!takeHole(reading, hole)) { return false; }
     }
     char token[tokenCapacity];
     const bool ended = reading.tokens.readToken(token) && std::strcmp(token, endOfHoles) == 0;
@@ -126,8 +126,8 @@ bool takeDirective(LevelReading& reading, Directive directive) {
 bool readDirectiveKey(LevelReading& reading, char (&token)[tokenCapacity]) {
     const TextPlace before = reading.tokens.place();
     const bool first = reading.tokens.next == 0;
-    if (readKey(reading, token, first ? Cause::FileEmpty : Cause::TrailingSpace)) return true;
-    if (reading.report.fault.cause == Cause::TrailingSpace) reading.report.fault.place = before;
+    if (readKey(reading, token, first ? Cause::FileEmpty : Cause::TrailingSpace)) { return true; }
+    if (reading.report.fault.cause == Cause::TrailingSpace) { reading.report.fault.place = before; }
     return false;
 }
 
@@ -136,10 +136,10 @@ bool readDirectiveKey(LevelReading& reading, char (&token)[tokenCapacity]) {
 bool takeDirectives(LevelReading& reading) {
     do {
         char token[tokenCapacity];
-        if (!readDirectiveKey(reading, token)) return false;
+        if (!readDirectiveKey(reading, token)) { return false; }
         const std::optional<Directive> directive = directiveOf(token);
-        if (!directive) return reading.refuse(Cause::UnknownToken);
-        if (!takeDirective(reading, *directive)) return false;
+        if (!directive) { return reading.refuse(Cause::UnknownToken); }
+        if (!takeDirective(reading, *directive)) { return false; }
     } while (!reading.tokens.atEnd());
     return true;
 }
@@ -155,6 +155,6 @@ bool readLevelFile(const char* fileName, Level& into, Marble& playerMarble,
         report.fault.token = reading.tokens.why;
         return false;
     }
-    if (!takeDirectives(reading)) return false;
+    if (!takeDirectives(reading)) { return false; }
     return into.buildMesh() || reading.refuse(Cause::OutOfMemory);
 }

@@ -17,7 +17,7 @@ constexpr std::int32_t mostLevels = 100'000;
 bool allocateList(std::int32_t count) {
     const auto n = static_cast<std::size_t>(count);
     Game.levelTimes.reset(new (std::nothrow) float[n]);
-    if (!Game.levelTimes) return false;
+    if (!Game.levelTimes) { return false; }
     Game.levelFiles.reset(new (std::nothrow) std::unique_ptr<char[]>[n]);
     return Game.levelFiles != nullptr;
 }
@@ -25,7 +25,7 @@ bool allocateList(std::int32_t count) {
 bool readLevelName(TokenReader& reader, std::unique_ptr<char[]>& name) {
     name.reset(new (std::nothrow) char[LEVEL_NAME_CAPACITY]);
     char token[tokenCapacity];
-    if (!name || !reader.readToken(token)) return false;
+    if (!name || !reader.readToken(token)) { return false; }
     std::memcpy(name.get(), token, sizeof token);
     return true;
 }
@@ -34,15 +34,15 @@ bool readLevelName(TokenReader& reader, std::unique_ptr<char[]>& name) {
 
 bool loadLevelList() {
     TokenReader reader;
-    if (!reader.open(levelListFile)) return false;
+    if (!reader.open(levelListFile)) { return false; }
     Game.levelCount = 0;
     reader.readInteger(Game.levelCount);
-    if (Game.levelCount <= 0 || Game.levelCount > mostLevels) return false;
-    if (!allocateList(Game.levelCount)) return false;
+    if (Game.levelCount <= 0 || Game.levelCount > mostLevels) { return false; }
+    if (!allocateList(Game.levelCount)) { return false; }
     const auto count = static_cast<std::size_t>(Game.levelCount);
     for (std::size_t i = 0; i < count; ++i) {
         Game.levelTimes[i] = levelTime;
-        if (!readLevelName(reader, Game.levelFiles[i])) return false;
+        if (!readLevelName(reader, Game.levelFiles[i])) { return false; }
     }
     return reader.atEnd();
 }

@@ -43,9 +43,7 @@ std::string targetOf(const std::string& name) {
     std::error_code error;
     for (int links = 0; links < mostLinks; ++links) {
         const std::filesystem::path next = std::filesystem::read_symlink(file, error);
-        if (error) {
-            break;
-        }
+        if (error) { break; }
         file = file.parent_path() / next;
     }
     return file.string();
@@ -60,12 +58,8 @@ bool fail(std::string& why) {
 bool writeAt(const Descriptor& file, std::string_view bytes, off_t offset, std::string& why) {
     while (!bytes.empty()) {
         const ssize_t written = pwrite(file.number, bytes.data(), bytes.size(), offset);
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
-            return fail(why);
-        }
+        if (written < 0 && errno == EINTR) { continue; }
+        if (written <= 0) { return fail(why); }
         bytes.remove_prefix(static_cast<std::size_t>(written));
         offset += written;
     }
@@ -83,9 +77,7 @@ void flushFolderOf(const std::string& name) {
     const Descriptor opened(
         open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     std::string ignored;
-    if (opened.isOpen()) {
-        flush(opened, ignored);
-    }
+    if (opened.isOpen()) { flush(opened, ignored); }
 }
 
 int createOnly(const std::string& name, mode_t mode) {
@@ -94,9 +86,7 @@ int createOnly(const std::string& name, mode_t mode) {
 
 int createAnew(const std::string& name, mode_t mode) {
     const int file = createOnly(name, mode);
-    if (file >= 0 || errno != EEXIST || unlink(name.c_str()) != 0) {
-        return file;
-    }
+    if (file >= 0 || errno != EEXIST || unlink(name.c_str()) != 0) { return file; }
     return createOnly(name, mode);
 }
 
@@ -115,9 +105,7 @@ Outcome writeBeside(const std::string& beside, const struct stat* old, std::stri
         fail(why);
         return Outcome::NotPossible;
     }
-    if (!writeAt(file, contents, 0, why) || !flush(file, why)) {
-        return Outcome::Failed;
-    }
+    if (!writeAt(file, contents, 0, why) || !flush(file, why)) { return Outcome::Failed; }
     return file.close() || fail(why) ? Outcome::Done : Outcome::Failed;
 }
 
@@ -139,16 +127,10 @@ Outcome replaceByRename(const std::string& name, const struct stat* old, std::st
 
 // Blanks at the end of the file, until it is long enough; false when they do not fit.
 bool makeRoom(const Descriptor& file, off_t oldLength, off_t newLength, std::string& why) {
-    if (newLength <= oldLength) {
-        return true;
-    }
+    if (newLength <= oldLength) { return true; }
     const std::string blanks(static_cast<std::size_t>(newLength - oldLength), ' ');
-    if (writeAt(file, blanks, oldLength, why) && flush(file, why)) {
-        return true;
-    }
-    if (ftruncate(file.number, oldLength) != 0) {
-        why += "; blanks stay at its end";
-    }
+    if (writeAt(file, blanks, oldLength, why) && flush(file, why)) { return true; }
+    if (ftruncate(file.number, oldLength) != 0) { why += "; blanks stay at its end"; }
     return false;
 }
 
@@ -176,9 +158,7 @@ bool replaceFile(const std::string& name, std::string_view contents, std::string
         return replaceByRename(target, nullptr, contents, why) == Outcome::Done;
     }
     struct stat status = {};
-    if (!old.isOpen() || fstat(old.number, &status) != 0) {
-        return fail(why);
-    }
+    if (!old.isOpen() || fstat(old.number, &status) != 0) { return fail(why); }
     const Outcome outcome = replaceByRename(target, &status, contents, why);
     return outcome == Outcome::Done ||
            (outcome == Outcome::NotPossible && writeOver(old, status.st_size, contents, why));

@@ -20,13 +20,13 @@ constexpr const char* whiteSpace = " \t\n\v\f\r";
 // Steps over a sign; whether it was a minus.
 bool takeSign(const char*& text) {
     const bool negative = *text == '-';
-    if (negative || *text == '+') ++text;
+    if (negative || *text == '+') { ++text; }
     return negative;
 }
 
 // Steps over the prefix that tells the base of an integer.
 int takeBase(const char*& text) {
-    if (text[0] != '0' || text[1] == '\0') return 10;
+    if (text[0] != '0' || text[1] == '\0') { return 10; }
     if (text[1] == 'x' || text[1] == 'X') {
         text += 2;
         return 16;
@@ -41,7 +41,7 @@ bool parseInteger(const char* token, std::int64_t& value) {
     const char* end = token + std::strlen(token);
     std::int64_t magnitude = 0;
     const auto [stop, error] = std::from_chars(token, end, magnitude, base);
-    if (error == std::errc::invalid_argument || stop != end || *token == '-') return false;
+    if (error == std::errc::invalid_argument || stop != end || *token == '-') { return false; }
     if (error == std::errc::result_out_of_range) {
         magnitude = std::numeric_limits<std::int64_t>::max();
     }
@@ -59,11 +59,11 @@ std::size_t takeDigits(const char*& text) {
 // Digits, optional point and fraction, optional exponent, and nothing else.
 bool isDecimal(const char* text) {
     std::size_t digits = takeDigits(text);
-    if (*text == '.') digits += takeDigits(++text);
-    if (digits == 0) return false;
+    if (*text == '.') { digits += takeDigits(++text); }
+    if (digits == 0) { return false; }
     if (*text == 'e' || *text == 'E') {
         takeSign(++text);
-        if (takeDigits(text) == 0) return false;
+        if (takeDigits(text) == 0) { return false; }
     }
     return *text == '\0';
 }
@@ -72,14 +72,14 @@ bool isDecimal(const char* text) {
 // takes none, is not everywhere.
 double convertDecimal(std::string text) {
     const std::size_t point = text.find('.');
-    if (point != std::string::npos) text.replace(point, 1, std::localeconv()->decimal_point);
+    if (point != std::string::npos) { text.replace(point, 1, std::localeconv()->decimal_point); }
     return std::strtod(text.c_str(), nullptr);
 }
 
 // A number too near to 0 for a float is 0.
 bool parseFloat(const char* token, float& value) {
     const bool negative = takeSign(token);
-    if (!isDecimal(token)) return false;
+    if (!isDecimal(token)) { return false; }
     const double magnitude = convertDecimal(token);
     value = static_cast<float>(negative ? -magnitude : magnitude);
     return !std::isinf(value);
@@ -90,7 +90,7 @@ template <typename T>
 bool readIntegerAs(TokenReader& reader, T& value) {
     char token[tokenCapacity];
     std::int64_t wide = 0;
-    if (!reader.readToken(token)) return false;
+    if (!reader.readToken(token)) { return false; }
     if (!parseInteger(token, wide) || wide < std::numeric_limits<T>::min() ||
         wide > std::numeric_limits<T>::max()) {
         reader.failed = true;
@@ -108,24 +108,24 @@ bool TokenReader::open(const char* fileName) {
 }
 
 bool TokenReader::readToken(char (&token)[tokenCapacity]) {
-    if (failed) return false;
+    if (failed) { return false; }
     last = std::min(text.find_first_not_of(whiteSpace, next), text.size());
     next = std::min(text.find_first_of(whiteSpace, last), text.size());
     reachedEnd = next == text.size();
     const std::size_t length = next - last;
     const bool holdsZero = std::memchr(text.data() + last, '\0', length) != nullptr;
     failed = length == 0 || length >= tokenCapacity || holdsZero;
-    if (failed) return false;
+    if (failed) { return false; }
     std::memcpy(token, text.data() + last, length);
     token[length] = '\0';
     return true;
 }
 
 bool TokenReader::readCharacter(char& character) {
-    if (failed) return false;
+    if (failed) { return false; }
     last = std::min(text.find_first_not_of(whiteSpace, next), text.size());
     failed = reachedEnd = last == text.size();
-    if (failed) return false;
+    if (failed) { return false; }
     character = text[last];
     next = last + 1;
     return true;
@@ -141,8 +141,8 @@ bool TokenReader::readUnsigned(std::uint32_t& value) {
 
 bool TokenReader::readFloat(float& value) {
     char token[tokenCapacity];
-    if (!readToken(token)) return false;
-    if (parseFloat(token, value)) return true;
+    if (!readToken(token)) { return false; }
+    if (parseFloat(token, value)) { return true; }
     failed = true;
     return false;
 }

@@ -70,7 +70,7 @@ void setGroundState(const Level& ground, bool fogOn) {
 
 // Projects a vertex on its first use in this call: NDC x and y, and the inverse depth.
 void project(GroundWalk& walk, std::size_t index) {
-    if (walk.projected[index]) return;
+    if (walk.projected[index]) { return; }
     const Vector3 q = walk.rotation * (walk.ground.groundPoints[index] - walk.eye);
     walk.ground.groundScreen[index].set(static_cast<float>(q.x * focalX / q.z),
                                         static_cast<float>(q.y * focalY / q.z),
@@ -156,14 +156,14 @@ void walkQuadrant(GroundWalk& walk, Quadrant quadrant) {
 // The column under the eye. Beyond the sides of the course the walk starts at its edge.
 int startColumnFor(const Vector3& eye) {
     const double column = eye.x * spacingsPerUnit + groundCentreColumn;
-    if (!(column > 0.0)) return 0;
+    if (!(column > 0.0)) { return 0; }
     return column < groundColumns - 1 ? static_cast<int>(column) : groundColumns - 1;
 }
 
 // The row under the point that the eye looks at; with a settled camera the marble's.
 int startRowFor(const Vector3& eye) {
     const double row = (eye.y + lookAhead) * spacingsPerUnit + groundCentreRow;
-    if (!(row > 0.0)) return 0;
+    if (!(row > 0.0)) { return 0; }
     return row < lastCellRow ? static_cast<int>(row) : lastCellRow;
 }
 

@@ -146,7 +146,7 @@ void Marble::draw(const ViewFrame& view, const Level& ground, bool normalMode) c
     drawDisc(disc, ghostly);
     setOutlineState();
     drawOutline(disc);
-    if (!normalMode) return;
+    if (!normalMode) { return; }
     const Vector3 centre = marbleCentre(ground, getPosition());
     drawNormalArrow(view, ground, centre);
     drawSlopeArrow(view, ground, centre);

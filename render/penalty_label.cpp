@@ -29,7 +29,7 @@ ScreenPoint marbleOnScreen() {
 } // namespace
 
 void drawPenaltyLabel() {
-    if (!Game.penaltyPending) return;
+    if (!Game.penaltyPending) { return; }
 
     const ScreenPoint start = marbleOnScreen();
     font.setScale(1.0F - Game.penaltyFade);

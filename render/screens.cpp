@@ -70,7 +70,7 @@ void drawStatistics() {
 
 // At the goal the clock stops for the eye, while it runs on towards the next level.
 float shownClock() {
-    if (Game.levelDone) return levelTime - Game.timeOfLevel();
+    if (Game.levelDone) { return levelTime - Game.timeOfLevel(); }
     return std::clamp(Game.clock, 0.0F, levelTime);
 }
 
@@ -85,7 +85,7 @@ void drawClock() {
 
 // "Far Sight" cannot be chosen while there is fog.
 Colour colourOf(std::int32_t item) {
-    if (item == Game.menuItem) return white;
+    if (item == Game.menuItem) { return white; }
     return item == MenuItem::FarSight && Game.fogOn ? grey : blue;
 }
 
@@ -93,8 +93,8 @@ void drawMenuLine(std::int32_t item) {
     const MenuLine& line = menuLine(item);
     setTextColour(colourOf(item));
     font.drawText(line.text);
-    if (line.option != nullptr) font.drawText(Game.*line.option ? "ON" : "OFF");
-    if (item == MenuItem::CameraLag) font.drawNumber(Game.cameraLag, 0);
+    if (line.option != nullptr) { font.drawText(Game.*line.option ? "ON" : "OFF"); }
+    if (item == MenuItem::CameraLag) { font.drawNumber(Game.cameraLag, 0); }
 }
 
 } // namespace
@@ -133,25 +133,25 @@ void drawTurboGauge() {
     glDisable(GL_FOG);
     glDisable(GL_DEPTH_TEST);
     drawGaugeFrame();
-    if (Game.turbo > 0.0F) drawGaugeBar();
+    if (Game.turbo > 0.0F) { drawGaugeBar(); }
 }
 
 void drawStatsAndClock() {
-    if (Game.showStatistics) drawStatistics();
+    if (Game.showStatistics) { drawStatistics(); }
     drawClock();
 }
 
 void drawBanner() {
-    if (Game.levelNumber != Game.bannerLevel) Game.bannerScale = bannerStartScale;
+    if (Game.levelNumber != Game.bannerLevel) { Game.bannerScale = bannerStartScale; }
     Game.bannerLevel = Game.levelNumber;
-    if (Game.bannerScale < bannerEndScale) return;
+    if (Game.bannerScale < bannerEndScale) { return; }
 
     font.setScale(Game.bannerScale);
     font.setPosition(screenCentreX - 0.5F * font.textWidth("Level 1"), 205.0F);
     setTextColour(white);
     font.drawText("Level ");
     font.drawNumber(static_cast<float>(Game.levelNumber), 0);
-    if (!Game.paused) Game.bannerScale -= Game.frameTime * Game.bannerScale * bannerShrinking;
+    if (!Game.paused) { Game.bannerScale -= Game.frameTime * Game.bannerScale * bannerShrinking; }
 }
 
 void drawMenu() {
@@ -160,6 +160,6 @@ void drawMenu() {
     font.setPosition(page.x, page.y);
     for (std::int32_t item = page.first; item <= page.last; ++item) {
         drawMenuLine(item);
-        if (item != page.last) font.drawText("\n");
+        if (item != page.last) { font.drawText("\n"); }
     }
 }

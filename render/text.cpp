@@ -15,7 +15,7 @@ constexpr double texturePerPixel = 255.0;
 
 // Towards zero; what no 32-bit integer holds becomes the nearest one that it does, nonsense 0.
 std::int32_t truncate(double value) {
-    if (std::isnan(value)) return 0;
+    if (std::isnan(value)) { return 0; }
     return static_cast<std::int32_t>(std::clamp(value, -2147483648.0, 2147483647.0));
 }
 
@@ -40,14 +40,14 @@ void setTextState() {
 } // namespace
 
 void Font::drawText(const char* text) {
-    if (!loaded) return;
+    if (!loaded) { return; }
     for (; *text != '\0'; ++text) {
         if (*text == '\n') {
             penX = lineStartX;
             penY += lineSpacing();
             continue;
         }
-        if (isDrawable(*text)) drawGlyph(*text, penX, penY);
+        if (isDrawable(*text)) { drawGlyph(*text, penX, penY); }
         penX += advanceOf(*text);
     }
 }

@@ -54,7 +54,7 @@ void upload(const TextureParameters& parameters, const MipChain& chain, const st
 void uploadGroundTexture(const Level& ground) {
     const GLuint name = groundTexture;
     GLboolean resident = GL_FALSE;
-    if (glAreTexturesResident(1, &name, &resident) == GL_TRUE) glDeleteTextures(1, &name);
+    if (glAreTexturesResident(1, &name, &resident) == GL_TRUE) { glDeleteTextures(1, &name); }
     upload(groundParameters, groundChain, ground.texturePixels[0]);
 }
 

@@ -20,7 +20,7 @@ Vector3 cameraGoal() {
     Vector3 goal = marble.getPosition() + behindAndAbove;
     for (const auto& probe : probes) {
         const float highest = level.heightAt(goal.x + probe[0], goal.y + probe[1]) - clearance;
-        if (highest < goal.z) goal.z = highest;
+        if (highest < goal.z) { goal.z = highest; }
     }
     return goal;
 }

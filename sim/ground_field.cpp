@@ -41,11 +41,11 @@ float Level::holeAt(float x, float y) const {
     const float ys = spacings(y);
     float nearest = 100000.0F;
     for (const Hole& hole : allHoles()) {
-        if (!(hole.depth > 0.0F)) continue;
+        if (!(hole.depth > 0.0F)) { continue; }
         const float w = spacings(hole.width);
         const double d = std::sqrt(squaredDistance(hole, xs, ys));
-        if (d * unitsPerSpacing < nearest) nearest = static_cast<float>(d * unitsPerSpacing);
-        if (d <= catchRadiusInWidths * w) return static_cast<float>(w * unitsPerSpacing);
+        if (d * unitsPerSpacing < nearest) { nearest = static_cast<float>(d * unitsPerSpacing); }
+        if (d <= catchRadiusInWidths * w) { return static_cast<float>(w * unitsPerSpacing); }
     }
     return nearest < nearHole ? -1.0F : 0.0F;
 }

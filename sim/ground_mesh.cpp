@@ -41,15 +41,15 @@ void Level::clearGround() {
 bool Level::makeHoles(std::int32_t count) {
     holeCount = 0;
     holes.reset(new (std::nothrow) Hole[static_cast<std::size_t>(count)]);
-    if (!holes) return false;
+    if (!holes) { return false; }
     holeCount = count;
     return true;
 }
 
 bool Level::buildMesh() {
-    if (!allocateVertices(groundPoints)) return false;
-    if (!allocateVertices(groundScreen)) return false;
-    if (!allocateVertices(groundTexCoords)) return false;
+    if (!allocateVertices(groundPoints)) { return false; }
+    if (!allocateVertices(groundScreen)) { return false; }
+    if (!allocateVertices(groundTexCoords)) { return false; }
     for (int c = 0; c < groundColumns; ++c) {
         for (int r = 0; r < groundRows; ++r) {
             placeVertex(*this, c - groundCentreColumn, r - groundCentreRow);

@@ -12,26 +12,27 @@ constexpr float clockAtStart = 46.5F; // seconds: the level's time and a count-d
 constexpr Vector3 cameraAtStart(0.0F, -3000.0F, -6000.0F); // from the marble, world units
 
 bool levelIsOver() {
-    if (Game.clock >= Game.levelEndAt) return false;
-    if (Game.levelEndAt == levelNotFinished) Game.levelNumber = Game.levelCount;
+    if (Game.clock >= Game.levelEndAt) { return false; }
+    if (Game.levelEndAt == levelNotFinished) { Game.levelNumber = Game.levelCount; }
     return true;
 }
 
 void rearmSignals() {
-    if (Game.clock < levelTime) return;
+    if (Game.clock < levelTime) { return; }
     Game.goPlayed = 0;
     Game.timeUpPlayed = 0;
 }
 
 bool timeIsUp() {
-    if (Game.clock >= 0.0F || Game.levelEndAt != levelNotFinished || Game.timeUpPlayed)
+    if (Game.clock >= 0.0F || Game.levelEndAt != levelNotFinished || Game.timeUpPlayed) {
         return false;
+    }
     Game.timeUpPlayed = 1;
     return true;
 }
 
 bool countDownIsOver() {
-    if (Game.clock > levelTime || Game.goPlayed) return false;
+    if (Game.clock > levelTime || Game.goPlayed) { return false; }
     Game.goPlayed = 1;
     return true;
 }

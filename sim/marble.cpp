@@ -9,7 +9,7 @@ constexpr float accelerationPerForce = 0.1F;
 
 Vector3 limitSpeed(const Vector3& velocity, double topSpeed) {
     // Written so that a step of no time, which leaves z undefined, is mended by the next one.
-    if (!(velocity.length() > topSpeed)) return velocity;
+    if (!(velocity.length() > topSpeed)) { return velocity; }
     return velocity.unit() * static_cast<float>(topSpeed);
 }
 

@@ -9,9 +9,9 @@ constexpr float secondsTaken = 4.0F;
 } // namespace
 
 void agePenalty() {
-    if (!Game.penaltyPending) return;
+    if (!Game.penaltyPending) { return; }
     Game.penaltyFade -= Game.frameTime;
-    if (Game.penaltyFade > 0.0F) return;
+    if (Game.penaltyFade > 0.0F) { return; }
     Game.clock -= secondsTaken;
     Game.penaltyFade = fullPenaltyFade;
     Game.penaltyPending = 0;

@@ -20,18 +20,18 @@ bool marbleIsFree() {
 void steer(const Controls& controls) {
     steeringForce.set(0.0F, 0.0F, 0.0F);
     const Vector3 p = marble.getPosition();
-    if (controls.left) steeringForce -= level.tangentXAt(p.x, p.y);
-    if (controls.right) steeringForce += level.tangentXAt(p.x, p.y);
-    if (controls.up) steeringForce += level.tangentYAt(p.x, p.y);
-    if (controls.down) steeringForce -= level.tangentYAt(p.x, p.y);
+    if (controls.left) { steeringForce -= level.tangentXAt(p.x, p.y); }
+    if (controls.right) { steeringForce += level.tangentXAt(p.x, p.y); }
+    if (controls.up) { steeringForce += level.tangentYAt(p.x, p.y); }
+    if (controls.down) { steeringForce -= level.tangentYAt(p.x, p.y); }
 }
 
 void applyTurbo(bool wanted) {
     marble.setPower(normalPower);
-    if (!wanted) return;
+    if (!wanted) { return; }
     if (Game.turbo > 0.0F) {
         marble.setPower(turboPower);
-        if (marbleIsFree()) Game.turbo -= Game.frameTime;
+        if (marbleIsFree()) { Game.turbo -= Game.frameTime; }
     } else {
         Game.turbo = 0.0F;
     }
@@ -40,7 +40,7 @@ void applyTurbo(bool wanted) {
 void penalise(StepEvents& events) {
     Game.holdTime = holdAfterReset;
     Game.penaltyPending = 1;
-    if (Game.clock < 0.0F) Game.clock = 0.0F;
+    if (Game.clock < 0.0F) { Game.clock = 0.0F; }
     events.resetMarble = true;
 }
 
@@ -51,33 +51,33 @@ void putBackFromHole(float holeWidth) {
     while (y >= courseBack && level.holeAt(0.0F, y) != 0.0F) {
         y -= stepBackPerTry;
     }
-    if (y >= courseBack) placeMarble(0.0F, y);
+    if (y >= courseBack) { placeMarble(0.0F, y); }
 }
 
 void checkHoles(StepEvents& events) {
     const Vector3 p = marble.getPosition();
     const float holeWidth = level.holeAt(p.x, p.y);
-    if (holeWidth <= 0.0F) return;
+    if (holeWidth <= 0.0F) { return; }
     putBackFromHole(holeWidth);
     penalise(events);
 }
 
 void checkSides(StepEvents& events) {
     const Vector3 p = marble.getPosition();
-    if (p.x >= courseLeft && p.x <= courseRight) return;
+    if (p.x >= courseLeft && p.x <= courseRight) { return; }
     placeMarble(0.0F, p.y);
     penalise(events);
 }
 
 void checkBack(StepEvents& events) {
     const Vector3 p = marble.getPosition();
-    if (p.y >= courseBack) return;
+    if (p.y >= courseBack) { return; }
     placeMarble(p.x, placeAfterBackExit);
     penalise(events);
 }
 
 void checkGoal(StepEvents& events) {
-    if (!(marble.getPosition().y > goalLine) || Game.levelDone) return;
+    if (!(marble.getPosition().y > goalLine) || Game.levelDone) { return; }
     Game.timeOfLevel() = levelTime - Game.clock;
     Game.levelDone = 1;
     Game.levelEndAt = Game.clock - 1.0F;
@@ -91,7 +91,7 @@ StepEvents stepWorld(const Controls& controls) {
     steer(controls);
     applyTurbo(controls.turbo);
     steeringForce = steeringForce * marble.getPower();
-    if (marbleIsFree()) marble.step(level, steeringForce, Game.frameTime);
+    if (marbleIsFree()) { marble.step(level, steeringForce, Game.frameTime); }
     checkHoles(events);
     checkSides(events);
     checkBack(events);

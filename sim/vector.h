@@ -40,7 +40,7 @@ struct Vector3 {
     // This vector with length 1; (0, 0, 0) when the length is exactly 0, with no tolerance.
     Vector3 unit() const {
         const float l = length();
-        if (l == 0.0F) return {0.0F, 0.0F, 0.0F};
+        if (l == 0.0F) { return {0.0F, 0.0F, 0.0F}; }
         const double k = 1.0 / l;
         return {static_cast<float>(x * k), static_cast<float>(y * k), static_cast<float>(z * k)};
     }

@@ -32,9 +32,12 @@ enum class MenuAction {
     RaiseCameraLag,
 };
 
+// A flag of the Game record.
+using MenuSwitch = std::uint8_t(GameRecord::*);
+
 struct MenuLine {
     const char* text;
-    std::uint8_t GameRecord::*option; // the switch shown as "ON" or "OFF" after the text; or null
+    MenuSwitch option; // the switch shown as "ON" or "OFF" after the text; or null
     MenuAction action;
     int target;
 };

@@ -66,7 +66,9 @@ struct TenBest : Story {
 
     static Lines names() {
         Lines found;
-        for (int i = 0; i < 10; ++i) found.emplace_back(bestTimes.slots[i].name);
+        for (int i = 0; i < 10; ++i) {
+            found.emplace_back(bestTimes.slots[i].name);
+        }
         return found;
     }
 };
@@ -96,12 +98,14 @@ TEST_F(TenBest, StartAfreshWithoutAWholeFile) {
          {std::string(), nine, nine + "150", nine + "x m", nine + "nan m", nine + "1e99 m",
           nine + "150 " + std::string(256, 'n'), std::string("no file")}) {
         writeFile("highScore.dat", content);
-        if (content == "no file") std::filesystem::remove("highScore.dat");
+        if (content == "no file") { std::filesystem::remove("highScore.dat"); }
         machine.lines.clear();
         EXPECT_TRUE(loadBestTimes());
         EXPECT_EQ(boxes(), Lines{"Creating new highScores file | Notice | nobody"});
         EXPECT_EQ(names(), Lines(10, "aaa")) << content;
-        for (int i = 0; i < 10; ++i) EXPECT_EQ(bestTimes.slots[i].time, 135);
+        for (int i = 0; i < 10; ++i) {
+            EXPECT_EQ(bestTimes.slots[i].time, 135);
+        }
     }
     EXPECT_FALSE(std::filesystem::exists("highScore.dat"));
     writeFile("highScore.dat", nine + "150 " + std::string(255, 'n'));
@@ -146,10 +150,11 @@ TEST_F(TenBest, AreWrittenOverWhereNoFileCanBeMade) {
 
 TEST_F(TenBest, LoseNothingOnAFullDisk) {
     const std::string before = readFile("highScore.dat");
-    for (BestTimeEntry& entry : bestTimes.slots)
+    for (BestTimeEntry& entry : bestTimes.slots) {
         std::snprintf(entry.name, tokenCapacity, "%s", std::string(250, 'n').c_str());
+    }
     for (const bool roomForAFile : {true, false}) {
-        if (!roomForAFile) fs::create_directory("highScore.dat.new");
+        if (!roomForAFile) { fs::create_directory("highScore.dat.new"); }
         EXPECT_EQ(failedSave(FullDisk()), "File too large\n");
         EXPECT_EQ(readFile("highScore.dat"), before);
         EXPECT_NE(fs::exists("highScore.dat.new"), roomForAFile);
@@ -164,9 +169,9 @@ TEST_F(TenBest, GoOnWhereTheirNameStandsForSomethingElse) {
     alarm(10); // a pipe must not keep the game waiting
     for (int kind = 0; kind < 3; ++kind) {
         fs::remove("highScore.dat");
-        if (kind == 0) mkfifo("highScore.dat", 0600);
-        if (kind == 1) fs::create_directory("highScore.dat");
-        if (kind == 2) fs::create_symlink("/dev/full", "highScore.dat");
+        if (kind == 0) { mkfifo("highScore.dat", 0600); }
+        if (kind == 1) { fs::create_directory("highScore.dat"); }
+        if (kind == 2) { fs::create_symlink("/dev/full", "highScore.dat"); }
         machine.lines.clear();
         EXPECT_TRUE(loadBestTimes());
         EXPECT_EQ(boxes(), Lines{"Creating new highScores file | Notice | nobody"});
@@ -193,7 +198,9 @@ TEST_F(TenBest, TakeARunAtItsPlace) {
 }
 
 TEST_F(TenBest, LeaveOutARunThatIsSlower) {
-    for (int i = 0; i < 10; ++i) bestTimes.slots[i].time = static_cast<float>(101 + i);
+    for (int i = 0; i < 10; ++i) {
+        bestTimes.slots[i].time = static_cast<float>(101 + i);
+    }
     finish(45, 45, 45);
     EXPECT_TRUE(Game.screen == Screen::BestTimes && Game.newBestEntry == -1 && Game.stopped);
     EXPECT_EQ(names()[9], "jjj");

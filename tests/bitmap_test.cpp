@@ -33,7 +33,9 @@ TEST_F(Bitmap, TurnsBlueGreenRedAround) {
 
 TEST_F(Bitmap, LooksOnlyAtSizeAndDepth) {
     writeBitmap("a.bmp", 2, 2);
-    for (const std::size_t offset : {0U, 10U, 14U, 30U, 53U}) changeByte(offset, 0x55);
+    for (const std::size_t offset : {0U, 10U, 14U, 30U, 53U}) {
+        changeByte(offset, 0x55);
+    }
     EXPECT_TRUE(read());
 }
 

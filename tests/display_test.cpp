@@ -14,7 +14,7 @@ struct Start : Story {
 // The program runs until its queue is empty for the third time.
 int runBriefly() {
     return runProgram([idle = 0]() mutable {
-        if (++idle == 3) PostQuitMessage(5);
+        if (++idle == 3) { PostQuitMessage(5); }
     });
 }
 
@@ -25,7 +25,7 @@ TEST_F(Start, TakesEveryStepInOrder) {
     EXPECT_EQ(runBriefly(), 5);
     std::string steps;
     for (const std::string& line : machine.lines) {
-        if (!line.starts_with("CreateFileA graphics/font/font_")) steps += line + "; ";
+        if (!line.starts_with("CreateFileA graphics/font/font_")) { steps += line + "; "; }
     }
     EXPECT_EQ(steps,
               "ChangeDisplaySettingsA 16 640 480 7; LoadIconA OpenGL Demo; RegisterClassA Glorbix; "

@@ -47,19 +47,23 @@ TEST_F(Damaged, FilesNeverBringTheGameDown) {
     writeGameFiles(
         {"fogcolor= 0xFF00FF marblecolor= 010 holecount= 2 .data 1 2 3 4 -5e1 6 7.5 8 .end"});
     feed("maps/1.map", [] {
-        if (!level.load("maps/1.map", marble)) return;
+        if (!level.load("maps/1.map", marble)) { return; }
         EXPECT_TRUE(level.holeCount >= 0 && (level.holeCount == 0 || level.holes));
         EXPECT_NE(level.groundPoints, nullptr);
     });
     feed(levelListFile, [] {
-        if (!loadLevelList()) return;
+        if (!loadLevelList()) { return; }
         ASSERT_GT(Game.levelCount, 0);
         const auto count = static_cast<std::size_t>(Game.levelCount);
-        for (std::size_t i = 0; i < count; ++i) EXPECT_NE(Game.levelFiles[i][0], '\0');
+        for (std::size_t i = 0; i < count; ++i) {
+            EXPECT_NE(Game.levelFiles[i][0], '\0');
+        }
     });
     feed(bestTimesFile, [] {
         EXPECT_TRUE(loadBestTimes());
-        for (int i = 0; i < 10; ++i) EXPECT_LT(std::strlen(bestTimes.slots[i].name), 256U);
+        for (int i = 0; i < 10; ++i) {
+            EXPECT_LT(std::strlen(bestTimes.slots[i].name), 256U);
+        }
     });
     feed(fontMetricsFile, [] { font.load(fontBaseName, fontMetricsFile); });
     feed("graphics/font/font_8.bmp", [] { font.load(fontBaseName, "none"); });

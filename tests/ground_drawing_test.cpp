@@ -122,7 +122,9 @@ TEST_F(GroundOnScreen, IsDrawnCellByCellInFourQuadrants) {
         const int triangles = draw(view);
         const std::vector<Cell> cells = expectedCells(view);
         GlCalls expected;
-        for (const Cell& cell : cells) appendCell(expected, view, cell);
+        for (const Cell& cell : cells) {
+            appendCell(expected, view, cell);
+        }
         expected.emplace_back("glFlush");
         const GlCalls actual = from(drawn(), call("glBegin", GL_TRIANGLES));
         EXPECT_EQ(triangles, 2 * static_cast<int>(cells.size()));

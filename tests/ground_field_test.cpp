@@ -42,7 +42,9 @@ TEST_F(GroundField, CatchesWithinOneAndAHalfWidths) {
         float x, y, expected;
     } cases[] = {{0, 45, 30},   {30, 30, 30}, {0, 46, -1}, {0, 240, -1},
                  {-249, 0, -1}, {251, 0, 0},  {0, 300, 0}};
-    for (const auto& c : cases) EXPECT_EQ(level.holeAt(c.x, c.y), c.expected) << c.x << ' ' << c.y;
+    for (const auto& c : cases) {
+        EXPECT_EQ(level.holeAt(c.x, c.y), c.expected) << c.x << ' ' << c.y;
+    }
 }
 
 TEST_F(GroundField, MoundsNeverCatch) {

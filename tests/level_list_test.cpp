@@ -11,7 +11,9 @@ TEST_F(LevelList, NamesTheLevelsInPlayingOrder) {
     EXPECT_STREQ(Game.levelFiles[0].get(), "one");
     EXPECT_STREQ(Game.levelFiles[1].get(), "two");
     EXPECT_STREQ(Game.levelFiles[2].get(), "three");
-    for (const float time : Game.allLevelTimes()) EXPECT_EQ(time, 45);
+    for (const float time : Game.allLevelTimes()) {
+        EXPECT_EQ(time, 45);
+    }
 }
 
 TEST_F(LevelList, EndsDirectlyAfterItsLastName) {

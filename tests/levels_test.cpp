@@ -26,7 +26,9 @@ std::vector<std::string> shippedLevels() {
     std::ifstream list(GLORBIX_GAME_DIR "/maps/maplist.dat");
     std::string word;
     list >> word;
-    while (list >> word) names.push_back(word);
+    while (list >> word) {
+        names.push_back(word);
+    }
     return names;
 }
 
@@ -71,7 +73,9 @@ TEST_P(Course, EndsARecordedDriveToTheLastBit) {
 }
 
 TEST_P(Course, GivesEveryMarbleBackAndIsGood) {
-    for (const Return& back : findReturns()) EXPECT_TRUE(back.found) << "hole " << back.hole + 1;
+    for (const Return& back : findReturns()) {
+        EXPECT_TRUE(back.found) << "hole " << back.hole + 1;
+    }
     EXPECT_EQ(checkLevels({{GetParam()}}), allWell);
 }
 

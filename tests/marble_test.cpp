@@ -6,7 +6,9 @@ using MarbleRolls = Story;
 
 namespace {
 
-void put(float x, float y) { marble.setPosition(Vector3(x, y, level.heightAt(x, y))); }
+void put(float x, float y) {
+    marble.setPosition(Vector3(x, y, level.heightAt(x, y)));
+}
 
 // The marble was put back: still, held for a second, with a penalty to come.
 void expectReset(float x, float y) {
@@ -167,7 +169,7 @@ TEST_F(MarbleRolls, BackOntoTheCourseFromItsEdges) {
         EXPECT_EQ(Game.clock == 0, c.reset) << c.x << ' ' << c.y;
         EXPECT_EQ(Game.penaltyPending, c.reset) << c.x << ' ' << c.y;
         EXPECT_TRUE(marble.getPosition().x == c.backX && marble.getPosition().y == c.backY);
-        if (c.reset) expectReset(c.backX, c.backY);
+        if (c.reset) { expectReset(c.backX, c.backY); }
     }
 }
 

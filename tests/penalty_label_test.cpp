@@ -19,8 +19,9 @@ struct PenaltyLabel : Story {
 
     static std::vector<Text> labels() {
         std::vector<Text> found;
-        for (const Text& text : textsDrawn())
-            if (text.text == "-5") found.push_back(text);
+        for (const Text& text : textsDrawn()) {
+            if (text.text == "-5") { found.push_back(text); }
+        }
         return found;
     }
 };

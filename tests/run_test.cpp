@@ -17,7 +17,7 @@ int play(std::deque<Scene> scenes) {
     const int exitCode = runProgram([&] {
         passTime(0.125);
         machine.drawn.clear();
-        if (scenes.empty() || !scenes.front().when()) return;
+        if (scenes.empty() || !scenes.front().when()) { return; }
         scenes.front().then();
         scenes.pop_front();
     });
@@ -35,7 +35,9 @@ std::function<bool()> playsLevel(int number) {
 
 std::function<void()> keys(const std::vector<int>& pressed) {
     return [pressed] {
-        for (const int key : pressed) queueMessage(WM_KEYDOWN, key);
+        for (const int key : pressed) {
+            queueMessage(WM_KEYDOWN, key);
+        }
     };
 }
 

@@ -47,8 +47,9 @@ long timesRead(const std::string& fileName) {
 
 // The one text of the frame that begins so.
 Text textLike(const std::string& start) {
-    for (const Text& text : textsDrawn())
-        if (text.text.starts_with(start)) return text;
+    for (const Text& text : textsDrawn()) {
+        if (text.text.starts_with(start)) { return text; }
+    }
     return {"no " + start, 0, 0, 0, {}};
 }
 
@@ -201,9 +202,13 @@ TEST_F(Screens, BannerOfALevelShrinksAway) {
     startAfresh();
     ASSERT_TRUE(startUp());
     startGame();
-    for (int n = 1; n < 12; ++n) pressKey(VK_F1);
+    for (int n = 1; n < 12; ++n) {
+        pressKey(VK_F1);
+    }
     double width = 10;
-    for (const char c : std::string("Level1")) width += testGlyphWidth(c);
+    for (const char c : std::string("Level1")) {
+        width += testGlyphWidth(c);
+    }
     double scale = 3;
     for (int frame = 0; frame < 3; ++frame) {
         tick(0.125);
@@ -227,7 +232,9 @@ TEST_F(Screens, LevelIsDrawnFromTheGroundToTheMenu) {
     pressKey(VK_ESCAPE);
     tick(0.1);
     Lines texts;
-    for (const Text& text : textsDrawn()) texts.push_back(text.text);
+    for (const Text& text : textsDrawn()) {
+        texts.push_back(text.text);
+    }
     EXPECT_EQ(texts, (Lines{"Turbo", "45.00", "Level 1", "-5", "NeW Game", "HIGHSCORE", "Options",
                             "Quit"}));
     const GlCalls ground = upTo(drawn(), call("glFlush"));

@@ -21,8 +21,6 @@ bool ByteWriter::writeTo(const std::filesystem::path& file) const {
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     out.close();
-    if (out.fail()) {
-        std::cerr << "cannot write " << file.string() << '\n';
-    }
+    if (out.fail()) { std::cerr << "cannot write " << file.string() << '\n'; }
     return !out.fail();
 }

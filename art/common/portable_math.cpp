@@ -23,9 +23,7 @@ double arcTangent(double x) {
 
 double sineOfTurns(double turns) {
     double t = turns - std::floor(turns + 0.5);
-    if (std::fabs(t) > 0.25) {
-        t = std::copysign(0.5, t) - t;
-    }
+    if (std::fabs(t) > 0.25) { t = std::copysign(0.5, t) - t; }
     const double x = t * 2.0 * pi;
     const double square = x * x;
     double term = x;
@@ -48,13 +46,9 @@ double cosine(double angle) {
 double angleOf(double x, double y) {
     const double across = std::fabs(x);
     const double up = std::fabs(y);
-    if (across == 0.0 && up == 0.0) {
-        return 0.0;
-    }
+    if (across == 0.0 && up == 0.0) { return 0.0; }
     double angle = up <= across ? arcTangent(up / across) : 0.5 * pi - arcTangent(across / up);
-    if (x < 0.0) {
-        angle = pi - angle;
-    }
+    if (x < 0.0) { angle = pi - angle; }
     return y < 0.0 ? -angle : angle;
 }
 

@@ -49,9 +49,7 @@ double meanInk(const GlyphCell& cell, const Skeleton& skeleton, double column, d
 
 double inkOfTexel(const GlyphCell& cell, const Skeleton& skeleton, int level, int x, int y) {
     constexpr double gather = 1.3; // side of the square that is averaged, in texels
-    if (level == 0) {
-        return inkAt(cell, skeleton, pixelOfTexel(x), pixelOfTexel(y));
-    }
+    if (level == 0) { return inkAt(cell, skeleton, pixelOfTexel(x), pixelOfTexel(y)); }
     const double pixels = static_cast<double>(usableSize) / (fontSize >> level);
     return meanInk(cell, skeleton, (x + 0.5) * pixels, (y + 0.5) * pixels, pixels * gather);
 }
@@ -86,9 +84,7 @@ std::vector<GlyphCell> layOutGlyphs() {
         const int width = letterShape(character).width;
         int* row = std::find_if(rowEnd, rowEnd + rowCount,
                                 [width](int end) { return end + width <= usableSize; });
-        if (row == rowEnd + rowCount) {
-            return {};
-        }
+        if (row == rowEnd + rowCount) { return {}; }
         const int top = static_cast<int>(row - rowEnd) * rowPitch;
         cells.push_back({character, *row, top, *row + width, top + glyphHeight});
         *row += width + columnGap;

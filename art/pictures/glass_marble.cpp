@@ -16,9 +16,7 @@ constexpr int ribbonCount = 4;
 Vector3 refract(const Vector3& direction, const Vector3& normal, double ratio) {
     const double cosine = -static_cast<double>(dot(direction, normal));
     const double rest = 1.0 - ratio * ratio * (1.0 - cosine * cosine);
-    if (rest < 0.0) {
-        return reflect(direction, normal);
-    }
+    if (rest < 0.0) { return reflect(direction, normal); }
     return (direction * static_cast<float>(ratio) +
             normal * static_cast<float>(ratio * cosine - std::sqrt(rest)))
         .unit();
@@ -35,9 +33,7 @@ RibbonSample sampleRibbons(double u, double v, double w) {
     constexpr double swirlRadius = 0.60; // at the equator
     const double outward = std::sqrt(u * u + v * v);
     const double reach = swirlRadius * std::sqrt(std::max(0.0, 1.0 - w * w));
-    if (outward > reach) {
-        return {0.0, 0};
-    }
+    if (outward > reach) { return {0.0, 0}; }
     const double turn = angleOf(u, v) + twist * w + 1.1 * outward;
     const double sector = turn / (2.0 * pi) * ribbonCount;
     const double nearest = std::floor(sector + 0.5);

@@ -164,9 +164,7 @@ Colour scalePattern(double x, double y) {
         const double dx = x - shift - column * scaleWidth;
         const double dy = y - row * rowStep - radius * 0.9;
         const double r = std::sqrt(dx * dx + dy * dy) / radius;
-        if (r > 1.0 || dy > 0.0) {
-            continue;
-        }
+        if (r > 1.0 || dy > 0.0) { continue; }
         const double tone = hash01((column + 4) % 4, (row + 16) % 8, 33);
         const Colour body = lerp(srgb(0x0c5a34), srgb(0x35b04e), 0.2 + 0.7 * tone);
         const Colour ridge = lerp(body, body * 0.45, 1.0 - smoothstep(0.0, 0.7, r));

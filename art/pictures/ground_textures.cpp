@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "art/common/portable_math.h"
-#include "data/level.h"
+#include "sim/level.h"
 
 namespace {
 

@@ -38,9 +38,7 @@ int nearestByte(double value, int bits) {
 // Rounds the sRGB values of one channel of the image and spreads the errors.
 void ditherChannel(Raster<double>& values, int bits, std::size_t channel, Image8& result) {
     const auto add = [&values](int x, int y, double error) {
-        if (x >= 0 && x < values.width && y < values.height) {
-            values.at(x, y) += error;
-        }
+        if (x >= 0 && x < values.width && y < values.height) { values.at(x, y) += error; }
     };
     for (int y = 0; y < values.height; ++y) {
         const int forward = y % 2 == 0 ? 1 : -1;
@@ -83,15 +81,16 @@ Colour srgb(std::uint32_t code) {
 
 Image8 toSrgb8(const Image& image) {
     Image8 result(image.width, image.height);
-    std::transform(image.pixels.begin(), image.pixels.end(), result.pixels.begin(),
-                   [](const Colour& c) {
-                       return Rgb8{toSrgb8(c.red), toSrgb8(c.green), toSrgb8(c.blue)};
-                   });
+    const auto convert = [](const Colour& c) {
+        return Rgb8{toSrgb8(c.red), toSrgb8(c.green), toSrgb8(c.blue)};
+    };
+    std::transform(image.pixels.begin(), image.pixels.end(), result.pixels.begin(), convert);
     return result;
 }
 
 Image8 ditherTo565(const Image& image) {
-    constexpr float Colour::*channels[] = {&Colour::red, &Colour::green, &Colour::blue};
+    using Channel = float(Colour::*);
+    constexpr Channel channels[] = {&Colour::red, &Colour::green, &Colour::blue};
     constexpr int bits[] = {5, 6, 5};
     Image8 result(image.width, image.height);
     for (std::size_t c = 0; c < 3; ++c) {

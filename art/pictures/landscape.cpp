@@ -84,9 +84,7 @@ double Landscape::hit(const Ray& ray, double limit) const {
     double above = clearance(distance);
     while (above > 0.0) {
         const bool leftTheGround = ray.direction.z > 0.0F && ray.at(distance).z > highest;
-        if (distance > limit || leftTheGround) {
-            return -1.0;
-        }
+        if (distance > limit || leftTheGround) { return -1.0; }
         before = distance;
         distance += std::max(0.4 * above, 0.5 + 0.0015 * distance);
         above = clearance(distance);
@@ -104,9 +102,7 @@ double Landscape::sunlightAt(const Vector3& point) const {
     double distance = 4.0;
     while (distance < reach && least > 0.0) {
         const Vector3 p = point + sunDirection * static_cast<float>(distance);
-        if (p.z > highest) {
-            break;
-        }
+        if (p.z > highest) { break; }
         const double above = p.z - heightAt(p.x, p.y);
         least = std::min(least, 0.5 + 7.0 * above / distance);
         distance += std::max(5.0, 0.6 * above);

@@ -46,9 +46,7 @@ bool writeFont(const path& game) {
     }
     for (int level = 0; level < fontLevels; ++level) {
         const path file = levelFile(game / fontBaseName, static_cast<std::size_t>(level));
-        if (!writeBitmap(drawFontLevel(cells, level), file)) {
-            return false;
-        }
+        if (!writeBitmap(drawFontLevel(cells, level), file)) { return false; }
     }
     return ByteWriter{fontMetrics(cells)}.writeTo(game / fontMetricsFile);
 }

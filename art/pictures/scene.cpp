@@ -76,9 +76,7 @@ MarbleShadow shadowOfMarbles(const Scene& scene, const Vector3& point, const Vec
 Colour shadeGround(const Scene& scene, const Ray& ray, double distance) {
     const Sky& sky = scene.sky;
     const double transmittance = sky.transmittance(distance);
-    if (transmittance < 0.004) {
-        return sky.haze;
-    }
+    if (transmittance < 0.004) { return sky.haze; }
     const Vector3 point = ray.at(distance);
     const Vector3 normal = scene.land.normalAt(point.x, point.y);
     const double grazing = std::max(0.12, -static_cast<double>(dot(normal, ray.direction)));
@@ -140,9 +138,7 @@ Colour shadeMarble(const Scene& scene, const GlassMarble& marble, const Ray& ray
 // Returns the light that comes back along a ray.
 Colour trace(const Scene& scene, const Ray& ray) {
     double nearest = scene.land.hit(ray, farAway);
-    if (nearest < 0.0) {
-        nearest = farAway;
-    }
+    if (nearest < 0.0) { nearest = farAway; }
     const GlassMarble* marbleSeen = nullptr;
     for (const GlassMarble& marble : scene.marbles) {
         const double distance = marble.hit(ray);
@@ -152,15 +148,9 @@ Colour trace(const Scene& scene, const Ray& ray) {
         }
     }
     const double toSign = scene.sign ? scene.sign->hit(ray) : -1.0;
-    if (toSign > 0.0 && toSign < nearest) {
-        return shadeSign(scene, ray, toSign);
-    }
-    if (marbleSeen != nullptr) {
-        return shadeMarble(scene, *marbleSeen, ray, nearest);
-    }
-    if (nearest < farAway) {
-        return shadeGround(scene, ray, nearest);
-    }
+    if (toSign > 0.0 && toSign < nearest) { return shadeSign(scene, ray, toSign); }
+    if (marbleSeen != nullptr) { return shadeMarble(scene, *marbleSeen, ray, nearest); }
+    if (nearest < farAway) { return shadeGround(scene, ray, nearest); }
     const Colour sky = scene.sky.lightFrom(ray.direction);
     return ray.depth == 0 ? sky + starlight(ray.direction) : sky;
 }

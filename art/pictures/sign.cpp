@@ -69,17 +69,13 @@ double Sign::signedDistance(const Vector3& point) const {
 }
 
 double Sign::hit(const Ray& ray) const {
-    if (ray.direction.y == 0.0F) {
-        return -1.0;
-    }
+    if (ray.direction.y == 0.0F) { return -1.0; }
     const double toFront = (origin.y - signTubeRadius - ray.origin.y) / ray.direction.y;
     const double toBack = (origin.y + signTubeRadius - ray.origin.y) / ray.direction.y;
     double distance = std::max(0.0, std::min(toFront, toBack));
     while (distance <= std::max(toFront, toBack)) {
         const double free = signedDistance(ray.at(distance));
-        if (free < 0.002 * signTubeRadius) {
-            return distance;
-        }
+        if (free < 0.002 * signTubeRadius) { return distance; }
         distance += free;
     }
     return -1.0;

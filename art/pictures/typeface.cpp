@@ -48,15 +48,9 @@ bool execute(char command, std::istringstream& text, Pen& pen) {
     Point a{};
     Point b{};
     Point end{};
-    if (command == 'W') {
-        return static_cast<bool>(text >> pen.radius);
-    }
-    if (command == 'C') {
-        text >> a.x >> a.y >> b.x >> b.y;
-    }
-    if (!(text >> end.x >> end.y)) {
-        return false;
-    }
+    if (command == 'W') { return static_cast<bool>(text >> pen.radius); }
+    if (command == 'C') { text >> a.x >> a.y >> b.x >> b.y; }
+    if (!(text >> end.x >> end.y)) { return false; }
     switch (command) {
     case 'M': pen.at = end; return true;
     case 'L': pen.lineTo(end); return true;
@@ -108,8 +102,7 @@ Skeleton readSkeleton(const std::string& text) {
     Pen pen;
     std::istringstream in(text);
     char command = 0;
-    while (in >> command && execute(command, in, pen)) {
-    }
+    while (in >> command && execute(command, in, pen)) {}
     return pen.ink;
 }
 

@@ -91,9 +91,7 @@ struct ChordPlayer {
             ++voicedChord;
             voicing = voice(chords[voicedChord], voicing, lowest, highest);
         }
-        if (sign == 'x' || sign == 'X') {
-            return voicing;
-        }
+        if (sign == 'x' || sign == 'X') { return voicing; }
         const int index = std::tolower(static_cast<unsigned char>(sign)) - 'a';
         if (index >= 0 && index <= 4) {
             const auto i = static_cast<std::size_t>(index);

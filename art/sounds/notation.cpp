@@ -32,32 +32,22 @@ bool take(std::string& text, char sign) {
 int takePitchClass(std::string& text) {
     constexpr int naturals[] = {9, 11, 0, 2, 4, 5, 7}; // a b c d e f g
     const int letter = text.empty() ? 0 : std::tolower(static_cast<unsigned char>(text[0]));
-    if (letter < 'a' || letter > 'g') {
-        refuse("\"" + text + "\" is not a note");
-    }
+    if (letter < 'a' || letter > 'g') { refuse("\"" + text + "\" is not a note"); }
     text.erase(0, 1);
     const int pitchClass = naturals[letter - 'a'];
-    if (take(text, '#')) {
-        return (pitchClass + 1) % 12;
-    }
+    if (take(text, '#')) { return (pitchClass + 1) % 12; }
     return take(text, 'b') ? (pitchClass + 11) % 12 : pitchClass;
 }
 
 // Takes a length like ":8." from the front of the text. Returns it in ticks; without one, `before`.
 int takeLength(std::string& text, int before) {
-    if (!take(text, ':')) {
-        return before;
-    }
+    if (!take(text, ':')) { return before; }
     const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
     const int divisor = digits == 1 || digits == 2 ? std::stoi(text) : 0;
-    if (divisor < 1 || divisor > 32) {
-        refuse("a length is 1 to 32");
-    }
+    if (divisor < 1 || divisor > 32) { refuse("a length is 1 to 32"); }
     text.erase(0, digits);
     int length = 4 * ticksPerQuarter / divisor;
-    if (take(text, '.')) {
-        length += length / 2;
-    }
+    if (take(text, '.')) { length += length / 2; }
     return take(text, 't') ? length * 2 / 3 : length;
 }
 
@@ -134,9 +124,7 @@ std::vector<WrittenNote> readMelody(const std::string& text, int barCount) {
         } else if (!rest && !tied) {
             notes.push_back({now, word == "'" ? length / 2 : length, pitch});
         }
-        if (tied && pitch != notes.back().pitch) {
-            refuse("a tie between two pitches");
-        }
+        if (tied && pitch != notes.back().pitch) { refuse("a tie between two pitches"); }
         tied = word == "~";
         now += length;
     }

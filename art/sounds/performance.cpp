@@ -32,12 +32,8 @@ int swingTick(int tick, double swing) {
 
 // Returns what the place in the bar adds to a note's velocity.
 int metricAccent(int tick) {
-    if (tick % ticksPerBar == 0) {
-        return 5;
-    }
-    if (tick % ticksPerQuarter == 0) {
-        return 1;
-    }
+    if (tick % ticksPerBar == 0) { return 5; }
+    if (tick % ticksPerQuarter == 0) { return 1; }
     return tick % eighth == 0 ? -3 : -6;
 }
 
@@ -50,9 +46,7 @@ int velocityOf(const ScoreNote& note, Random& random) {
 
 int nextStartOf(const std::vector<ScoreNote>& notes, std::size_t index) {
     for (std::size_t i = index + 1; i < notes.size(); ++i) {
-        if (notes[i].pitch == notes[index].pitch) {
-            return notes[i].start;
-        }
+        if (notes[i].pitch == notes[index].pitch) { return notes[i].start; }
     }
     return INT_MAX;
 }

@@ -28,9 +28,7 @@ constexpr int accent = 14; // velocity of an accented note above the others
 template <typename Value>
 const Value& lookUp(const std::map<std::string, Value>& table, const std::string& name) {
     const auto found = table.find(name);
-    if (found == table.end()) {
-        refuse("unknown name: " + name);
-    }
+    if (found == table.end()) { refuse("unknown name: " + name); }
     return found->second;
 }
 
@@ -70,9 +68,7 @@ struct ScoreReader {
         std::istringstream in(expand(line));
         std::string word;
         in >> word;
-        if (word.empty() || readHeader(word, in) || readSection(word, in)) {
-            return;
-        }
+        if (word.empty() || readHeader(word, in) || readSection(word, in)) { return; }
         for (Part& part : score.parts) {
             if (line.starts_with(part.name + ":")) {
                 in.seekg(static_cast<std::streamoff>(part.name.size() + 1));
@@ -108,9 +104,7 @@ struct ScoreReader {
         } else {
             return false;
         }
-        if (in.fail()) {
-            refuse("something is missing");
-        }
+        if (in.fail()) { refuse("something is missing"); }
         return true;
     }
 
@@ -220,9 +214,7 @@ struct ScoreReader {
             const int key = lookUp(drumKeys, name);
             for (const Hit& hit : readRhythm(restOf(in), barCount)) {
                 int velocity = velocityAt(hit.start) + (hit.sign == 'X' ? accent : 0);
-                if (hit.sign == 'o') {
-                    velocity = velocity * ghostPercent / 100;
-                }
+                if (hit.sign == 'o') { velocity = velocity * ghostPercent / 100; }
                 part.notes.push_back({start + hit.start, hit.length, key, velocity});
             }
         }
@@ -234,9 +226,7 @@ struct ScoreReader {
 Score readScore(const std::filesystem::path& file) {
     place = file.string();
     std::ifstream in(file);
-    if (!in) {
-        refuse("cannot be read");
-    }
+    if (!in) { refuse("cannot be read"); }
     ScoreReader reader;
     std::string statement;
     int number = 0;

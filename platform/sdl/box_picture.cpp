@@ -91,9 +91,7 @@ struct Brush {
     void putCharacter(char character, int x, int y, SDL_Colour colour) const {
         for (int row = 0; row < glyphHeight; ++row) {
             for (int column = 0; column < glyphWidth; ++column) {
-                if (glyphDot(character, column, row)) {
-                    fill(x + column, y + row, 1, 1, colour);
-                }
+                if (glyphDot(character, column, row)) { fill(x + column, y + row, 1, 1, colour); }
             }
         }
     }
@@ -113,9 +111,7 @@ struct Brush {
 BoxLayout layOutBox(const BoxWords& box, int scale, int roomWidth, int roomHeight) {
     for (;; --scale) {
         BoxLayout layout = layOutAt(box, scale, roomWidth);
-        if (layout.width <= roomWidth && layout.height <= roomHeight) {
-            return layout;
-        }
+        if (layout.width <= roomWidth && layout.height <= roomHeight) { return layout; }
         if (scale <= 1) {
             cutText(layout, roomHeight);
             return layout;

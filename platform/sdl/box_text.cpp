@@ -15,9 +15,7 @@ bool isPrintable(char byte) {
 std::string plainText(const std::string& text) {
     std::string plain;
     for (const char byte : text) {
-        if (byte == '\r' || continuesCharacter(byte)) {
-            continue;
-        }
+        if (byte == '\r' || continuesCharacter(byte)) { continue; }
         if (byte == '\n' || isPrintable(byte)) {
             plain += byte;
         } else {
@@ -49,9 +47,7 @@ void wrapParagraph(const std::string& paragraph, std::size_t columns,
         }
         first = false;
     }
-    if (first) {
-        lines.emplace_back();
-    }
+    if (first) { lines.emplace_back(); }
 }
 
 } // namespace
@@ -63,8 +59,6 @@ std::vector<std::string> wrapText(const std::string& text, std::size_t columns) 
     while (std::getline(paragraphs, paragraph)) {
         wrapParagraph(paragraph, columns, lines);
     }
-    if (lines.empty()) {
-        lines.emplace_back();
-    }
+    if (lines.empty()) { lines.emplace_back(); }
     return lines;
 }

@@ -15,9 +15,7 @@ constexpr int okButton = 1; // what the box answers when its one button is press
 
 bool showOwnBox(const BoxWords& words, SDL_Window* over) {
     MessageBox box;
-    if (!box.open(words, over)) {
-        return false;
-    }
+    if (!box.open(words, over)) { return false; }
     box.wait();
     box.close();
     return true;
@@ -37,13 +35,9 @@ int WINAPI MessageBoxA(HWND owner, const char* text, const char* caption, UINT t
     const BoxWords words = {caption ? caption : "Error", text ? text : "",
                             (type & MB_ICONHAND) != 0};
     complain(words.caption + ": " + words.text);
-    if (!startVideo()) {
-        return okButton;
-    }
+    if (!startVideo()) { return okButton; }
     const HWND parent = owner ? owner : currentWindow();
     SDL_Window* over = parent ? parent->sdl : nullptr;
-    if (!showOwnBox(words, over)) {
-        showBoxOfSdl(words, over);
-    }
+    if (!showOwnBox(words, over)) { showBoxOfSdl(words, over); }
     return okButton;
 }

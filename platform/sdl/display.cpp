@@ -19,7 +19,7 @@ bool fullScreenWanted() {
 }
 
 BOOL WINAPI EnumDisplaySettingsA(const char*, DWORD index, DEVMODEA* mode) {
-    if (index != 0 || !mode || !startVideo()) return FALSE;
+    if (index != 0 || !mode || !startVideo()) { return FALSE; }
     mode->dmSize = sizeof *mode;
     mode->dmFields = DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT;
     mode->dmBitsPerPel = displayDepth;
@@ -29,12 +29,13 @@ BOOL WINAPI EnumDisplaySettingsA(const char*, DWORD index, DEVMODEA* mode) {
 }
 
 LONG WINAPI ChangeDisplaySettingsA(DEVMODEA* mode, DWORD) {
-    if (mode && !isOffered(*mode)) return DISP_CHANGE_BADMODE;
-    if (mode && !startVideo()) return DISP_CHANGE_FAILED;
+    if (mode && !isOffered(*mode)) { return DISP_CHANGE_BADMODE; }
+    if (mode && !startVideo()) { return DISP_CHANGE_FAILED; }
     fullScreen = mode != nullptr;
-    if (fullScreen)
+    if (fullScreen) {
         coverScreen();
-    else
+    } else {
         uncoverScreen();
+    }
     return DISP_CHANGE_SUCCESSFUL;
 }

@@ -22,7 +22,7 @@ Errors errors;
 
 char* newText(const std::string& text) {
     auto* copy = static_cast<char*>(std::malloc(text.size() + 1));
-    if (copy) std::memcpy(copy, text.c_str(), text.size() + 1);
+    if (copy) { std::memcpy(copy, text.c_str(), text.size() + 1); }
     return copy;
 }
 
@@ -31,7 +31,7 @@ char* newText(const std::string& text) {
 void setLastError(const std::string& text) {
     auto known = std::find(errors.texts.begin(), errors.texts.end(), text);
     errors.last = static_cast<DWORD>(known - errors.texts.begin());
-    if (known == errors.texts.end()) errors.texts.push_back(text);
+    if (known == errors.texts.end()) { errors.texts.push_back(text); }
 }
 
 const std::string& lastErrorText() {
@@ -52,7 +52,7 @@ void complain(const std::string& text) {
 }
 
 void complainOnce(const std::string& text) {
-    if (errors.complaints.insert(text).second) complain(text);
+    if (errors.complaints.insert(text).second) { complain(text); }
 }
 
 DWORD WINAPI GetLastError() {
@@ -62,7 +62,7 @@ DWORD WINAPI GetLastError() {
 DWORD WINAPI FormatMessageA(DWORD flags, const void*, DWORD error, DWORD, char* buffer, DWORD,
                             void*) {
     const DWORD needed = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM;
-    if ((flags & needed) != needed || !buffer) return 0;
+    if ((flags & needed) != needed || !buffer) { return 0; }
     const bool known = error < errors.texts.size();
     const std::string text = known ? errors.texts[error] : "Error " + std::to_string(error) + ".";
     char* copy = newText(text);

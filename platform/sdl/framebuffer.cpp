@@ -21,8 +21,7 @@ bool hasFramebufferObjects() {
 }
 
 void forgetErrors() {
-    while (glGetError() != GL_NO_ERROR) {
-    }
+    while (glGetError() != GL_NO_ERROR) {}
 }
 
 // A core context refuses what the game draws with; asking for a matrix shows it.
@@ -102,7 +101,7 @@ void Framebuffer::copyToWindow(int windowWidth, int windowHeight) const {
 }
 
 void Framebuffer::release() {
-    if (name == 0) return;
+    if (name == 0) { return; }
     bindFramebuffer(GL_FRAMEBUFFER, 0);
     deleteFramebuffers(1, &name);
     deleteRenderbuffers(1, &colour);

@@ -7,37 +7,36 @@
 namespace {
 
 void takeFocus(WindowHandle& window, bool focused) {
-    if (window.focused == focused) return;
+    if (window.focused == focused) { return; }
     window.focused = focused;
     queueInput(&window, focused ? WM_SETFOCUS : WM_KILLFOCUS);
 }
 
 // Keys with Alt belong to the system. Two of them mean something, the others stay unheard.
 void takeAltKey(WindowHandle& window, int key, bool repeated) {
-    if (repeated) return;
-    if (key == VK_RETURN) toggleFullScreen();
-    if (key == VK_F4) queueInput(&window, WM_CLOSE);
+    if (repeated) { return; }
+    if (key == VK_RETURN) { toggleFullScreen(); }
+    if (key == VK_F4) { queueInput(&window, WM_CLOSE); }
 }
 
 void takeKeyDown(WindowHandle& window, const SDL_KeyboardEvent& event) {
     constexpr LPARAM onePress = 1;
     constexpr LPARAM wasDown = LPARAM{1} << 30;
     const int key = virtualKeyOf(event.keysym);
-    if (key == 0) return;
-    if (event.keysym.mod & KMOD_ALT)
+    if (key == 0) { return; }
+    if (event.keysym.mod & KMOD_ALT) {
         takeAltKey(window, key, event.repeat != 0);
-    else
+    } else {
         queueInput(&window, WM_KEYDOWN, static_cast<WPARAM>(key),
                    event.repeat ? onePress | wasDown : onePress);
+    }
 }
 
 } // namespace
 
 void takeGameWindowEvent(const SDL_WindowEvent& event) {
     const HWND window = currentWindow();
-    if (!window) {
-        return;
-    }
+    if (!window) { return; }
     switch (event.event) {
     case SDL_WINDOWEVENT_CLOSE: queueInput(window, WM_CLOSE); break;
     case SDL_WINDOWEVENT_FOCUS_GAINED: takeFocus(*window, true); break;

@@ -78,22 +78,24 @@ int digitFrom(SDL_Scancode place, SDL_Scancode one) {
 }
 
 int keypadKey(SDL_Scancode place, bool numberLock) {
-    if (place == SDL_SCANCODE_KP_PERIOD) return numberLock ? vkNumpadPoint : vkDelete;
+    if (place == SDL_SCANCODE_KP_PERIOD) { return numberLock ? vkNumpadPoint : vkDelete; }
     const int digit = digitFrom(place, SDL_SCANCODE_KP_1);
-    if (digit < 0) return 0;
+    if (digit < 0) { return 0; }
     return numberLock ? vkNumpad0 + digit : keypadNavigation[digit];
 }
 
 int functionKey(SDL_Scancode place) {
-    if (place >= SDL_SCANCODE_F1 && place <= SDL_SCANCODE_F12)
+    if (place >= SDL_SCANCODE_F1 && place <= SDL_SCANCODE_F12) {
         return VK_F1 + place - SDL_SCANCODE_F1;
-    if (place >= SDL_SCANCODE_F13 && place <= SDL_SCANCODE_F24)
+    }
+    if (place >= SDL_SCANCODE_F13 && place <= SDL_SCANCODE_F24) {
         return VK_F12 + 1 + place - SDL_SCANCODE_F13;
+    }
     return 0;
 }
 
 int letterKey(SDL_Scancode place, SDL_Keycode label) {
-    if (label >= SDLK_a && label <= SDLK_z) return 'A' + label - SDLK_a;
+    if (label >= SDLK_a && label <= SDLK_z) { return 'A' + label - SDLK_a; }
     const bool letterPlace = place >= SDL_SCANCODE_A && place <= SDL_SCANCODE_Z;
     const bool foreignLabel = label >= 0x80 && !(label & SDLK_SCANCODE_MASK);
     return letterPlace && foreignLabel ? 'A' + place - SDL_SCANCODE_A : 0;
@@ -110,18 +112,19 @@ int punctuationKey(SDL_Keycode label) {
 }
 
 int placedKey(SDL_Scancode place) {
-    for (const KeyCode& code : codesByPlace)
-        if (code.place == place) return code.key;
+    for (const KeyCode& code : codesByPlace) {
+        if (code.place == place) { return code.key; }
+    }
     return 0;
 }
 
 } // namespace
 
 int virtualKeyFor(SDL_Scancode place, SDL_Keycode label, bool numberLock) {
-    if (const int key = letterKey(place, label)) return key;
-    if (const int digit = digitFrom(place, SDL_SCANCODE_1); digit >= 0) return '0' + digit;
-    if (const int key = keypadKey(place, numberLock)) return key;
-    if (const int key = functionKey(place)) return key;
-    if (const int key = placedKey(place)) return key;
+    if (const int key = letterKey(place, label)) { return key; }
+    if (const int digit = digitFrom(place, SDL_SCANCODE_1); digit >= 0) { return '0' + digit; }
+    if (const int key = keypadKey(place, numberLock)) { return key; }
+    if (const int key = functionKey(place)) { return key; }
+    if (const int key = placedKey(place)) { return key; }
     return punctuationKey(label);
 }

@@ -39,8 +39,8 @@ bool fail(const std::string& why) {
 
 bool initVideo() {
     setHints();
-    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return fail(SDL_GetError());
-    if (!isDisplayWanted()) return fail("neither Wayland nor X11 answers");
+    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) { return fail(SDL_GetError()); }
+    if (!isDisplayWanted()) { return fail("neither Wayland nor X11 answers"); }
     setPaintHint();
     SDL_StopTextInput(); // an input method would keep the letters of the name entry to itself
     return true;

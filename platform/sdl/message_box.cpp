@@ -77,15 +77,11 @@ bool MessageBox::open(const BoxWords& box, SDL_Window* over) {
         static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned>(display)));
     sdl = SDL_CreateWindow(words.caption.c_str(), centre, centre, layout.width, layout.height,
                            SDL_WINDOW_HIDDEN | SDL_WINDOW_ALWAYS_ON_TOP | SDL_WINDOW_ALLOW_HIGHDPI);
-    if (!sdl) {
-        return false;
-    }
+    if (!sdl) { return false; }
     // X11 wants to know before the window is shown, Wayland after.
     const bool modal = !gameWindow || SDL_SetWindowModalFor(sdl, gameWindow) == 0;
     SDL_ShowWindow(sdl);
-    if (!modal) {
-        SDL_SetWindowModalFor(sdl, gameWindow);
-    }
+    if (!modal) { SDL_SetWindowModalFor(sdl, gameWindow); }
     SDL_RaiseWindow(sdl);
     SDL_ShowCursor(SDL_ENABLE);
     if (!paint()) {
@@ -99,9 +95,7 @@ bool MessageBox::paint() {
     SDL_Surface* surface = SDL_GetWindowSurface(sdl);
     int width = 0; // points
     SDL_GetWindowSize(sdl, &width, nullptr);
-    if (!surface || width <= 0) {
-        return false;
-    }
+    if (!surface || width <= 0) { return false; }
     const int pixelsInPoint = std::max(1, surface->w / width);
     const BoxLayout layout = layOutBox(words, scale * pixelsInPoint, surface->w, surface->h);
     button = paintBox(*surface, words, layout);
@@ -113,9 +107,7 @@ void MessageBox::wait() {
     for (;;) {
         SDL_Event event;
         const bool came = SDL_WaitEventTimeout(&event, answerable ? lookInterval : 1) != 0;
-        if (came ? take(event) : !answerable) {
-            return;
-        }
+        if (came ? take(event) : !answerable) { return; }
     }
 }
 
@@ -153,9 +145,7 @@ void MessageBox::takeKeyDown(const SDL_KeyboardEvent& event) {
     const SDL_Scancode key = event.keysym.scancode;
     const bool still =
         heldBefore[static_cast<std::size_t>(key)] && SDL_GetTicks64() - opened < firstRepeatWithin;
-    if (!event.repeat && !still && closesBox(event.keysym)) {
-        pressed = key;
-    }
+    if (!event.repeat && !still && closesBox(event.keysym)) { pressed = key; }
 }
 
 bool MessageBox::isOnButton(const SDL_MouseButtonEvent& event) const {
@@ -175,9 +165,7 @@ void MessageBox::close() {
     const bool hadKeyboard = SDL_GetKeyboardFocus() == sdl;
     SDL_DestroyWindow(sdl);
     sdl = nullptr;
-    if (context && SDL_GL_GetCurrentContext() != context) {
-        SDL_GL_MakeCurrent(drawnOn, context);
-    }
+    if (context && SDL_GL_GetCurrentContext() != context) { SDL_GL_MakeCurrent(drawnOn, context); }
     SDL_ShowCursor(cursor);
     if (gameWindow && hadKeyboard) {
         SDL_RaiseWindow(gameWindow);

@@ -50,43 +50,44 @@ MSG newMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 bool takeFrom(std::deque<MSG>& messages, const Wanted& wanted, bool remove, MSG* taken) {
     const auto found = std::find_if(messages.begin(), messages.end(),
                                     [&](const MSG& message) { return wanted.accepts(message); });
-    if (found == messages.end()) return false;
+    if (found == messages.end()) { return false; }
     *taken = *found;
-    if (remove) messages.erase(found);
+    if (remove) { messages.erase(found); }
     return true;
 }
 
 // The request to quit passes every filter.
 bool takeQuit(bool remove, MSG* taken) {
-    if (!queue.quitCode) return false;
+    if (!queue.quitCode) { return false; }
     *taken = newMessage(nullptr, WM_QUIT, static_cast<WPARAM>(*queue.quitCode), 0);
-    if (remove) queue.quitCode.reset();
+    if (remove) { queue.quitCode.reset(); }
     return true;
 }
 
 // The window asks until BeginPaint or the default answer has come.
 bool takePaint(const Wanted& wanted, MSG* taken) {
     const HWND window = currentWindow();
-    if (!window || !window->needsPaint) return false;
+    if (!window || !window->needsPaint) { return false; }
     *taken = newMessage(window, WM_PAINT, 0, 0);
     return wanted.accepts(*taken);
 }
 
 bool takeTimer(const Wanted& wanted, bool remove, MSG* taken) {
     const Timer* timer = dueTimer(SDL_GetTicks64());
-    if (!timer) return false;
+    if (!timer) { return false; }
     *taken = newMessage(timer->window, WM_TIMER, timer->number,
                         reinterpret_cast<LPARAM>(timer->callback));
-    if (!wanted.accepts(*taken)) return false;
-    if (remove) rewindTimer(*timer, SDL_GetTicks64());
+    if (!wanted.accepts(*taken)) { return false; }
+    if (remove) { rewindTimer(*timer, SDL_GetTicks64()); }
     return true;
 }
 
 } // namespace
 
 void queueInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (queue.input.size() < queueRoom)
+    if (queue.input.size() < queueRoom) {
         queue.input.push_back(newMessage(window, message, wParam, lParam));
+    }
 }
 
 void withdrawMessages(UINT message, WPARAM wParam) {
@@ -96,11 +97,11 @@ void withdrawMessages(UINT message, WPARAM wParam) {
 }
 
 BOOL WINAPI PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove) {
-    if (!message) return FALSE;
+    if (!message) { return FALSE; }
     const Wanted wanted = {window, first, last};
     const bool removing = (remove & PM_REMOVE) != 0;
     runSequencer();
-    if (takeFrom(queue.posted, wanted, removing, message)) return TRUE;
+    if (takeFrom(queue.posted, wanted, removing, message)) { return TRUE; }
     gatherInput();
     const bool found = takeQuit(removing, message) ||
                        takeFrom(queue.input, wanted, removing, message) ||
@@ -114,18 +115,18 @@ BOOL WINAPI TranslateMessage(const MSG* message) {
 
 LRESULT WINAPI DispatchMessageA(const MSG* message) {
     const HWND window = currentWindow();
-    if (!message) return 0;
+    if (!message) { return 0; }
     if (message->message == WM_TIMER && message->lParam != 0) {
         reinterpret_cast<TIMERPROC>(message->lParam)(message->hwnd, WM_TIMER, message->wParam,
                                                      message->time);
         return 0;
     }
-    if (!window || message->hwnd != window) return 0;
+    if (!window || message->hwnd != window) { return 0; }
     return window->procedure(window, message->message, message->wParam, message->lParam);
 }
 
 BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (queue.posted.size() >= queueRoom) return FALSE;
+    if (queue.posted.size() >= queueRoom) { return FALSE; }
     queue.posted.push_back(newMessage(window, message, wParam, lParam));
     return TRUE;
 }

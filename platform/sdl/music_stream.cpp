@@ -58,9 +58,7 @@ struct Stream {
     void append(std::span<const std::int16_t> block, bool isLast) {
         queue.insert(queue.end(), block.begin(), block.end());
         rendered = isLast;
-        if (rendered || queue.size() >= samplesToStart) {
-            phase = Phase::Sounding;
-        }
+        if (rendered || queue.size() >= samplesToStart) { phase = Phase::Sounding; }
     }
 };
 
@@ -85,16 +83,12 @@ int SDLCALL renderMusic(void*) {
     std::unique_lock lock(stream.mutex);
     for (;;) {
         stream.work.wait(lock, [] { return stream.stopping || stream.wantsBlock(); });
-        if (stream.stopping) {
-            return 0;
-        }
+        if (stream.stopping) { return 0; }
         const std::shared_ptr<const Order> order = stream.order;
         lock.unlock();
         const bool playable = order == current || begin(synthesizer, *order);
         current = order;
-        if (playable) {
-            synthesizer.render(block);
-        }
+        if (playable) { synthesizer.render(block); }
         lock.lock();
         if (stream.order != order) {
             continue; // halted or replaced meanwhile
@@ -112,16 +106,12 @@ void SDLCALL fillDevice(void*, Uint8* samples, int bytes) {
     const auto wanted = static_cast<std::size_t>(bytes);
     std::memset(samples, 0, wanted);
     const std::lock_guard lock(stream.mutex);
-    if (stream.phase != Phase::Sounding) {
-        return;
-    }
+    if (stream.phase != Phase::Sounding) { return; }
     const std::size_t count = std::min(stream.queue.size(), wanted / sizeof(std::int16_t));
     std::memcpy(samples, stream.queue.data(), count * sizeof(std::int16_t));
     stream.queue.erase(stream.queue.begin(),
                        stream.queue.begin() + static_cast<std::ptrdiff_t>(count));
-    if (stream.queue.empty()) {
-        stream.phase = stream.rendered ? Phase::Over : Phase::Filling;
-    }
+    if (stream.queue.empty()) { stream.phase = stream.rendered ? Phase::Over : Phase::Filling; }
     stream.work.notify_one();
 }
 
@@ -136,9 +126,7 @@ bool startRenderer() {
 } // namespace
 
 bool playMusic(std::vector<std::uint8_t> piece, std::vector<std::string> soundFonts) {
-    if (!startRenderer()) {
-        return false;
-    }
+    if (!startRenderer()) { return false; }
     auto order = std::make_shared<const Order>(Order{std::move(piece), std::move(soundFonts)});
     const std::lock_guard lock(stream.mutex);
     stream.take(std::move(order));
@@ -163,9 +151,7 @@ std::vector<std::string> takeMusicProblems() {
 
 void stopMusicStream() {
     haltMusic();
-    if (!stream.renderer) {
-        return;
-    }
+    if (!stream.renderer) { return; }
     Mix_HookMusic(nullptr, nullptr);
     {
         const std::lock_guard lock(stream.mutex);

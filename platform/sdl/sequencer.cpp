@@ -53,28 +53,18 @@ void close() {
 MCIERROR openPiece(DWORD_PTR flags, MCI_OPEN_PARMSA* request) {
     const bool complete = (flags & MCI_OPEN_TYPE) && (flags & MCI_OPEN_ELEMENT) && request &&
                           request->lpstrDeviceType && request->lpstrElementName;
-    if (!complete) {
-        return unknownParameter;
-    }
-    if (std::string(request->lpstrDeviceType) != "sequencer") {
-        return unknownDeviceType;
-    }
+    if (!complete) { return unknownParameter; }
+    if (std::string(request->lpstrDeviceType) != "sequencer") { return unknownDeviceType; }
     const std::string fileName = request->lpstrElementName;
     std::string why;
     auto file = readSoundFile(fileName, largestPiece, why);
-    if (!file) {
-        return refuse(fileNotFound, "cannot read " + fileName + ": " + why);
-    }
+    if (!file) { return refuse(fileNotFound, "cannot read " + fileName + ": " + why); }
     if (!isPlayableMidi(*file)) {
         return refuse(badFile, fileName + " is not a complete MIDI file of up to an hour");
     }
-    if (!startSound()) {
-        return deviceNotReady;
-    }
+    if (!startSound()) { return deviceNotReady; }
     auto soundFonts = findSoundFonts(why);
-    if (soundFonts.empty()) {
-        return refuse(deviceNotReady, why);
-    }
+    if (soundFonts.empty()) { return refuse(deviceNotReady, why); }
     close();
     open = {++lastDevice, std::move(*file), std::move(soundFonts), nullptr};
     request->wDeviceID = open.device;
@@ -82,9 +72,7 @@ MCIERROR openPiece(DWORD_PTR flags, MCI_OPEN_PARMSA* request) {
 }
 
 MCIERROR playPiece(DWORD_PTR flags, const MCI_PLAY_PARMS* request) {
-    if ((flags & MCI_NOTIFY) && !request) {
-        return unknownParameter;
-    }
+    if ((flags & MCI_NOTIFY) && !request) { return unknownParameter; }
     if (!playMusic(open.file, open.soundFonts)) {
         return refuse(deviceNotReady, "the system gives no thread to play it");
     }
@@ -95,9 +83,7 @@ MCIERROR playPiece(DWORD_PTR flags, const MCI_PLAY_PARMS* request) {
 MCIERROR tellStatus(DWORD_PTR flags, MCI_STATUS_PARMS* request) {
     const bool asksPort =
         (flags & MCI_STATUS_ITEM) && request && request->dwItem == MCI_SEQ_STATUS_PORT;
-    if (!asksPort) {
-        return unknownParameter;
-    }
+    if (!asksPort) { return unknownParameter; }
     request->dwReturn = 0; // the first and only port
     return 0;
 }
@@ -108,9 +94,7 @@ void runSequencer() {
     for (const std::string& problem : takeMusicProblems()) {
         complainOnce(problem);
     }
-    if (!open.listener || !isMusicOver()) {
-        return;
-    }
+    if (!open.listener || !isMusicOver()) { return; }
     PostMessageA(open.listener, MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL,
                  static_cast<LPARAM>(open.device));
     open.listener = nullptr;
@@ -126,9 +110,7 @@ MCIERROR WINAPI mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flag
     if (command == MCI_OPEN) {
         return openPiece(flags, reinterpret_cast<MCI_OPEN_PARMSA*>(parameters));
     }
-    if (device == 0 || device != open.device) {
-        return wrongDevice;
-    }
+    if (device == 0 || device != open.device) { return wrongDevice; }
     switch (command) {
     case MCI_CLOSE: close(); return 0;
     case MCI_PLAY: return playPiece(flags, reinterpret_cast<MCI_PLAY_PARMS*>(parameters));

@@ -58,25 +58,19 @@ bool openDevice() {
 
 Chunk load(const std::string& fileName, std::string& why) {
     const auto file = readSoundFile(fileName, largestEffect, why);
-    if (!file) {
-        return {};
-    }
+    if (!file) { return {}; }
     SDL_RWops* bytes = SDL_RWFromConstMem(file->data(), static_cast<int>(file->size()));
     Chunk loaded(bytes ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
-    if (!loaded) {
-        why = SDL_GetError();
-    }
+    if (!loaded) { why = SDL_GetError(); }
     return loaded;
 }
 
 Mix_Chunk* effectNamed(const std::string& fileName) {
     const auto known = sound.effects.find(fileName);
-    if (known != sound.effects.end()) return known->second.get();
+    if (known != sound.effects.end()) { return known->second.get(); }
     std::string why;
     Chunk loaded = load(fileName, why);
-    if (!loaded) {
-        complain("cannot play " + fileName + ": " + why);
-    }
+    if (!loaded) { complain("cannot play " + fileName + ": " + why); }
     return sound.effects.emplace(fileName, std::move(loaded)).first->second.get();
 }
 
@@ -107,32 +101,28 @@ BOOL play(Mix_Chunk* chunk) {
 } // namespace
 
 bool startSound() {
-    if (!sound.tried) sound.open = openDevice();
+    if (!sound.tried) { sound.open = openDevice(); }
     sound.tried = true;
     return sound.open;
 }
 
 void stopSound() {
     const bool wasOpen = sound.open;
-    if (wasOpen) {
-        Mix_HaltChannel(-1);
-    }
+    if (wasOpen) { Mix_HaltChannel(-1); }
     sound = {};
-    if (!wasOpen) {
-        return;
-    }
+    if (!wasOpen) { return; }
     Mix_CloseAudio();
     SDL_QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 BOOL WINAPI PlaySoundA(const char* fileName, HMODULE, DWORD flags) {
     const DWORD needed = SND_ASYNC | SND_FILENAME;
-    if (!fileName || (flags & needed) != needed || !startSound()) return FALSE;
+    if (!fileName || (flags & needed) != needed || !startSound()) { return FALSE; }
     return play(effectNamed(fileName));
 }
 
 BOOL WINAPI MessageBeep(UINT) {
-    if (!startSound()) return FALSE;
-    if (!sound.beep) makeBeep();
+    if (!startSound()) { return FALSE; }
+    if (!sound.beep) { makeBeep(); }
     return play(sound.beep.get());
 }

@@ -19,21 +19,15 @@ struct OpenFile {
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile() {
-        if (number >= 0) {
-            close(number);
-        }
+        if (number >= 0) { close(number); }
     }
 };
 
 // Empty when the file can be read, otherwise the cause.
 std::string problemOf(const OpenFile& file) {
     struct stat kind = {};
-    if (file.number < 0 || fstat(file.number, &kind) != 0) {
-        return std::strerror(errno);
-    }
-    if (S_ISDIR(kind.st_mode)) {
-        return "it is a folder";
-    }
+    if (file.number < 0 || fstat(file.number, &kind) != 0) { return std::strerror(errno); }
+    if (S_ISDIR(kind.st_mode)) { return "it is a folder"; }
     return S_ISREG(kind.st_mode) ? "" : "it is not a regular file";
 }
 
@@ -53,12 +47,8 @@ std::optional<std::vector<std::uint8_t>> readSoundFile(const std::string& fileNa
             break;
         }
         bytes.resize(old + static_cast<std::size_t>(got));
-        if (got == 0) {
-            return bytes;
-        }
-        if (bytes.size() > limit) {
-            why = "it is larger than " + std::to_string(limit) + " bytes";
-        }
+        if (got == 0) { return bytes; }
+        if (bytes.size() > limit) { why = "it is larger than " + std::to_string(limit) + " bytes"; }
     }
     return {};
 }

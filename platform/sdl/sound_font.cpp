@@ -30,9 +30,7 @@ std::vector<std::string> split(const std::string& list, char separator) {
 }
 
 void addExisting(std::vector<std::string>& fonts, const std::string& path) {
-    if (exists(path)) {
-        fonts.push_back(path);
-    }
+    if (exists(path)) { fonts.push_back(path); }
 }
 
 // A path may hold a ':' itself.

@@ -53,7 +53,7 @@ HWND windowOf(HDC deviceContext) {
 SDL_GLContext openContext(SDL_Window* window) {
     SDL_GL_SetAttribute(SDL_GL_CONTEXT_PROFILE_MASK, SDL_GL_CONTEXT_PROFILE_COMPATIBILITY);
     SDL_GLContext context = SDL_GL_CreateContext(window);
-    if (context) return context;
+    if (context) { return context; }
     SDL_GL_SetAttribute(SDL_GL_CONTEXT_PROFILE_MASK, 0);
     return SDL_GL_CreateContext(window);
 }
@@ -66,14 +66,14 @@ bool failPrepare(const std::string& why) {
 
 // Makes context and surface unless they are there, and leaves them unbound: the game binds.
 bool prepareSurface(const WindowHandle& window) {
-    if (surface.sdl) return true;
+    if (surface.sdl) { return true; }
     surface.sdl = window.whyPlain.empty() ? openContext(window.sdl) : nullptr;
     if (!surface.sdl) {
         const std::string why = window.whyPlain.empty() ? SDL_GetError() : window.whyPlain;
         return failPrepare("OpenGL could not be started: " + why + ".");
     }
     std::string why;
-    if (!surface.framebuffer.make(why)) return failPrepare(why);
+    if (!surface.framebuffer.make(why)) { return failPrepare(why); }
     SDL_GL_SetSwapInterval(1);
     SDL_GL_MakeCurrent(window.sdl, nullptr);
     return true;
@@ -102,8 +102,8 @@ void prepareSurfaceAttributes() {
 }
 
 void stopSurface() {
-    if (!surface.sdl) return;
-    if (isCurrent()) surface.framebuffer.release();
+    if (!surface.sdl) { return; }
+    if (isCurrent()) { surface.framebuffer.release(); }
     SDL_GL_DeleteContext(surface.sdl);
     surface = {};
 }
@@ -128,42 +128,44 @@ int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wan
 int WINAPI DescribePixelFormat(HDC deviceContext, int format, UINT size,
                                PIXELFORMATDESCRIPTOR* description) {
     static constexpr PIXELFORMATDESCRIPTOR known = describeFormat();
-    if (!windowOf(deviceContext) || format != onlyFormat) return 0;
-    if (description) std::memcpy(description, &known, std::min<std::size_t>(size, sizeof known));
+    if (!windowOf(deviceContext) || format != onlyFormat) { return 0; }
+    if (description) {
+        std::memcpy(description, &known, std::min<std::size_t>(size, sizeof known));
+    }
     return onlyFormat; // also the highest number there is
 }
 
 BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCRIPTOR*) {
-    if (windowOf(deviceContext) && format == onlyFormat && surface.sdl) return TRUE;
+    if (windowOf(deviceContext) && format == onlyFormat && surface.sdl) { return TRUE; }
     setLastError("The window has no such pixel format.");
     return FALSE;
 }
 
 HGLRC WINAPI wglCreateContext(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
-    if (!window || surface.given || machineFailed() || !prepareSurface(*window)) return nullptr;
+    if (!window || surface.given || machineFailed() || !prepareSurface(*window)) { return nullptr; }
     surface.given = true;
     return &surface;
 }
 
 BOOL WINAPI wglMakeCurrent(HDC deviceContext, HGLRC context) {
     const HWND window = windowOf(deviceContext);
-    if (!context) return SDL_GL_MakeCurrent(nullptr, nullptr) == 0 ? TRUE : FALSE;
-    if (!window || context != &surface || !surface.sdl) return FALSE;
-    if (SDL_GL_MakeCurrent(window->sdl, surface.sdl) != 0) return FALSE;
+    if (!context) { return SDL_GL_MakeCurrent(nullptr, nullptr) == 0 ? TRUE : FALSE; }
+    if (!window || context != &surface || !surface.sdl) { return FALSE; }
+    if (SDL_GL_MakeCurrent(window->sdl, surface.sdl) != 0) { return FALSE; }
     surface.framebuffer.bind();
     return TRUE;
 }
 
 BOOL WINAPI wglDeleteContext(HGLRC context) {
-    if (context != &surface || !surface.given) return FALSE;
+    if (context != &surface || !surface.given) { return FALSE; }
     stopSurface();
     return TRUE;
 }
 
 BOOL WINAPI SwapBuffers(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
-    if (!window || !isCurrent()) return FALSE;
+    if (!window || !isCurrent()) { return FALSE; }
     if (isWindowSeen()) {
         showPicture(*window);
         waitForNextFrame();

@@ -14,8 +14,9 @@ std::vector<Timer> timers;
 // A timer without a window gets a number of its own.
 UINT_PTR freeNumber() {
     UINT_PTR highest = 0;
-    for (const Timer& timer : timers)
+    for (const Timer& timer : timers) {
         highest = std::max(highest, timer.number);
+    }
     return highest + 1;
 }
 
@@ -39,9 +40,10 @@ UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC cal
     const auto same = std::find_if(timers.begin(), timers.end(), [&](const Timer& other) {
         return other.window == window && other.number == number;
     });
-    if (same != timers.end())
+    if (same != timers.end()) {
         *same = made;
-    else
+    } else {
         timers.push_back(made);
+    }
     return number;
 }

@@ -25,7 +25,7 @@ int displayOfWindow() {
 // Twice the display's size where the desktop has the room.
 int windowScale() {
     SDL_Rect room = {};
-    if (SDL_GetDisplayUsableBounds(displayOfWindow(), &room) != 0) return 1;
+    if (SDL_GetDisplayUsableBounds(displayOfWindow(), &room) != 0) { return 1; }
     const bool fits =
         room.w >= 2 * displayWidth + frameAllowance && room.h >= 2 * displayHeight + frameAllowance;
     return fits ? 2 : 1;
@@ -41,7 +41,7 @@ void openWindow(const char* title) {
                                 displayWidth * scale, displayHeight * scale, flags | kind);
     };
     window.sdl = open(SDL_WINDOW_OPENGL);
-    if (window.sdl) return;
+    if (window.sdl) { return; }
     window.whyPlain = SDL_GetError();
     window.sdl = open(0);
 }
@@ -49,7 +49,7 @@ void openWindow(const char* title) {
 // Where no window manager answers, nothing but its size makes a window cover the screen.
 void coverDesktop() {
     SDL_Rect desktop = {};
-    if (SDL_GetDisplayBounds(displayOfWindow(), &desktop) != 0) return;
+    if (SDL_GetDisplayBounds(displayOfWindow(), &desktop) != 0) { return; }
     SDL_SetWindowPosition(window.sdl, desktop.x, desktop.y);
     SDL_SetWindowSize(window.sdl, desktop.w, desktop.h);
 }
@@ -63,9 +63,9 @@ void becomeWindow() {
 }
 
 void applyFullScreen(bool on) {
-    if (on) coverDesktop();
+    if (on) { coverDesktop(); }
     SDL_SetWindowFullscreen(window.sdl, on ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
-    if (!on) becomeWindow();
+    if (!on) { becomeWindow(); }
 }
 
 HWND showLastError() {
@@ -78,9 +78,9 @@ LRESULT send(UINT message) {
 }
 
 void showSdlWindow() {
-    if (fullScreenWanted()) coverDesktop();
+    if (fullScreenWanted()) { coverDesktop(); }
     SDL_ShowWindow(window.sdl);
-    if (fullScreenWanted()) applyFullScreen(true);
+    if (fullScreenWanted()) { applyFullScreen(true); }
     SDL_RaiseWindow(window.sdl);
     window.visible = true;
     window.needsPaint = true;
@@ -98,33 +98,33 @@ bool isWindowSeen() {
 }
 
 void coverScreen() {
-    if (window.sdl && window.visible) applyFullScreen(true);
+    if (window.sdl && window.visible) { applyFullScreen(true); }
 }
 
 // The game leaves the display when it ends: hiding the window shows the desktop without a flash of
 // a smaller window.
 void uncoverScreen() {
-    if (!window.sdl || !window.visible) return;
+    if (!window.sdl || !window.visible) { return; }
     SDL_HideWindow(window.sdl);
     applyFullScreen(false);
     window.visible = false;
 }
 
 void toggleFullScreen() {
-    if (!window.sdl) return;
+    if (!window.sdl) { return; }
     const bool on = (SDL_GetWindowFlags(window.sdl) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0;
     applyFullScreen(!on);
 }
 
 void closeWindow() {
-    if (!window.sdl) return;
+    if (!window.sdl) { return; }
     stopSurface();
     SDL_DestroyWindow(window.sdl);
     window = {};
 }
 
 void destroyWindow() {
-    if (!window.sdl) return;
+    if (!window.sdl) { return; }
     send(WM_DESTROY);
     closeWindow();
 }
@@ -134,13 +134,13 @@ HICON WINAPI LoadIconA(HINSTANCE, const char*) {
 }
 
 HCURSOR WINAPI LoadCursorA(HINSTANCE, const char* name) {
-    if (name != IDC_ARROW || !startVideo()) return nullptr;
+    if (name != IDC_ARROW || !startVideo()) { return nullptr; }
     return reinterpret_cast<HCURSOR>(SDL_GetDefaultCursor());
 }
 
 ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass) {
-    if (!windowClass || !windowClass->lpszClassName || !windowClass->lpfnWndProc) return 0;
-    if (classProcedure) return 0;
+    if (!windowClass || !windowClass->lpszClassName || !windowClass->lpfnWndProc) { return 0; }
+    if (classProcedure) { return 0; }
     className = windowClass->lpszClassName;
     classProcedure = windowClass->lpfnWndProc;
     return 1;
@@ -152,7 +152,7 @@ HWND WINAPI CreateWindowExA(DWORD, const char* name, const char* title, DWORD, i
         setLastError("The window has no registered class, or is there already.");
         return nullptr;
     }
-    if (!startVideo()) return showLastError();
+    if (!startVideo()) { return showLastError(); }
     window = {};
     window.procedure = classProcedure;
     openWindow(title ? title : "");
@@ -160,13 +160,13 @@ HWND WINAPI CreateWindowExA(DWORD, const char* name, const char* title, DWORD, i
         failMachine(std::string("No window could be opened: ") + SDL_GetError() + ".");
         return showLastError();
     }
-    if (send(WM_CREATE) == -1) closeWindow();
+    if (send(WM_CREATE) == -1) { closeWindow(); }
     return currentWindow();
 }
 
 BOOL WINAPI ShowWindow(HWND handle, int) {
-    if (!handle || handle != currentWindow()) return FALSE;
-    if (window.visible) return TRUE;
+    if (!handle || handle != currentWindow()) { return FALSE; }
+    if (window.visible) { return TRUE; }
     showSdlWindow();
     if (!window.focused) {
         window.focused = true;
@@ -176,19 +176,21 @@ BOOL WINAPI ShowWindow(HWND handle, int) {
 }
 
 BOOL WINAPI UpdateWindow(HWND handle) {
-    if (!handle || handle != currentWindow()) return FALSE;
-    if (window.needsPaint) send(WM_PAINT);
+    if (!handle || handle != currentWindow()) { return FALSE; }
+    if (window.needsPaint) { send(WM_PAINT); }
     return TRUE;
 }
 
 int WINAPI ShowCursor(BOOL show) {
     cursorCount += show ? 1 : -1;
-    if (SDL_WasInit(SDL_INIT_VIDEO)) SDL_ShowCursor(cursorCount >= 0 ? SDL_ENABLE : SDL_DISABLE);
+    if (SDL_WasInit(SDL_INIT_VIDEO)) {
+        SDL_ShowCursor(cursorCount >= 0 ? SDL_ENABLE : SDL_DISABLE);
+    }
     return cursorCount;
 }
 
 HDC WINAPI BeginPaint(HWND handle, PAINTSTRUCT* paint) {
-    if (!handle || handle != currentWindow() || !paint) return nullptr;
+    if (!handle || handle != currentWindow() || !paint) { return nullptr; }
     window.needsPaint = false;
     *paint = {};
     paint->hdc = &window.deviceContext;
@@ -205,8 +207,8 @@ HWND WINAPI GetFocus() {
 }
 
 LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM, LPARAM) {
-    if (!handle || handle != currentWindow()) return 0;
-    if (message == WM_CLOSE) destroyWindow();
-    if (message == WM_PAINT) window.needsPaint = false;
+    if (!handle || handle != currentWindow()) { return 0; }
+    if (message == WM_CLOSE) { destroyWindow(); }
+    if (message == WM_PAINT) { window.needsPaint = false; }
     return 0;
 }

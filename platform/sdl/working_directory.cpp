@@ -44,9 +44,11 @@ std::vector<fs::path> placesOfData() {
 // The player's own folder, which is made where it is missing; empty, and why, when that fails.
 fs::path makeOwnFolder(std::string& why) {
     const char* home = std::getenv("XDG_DATA_HOME");
-    if (home && *home != '/') unsetenv("XDG_DATA_HOME"); // a relative path is not valid there
+    if (home && *home != '/') {
+        unsetenv("XDG_DATA_HOME"); // a relative path is not valid there
+    }
     const SdlText folder(SDL_GetPrefPath(nullptr, "glorbix"));
-    if (folder) return folder.get();
+    if (folder) { return folder.get(); }
     why = std::string("there is no folder for the player's files: ") + SDL_GetError();
     return {};
 }
@@ -65,9 +67,9 @@ bool linkOne(const fs::path& target, const fs::path& link, std::error_code& erro
     if (isLink) {
         const fs::path before = fs::read_symlink(link, error);
         const bool leadsNowhere = !fs::exists(link, error);
-        if (before == target || (!isOurTarget(before) && !leadsNowhere)) return true;
-        if (!isOurTarget(before)) complain(link.string() + " led nowhere, and is linked anew");
-        if (!fs::remove(link, error)) return false;
+        if (before == target || (!isOurTarget(before) && !leadsNowhere)) { return true; }
+        if (!isOurTarget(before)) { complain(link.string() + " led nowhere, and is linked anew"); }
+        if (!fs::remove(link, error)) { return false; }
     } else if (fs::exists(link, error)) {
         return true;
     }
@@ -78,7 +80,7 @@ bool linkOne(const fs::path& target, const fs::path& link, std::error_code& erro
 bool enter(const fs::path& folder, std::string& why) {
     std::error_code error;
     fs::current_path(folder, error);
-    if (error) why = "cannot enter " + folder.string() + ": " + error.message();
+    if (error) { why = "cannot enter " + folder.string() + ": " + error.message(); }
     return !error;
 }
 
@@ -88,8 +90,8 @@ bool canWriteHere() {
 
 bool enterOwnFolder(const fs::path& data, std::string& why) {
     const fs::path own = makeOwnFolder(why);
-    if (own.empty() || !linkGameData(data, own, why) || !enter(own, why)) return false;
-    if (!canWriteHere()) complain("cannot write to " + own.string() + timesMayBeLost);
+    if (own.empty() || !linkGameData(data, own, why) || !enter(own, why)) { return false; }
+    if (!canWriteHere()) { complain("cannot write to " + own.string() + timesMayBeLost); }
     return true;
 }
 
@@ -98,7 +100,7 @@ bool enterOwnFolder(const fs::path& data, std::string& why) {
 std::optional<fs::path> findGameData(const std::vector<fs::path>& folders) {
     std::error_code ignored;
     for (const fs::path& folder : folders) {
-        if (fs::is_regular_file(folder / listOfLevels, ignored)) return folder;
+        if (fs::is_regular_file(folder / listOfLevels, ignored)) { return folder; }
     }
     return {};
 }
@@ -106,7 +108,7 @@ std::optional<fs::path> findGameData(const std::vector<fs::path>& folders) {
 bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
     for (const char* folder : dataFolders) {
         std::error_code error;
-        if (linkOne(targetOfLink(data, folder), own / folder, error)) continue;
+        if (linkOne(targetOfLink(data, folder), own / folder, error)) { continue; }
         why = "cannot make the link " + (own / folder).string() + ": " + error.message();
         return false;
     }
@@ -115,9 +117,9 @@ bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
 
 bool enterPlayerFolder(const fs::path& data, std::string& why) {
     std::string whyNotOwn;
-    if (enterOwnFolder(data, whyNotOwn)) return true;
+    if (enterOwnFolder(data, whyNotOwn)) { return true; }
     complain(whyNotOwn + timesMayBeLost);
-    if (enter(data, why)) return true;
+    if (enter(data, why)) { return true; }
     why = "The game " + why + ".";
     return false;
 }
@@ -130,7 +132,7 @@ bool settleWorkingDirectory(std::string& why) {
               ") was found neither here, nor beside the program, nor in " GLORBIX_DATA_DIR ".";
         return false;
     }
-    if (*found == places.front() && canWriteHere()) return true;
+    if (*found == places.front() && canWriteHere()) { return true; }
     std::error_code error;
     const fs::path data = fs::canonical(*found, error);
     return enterPlayerFolder(error ? *found : data, why);

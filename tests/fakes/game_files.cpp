@@ -32,7 +32,7 @@ EmptyFolder::~EmptyFolder() {
 
 void writeFile(const std::string& name, const std::string& content) {
     const fs::path path = name;
-    if (path.has_parent_path()) fs::create_directories(path.parent_path());
+    if (path.has_parent_path()) { fs::create_directories(path.parent_path()); }
     std::ofstream(path, std::ios::binary) << content;
 }
 

@@ -22,7 +22,9 @@ private:
 inline constexpr double testGlyphHeight = 33; // pixels: of the test font, and its line spacing
 
 // The width of a character of the test font in pixels; those it does not have advance by 10.
-constexpr double testGlyphWidth(char c) { return 10 + c % 7; }
+constexpr double testGlyphWidth(char c) {
+    return 10 + c % 7;
+}
 
 void writeFile(const std::string& name, const std::string& content);
 std::string readFile(const std::string& name);

@@ -17,34 +17,76 @@ double firstPixel(const void* pixels) {
 
 } // namespace
 
-void glEnable(GLenum what) { draw("glEnable", what); }
-void glDisable(GLenum what) { draw("glDisable", what); }
-void glDepthFunc(GLenum function) { draw("glDepthFunc", function); }
-void glCullFace(GLenum face) { draw("glCullFace", face); }
-void glBlendFunc(GLenum source, GLenum target) { draw("glBlendFunc", source, target); }
-void glHint(GLenum what, GLenum mode) { draw("glHint", what, mode); }
-void glLineWidth(GLfloat pixels) { draw("glLineWidth", pixels); }
-void glFlush() { draw("glFlush"); }
+void glEnable(GLenum what) {
+    draw("glEnable", what);
+}
+void glDisable(GLenum what) {
+    draw("glDisable", what);
+}
+void glDepthFunc(GLenum function) {
+    draw("glDepthFunc", function);
+}
+void glCullFace(GLenum face) {
+    draw("glCullFace", face);
+}
+void glBlendFunc(GLenum source, GLenum target) {
+    draw("glBlendFunc", source, target);
+}
+void glHint(GLenum what, GLenum mode) {
+    draw("glHint", what, mode);
+}
+void glLineWidth(GLfloat pixels) {
+    draw("glLineWidth", pixels);
+}
+void glFlush() {
+    draw("glFlush");
+}
 
-void glFogf(GLenum what, GLfloat value) { draw("glFogf", what, value); }
-void glFogfv(GLenum what, const GLfloat* v) { draw("glFogfv", what, v[0], v[1], v[2], v[3]); }
-void glFogi(GLenum what, GLint value) { draw("glFogi", what, value); }
+void glFogf(GLenum what, GLfloat value) {
+    draw("glFogf", what, value);
+}
+void glFogfv(GLenum what, const GLfloat* v) {
+    draw("glFogfv", what, v[0], v[1], v[2], v[3]);
+}
+void glFogi(GLenum what, GLint value) {
+    draw("glFogi", what, value);
+}
 
-void glClearDepth(GLclampd depth) { draw("glClearDepth", depth); }
+void glClearDepth(GLclampd depth) {
+    draw("glClearDepth", depth);
+}
 void glClearColor(GLclampf r, GLclampf g, GLclampf b, GLclampf a) {
     draw("glClearColor", r, g, b, a);
 }
-void glClear(GLbitfield buffers) { draw("glClear", buffers); }
+void glClear(GLbitfield buffers) {
+    draw("glClear", buffers);
+}
 
-void glBegin(GLenum mode) { draw("glBegin", mode); }
-void glEnd() { draw("glEnd"); }
-void glColor3f(GLfloat r, GLfloat g, GLfloat b) { draw("glColor3f", r, g, b); }
-void glColor4f(GLfloat r, GLfloat g, GLfloat b, GLfloat a) { draw("glColor4f", r, g, b, a); }
-void glTexCoord2f(GLfloat s, GLfloat t) { draw("glTexCoord2f", s, t); }
-void glVertex2f(GLfloat x, GLfloat y) { draw("glVertex2f", x, y); }
-void glVertex3f(GLfloat x, GLfloat y, GLfloat z) { draw("glVertex3f", x, y, z); }
+void glBegin(GLenum mode) {
+    draw("glBegin", mode);
+}
+void glEnd() {
+    draw("glEnd");
+}
+void glColor3f(GLfloat r, GLfloat g, GLfloat b) {
+    draw("glColor3f", r, g, b);
+}
+void glColor4f(GLfloat r, GLfloat g, GLfloat b, GLfloat a) {
+    draw("glColor4f", r, g, b, a);
+}
+void glTexCoord2f(GLfloat s, GLfloat t) {
+    draw("glTexCoord2f", s, t);
+}
+void glVertex2f(GLfloat x, GLfloat y) {
+    draw("glVertex2f", x, y);
+}
+void glVertex3f(GLfloat x, GLfloat y, GLfloat z) {
+    draw("glVertex3f", x, y, z);
+}
 
-void glBindTexture(GLenum target, GLuint name) { draw("glBindTexture", target, name); }
+void glBindTexture(GLenum target, GLuint name) {
+    draw("glBindTexture", target, name);
+}
 void glTexEnvf(GLenum target, GLenum what, GLfloat value) {
     draw("glTexEnvf", target, what, value);
 }
@@ -58,10 +100,12 @@ void glTexImage2D(GLenum target, GLint mipLevel, GLint internalFormat, GLsizei w
 }
 GLboolean glAreTexturesResident(GLsizei n, const GLuint* names, GLboolean* residences) {
     draw("glAreTexturesResident", n, names[0]);
-    if (!machine.textureIsResident) residences[0] = GL_FALSE;
+    if (!machine.textureIsResident) { residences[0] = GL_FALSE; }
     return machine.textureIsResident ? GL_TRUE : GL_FALSE;
 }
-void glDeleteTextures(GLsizei n, const GLuint* names) { draw("glDeleteTextures", n, names[0]); }
+void glDeleteTextures(GLsizei n, const GLuint* names) {
+    draw("glDeleteTextures", n, names[0]);
+}
 void glDrawPixels(GLsizei width, GLsizei height, GLenum format, GLenum type, const void* pixels) {
     draw("glDrawPixels", width, height, format, type, firstPixel(pixels));
 }

@@ -10,7 +10,7 @@ std::size_t smallestFailing = 0;
 int untilFailure = 0; // 0: none is to fail
 
 bool failsNow(std::size_t bytes) {
-    if (bytes > wholeMemory) return true;
+    if (bytes > wholeMemory) { return true; }
     return untilFailure > 0 && bytes >= smallestFailing && --untilFailure == 0;
 }
 

@@ -73,7 +73,7 @@ int runProgram(const std::function<void()>& whenIdle) {
     int turns = 0;
     machine.whenIdle = [&] {
         whenIdle();
-        if (++turns < 5000) return;
+        if (++turns < 5000) { return; }
         ADD_FAILURE() << "the program does not end";
         PostQuitMessage(-1);
     };
@@ -105,11 +105,13 @@ void tick(double seconds) {
 }
 
 void ticks(int n, double seconds) {
-    for (int i = 0; i < n; ++i) tick(seconds);
+    for (int i = 0; i < n; ++i) {
+        tick(seconds);
+    }
 }
 
 void startGame() {
-    if (!Game.menuOpen) pressKey(VK_ESCAPE);
+    if (!Game.menuOpen) { pressKey(VK_ESCAPE); }
     pressKey(VK_RETURN);
 }
 

@@ -7,12 +7,12 @@
 #include <functional>
 #include <vector>
 
-#include "state/game.h"
 #include "app/window.h"
-#include "sim/level.h"
 #include "fakes/game_files.h"
 #include "fakes/trace.h"
+#include "sim/level.h"
 #include "sim/marble.h"
+#include "state/game.h"
 
 inline constexpr LONGLONG counterFrequency = 10'000'000; // counts a second
 
@@ -51,9 +51,13 @@ void handleMessages();
 // Sends the window a message, and handles what comes of it.
 LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-inline void pressKey(int key) { send(WM_KEYDOWN, static_cast<WPARAM>(key)); }
+inline void pressKey(int key) {
+    send(WM_KEYDOWN, static_cast<WPARAM>(key));
+}
 inline void pressKeys(std::initializer_list<int> keys) {
-    for (const int key : keys) pressKey(key);
+    for (const int key : keys) {
+        pressKey(key);
+    }
 }
 
 // Time goes by and one tick happens; drawn() then is its frame.

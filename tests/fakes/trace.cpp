@@ -21,7 +21,7 @@ void failNext(std::string_view function, int skip, int code) {
 
 int failureOf(std::string_view function) {
     const auto found = machine.failures.find(function);
-    if (found == machine.failures.end() || found->second.empty()) return 0;
+    if (found == machine.failures.end() || found->second.empty()) { return 0; }
     const int code = found->second.front();
     found->second.pop_front();
     return code;
@@ -29,7 +29,9 @@ int failureOf(std::string_view function) {
 
 namespace {
 
-std::string_view functionOf(std::string_view line) { return line.substr(0, line.find(' ')); }
+std::string_view functionOf(std::string_view line) {
+    return line.substr(0, line.find(' '));
+}
 
 bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names) {
     return std::find(names.begin(), names.end(), name) != names.end();
@@ -44,14 +46,16 @@ bool near(double a, double b, double relative, double absolute) {
 Lines said(std::initializer_list<std::string_view> functions) {
     Lines found;
     for (const std::string& line : machine.lines) {
-        if (isOneOf(functionOf(line), functions)) found.push_back(line);
+        if (isOneOf(functionOf(line), functions)) { found.push_back(line); }
     }
     return found;
 }
 
 Lines said(std::string_view function) {
     Lines found = said({function});
-    for (std::string& line : found) line.erase(0, function.size() + 1);
+    for (std::string& line : found) {
+        line.erase(0, function.size() + 1);
+    }
     return found;
 }
 
@@ -63,7 +67,9 @@ bool operator==(const GlCall& a, const GlCall& b) {
 
 void PrintTo(const GlCall& call, std::ostream* out) {
     *out << call.name;
-    for (const double number : call.numbers) *out << ' ' << number;
+    for (const double number : call.numbers) {
+        *out << ' ' << number;
+    }
 }
 
 GlCalls operator+(GlCalls a, const GlCalls& b) {
@@ -74,7 +80,7 @@ GlCalls operator+(GlCalls a, const GlCalls& b) {
 std::string difference(const GlCalls& actual, const GlCalls& expected) {
     const auto [a, e] =
         std::mismatch(actual.begin(), actual.end(), expected.begin(), expected.end());
-    if (a == actual.end() && e == expected.end()) return "";
+    if (a == actual.end() && e == expected.end()) { return ""; }
     return "call " + std::to_string(a - actual.begin()) + " is " +
            (a == actual.end() ? "missing" : testing::PrintToString(*a)) + " but expected " +
            (e == expected.end() ? "nothing" : testing::PrintToString(*e));
@@ -114,7 +120,9 @@ bool operator==(const Text& a, const Text& b) {
 void PrintTo(const Text& text, std::ostream* out) {
     *out << '"' << text.text << "\" at " << text.x << ", " << text.y << " scale " << text.scale
          << " colour";
-    for (const double part : text.colour) *out << ' ' << part;
+    for (const double part : text.colour) {
+        *out << ' ' << part;
+    }
 }
 
 namespace {
@@ -131,8 +139,8 @@ std::vector<Glyph> glyphsDrawn() {
     const GlCalls calls =
         only(drawn(), {"glBindTexture", "glColor4f", "glTexCoord2f", "glVertex2f"});
     for (std::size_t i = 0; i + 9 < calls.size(); ++i) {
-        if (!(calls[i] == GlCall("glBindTexture", GL_TEXTURE_2D, 10))) continue;
-        if (calls[i + 1].name != "glColor4f") continue;
+        if (!(calls[i] == GlCall("glBindTexture", GL_TEXTURE_2D, 10))) { continue; }
+        if (calls[i + 1].name != "glColor4f") { continue; }
         const auto& colour = calls[i + 1].numbers;
         const auto& topLeft = calls[i + 3].numbers;
         const auto& bottomRight = calls[i + 7].numbers;

@@ -40,8 +40,12 @@ template <class... Calls>
 GlCalls calls(const Calls&... one) {
     return {one...};
 }
-inline GlCall on(unsigned capability) { return {"glEnable", capability}; }
-inline GlCall off(unsigned capability) { return {"glDisable", capability}; }
+inline GlCall on(unsigned capability) {
+    return {"glEnable", capability};
+}
+inline GlCall off(unsigned capability) {
+    return {"glDisable", capability};
+}
 
 // Same function, same numbers within the accuracy of a float.
 bool operator==(const GlCall& a, const GlCall& b);
@@ -88,8 +92,12 @@ extern const HWND focusWindow; // has the focus before the game has a window
 extern const HDC theSurface;
 extern const HGLRC theContext;
 
-inline void hold(int key) { machine.keysHeld.insert(key); }
-inline void release(int key) { machine.keysHeld.erase(key); }
+inline void hold(int key) {
+    machine.keysHeld.insert(key);
+}
+inline void release(int key) {
+    machine.keysHeld.erase(key);
+}
 void passTime(double seconds);
 
 // The function's next call fails, or the one after `skip` more; of MCI the names are MCI_OPEN,
@@ -107,12 +115,20 @@ void failAllocation(std::size_t bytes, int nth = 1);
 Lines said(std::initializer_list<std::string_view> functions);
 Lines said(std::string_view function);
 
-inline Lines boxes() { return said("MessageBoxA"); } // "text | caption | owner, icon"
-inline Lines sounds() { return said("PlaySoundA"); }
-inline Lines music() { return said("MCI"); } // "open sounds/midi1.mid", "play 1", "close 1"
+inline Lines boxes() {
+    return said("MessageBoxA");
+} // "text | caption | owner, icon"
+inline Lines sounds() {
+    return said("PlaySoundA");
+}
+inline Lines music() {
+    return said("MCI");
+} // "open sounds/midi1.mid", "play 1", "close 1"
 
 // The OpenGL calls of the frame drawn last, and ways to look at them.
-inline const GlCalls& drawn() { return machine.drawn; }
+inline const GlCalls& drawn() {
+    return machine.drawn;
+}
 GlCalls only(const GlCalls& calls, std::initializer_list<std::string_view> names);
 long count(const GlCalls& calls, const GlCall& call);
 long count(const GlCalls& calls, std::string_view name);

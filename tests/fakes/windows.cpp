@@ -27,11 +27,13 @@ Answer noted(Answer answer, const char* function, const Values&... values) {
 }
 
 const char* nameOf(HWND window) {
-    if (window == nullptr) return "nobody";
+    if (window == nullptr) { return "nobody"; }
     return window == theWindow ? "window" : window == focusWindow ? "focus" : "stranger";
 }
 
-bool succeeds(const char* function) { return failureOf(function) == 0; }
+bool succeeds(const char* function) {
+    return failureOf(function) == 0;
+}
 
 } // namespace
 
@@ -42,8 +44,12 @@ const HGLRC theContext = handle<HGLRC>(0x400);
 
 // Windows and messages
 
-HICON LoadIconA(HINSTANCE, const char* name) { return noted(nullptr, "LoadIconA", name); }
-HCURSOR LoadCursorA(HINSTANCE, const char*) { return handle<HCURSOR>(0x500); }
+HICON LoadIconA(HINSTANCE, const char* name) {
+    return noted(nullptr, "LoadIconA", name);
+}
+HCURSOR LoadCursorA(HINSTANCE, const char*) {
+    return handle<HCURSOR>(0x500);
+}
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass) {
     machine.windowClass = *windowClass;
@@ -55,12 +61,14 @@ HWND CreateWindowExA(DWORD extendedStyle, const char* className, const char* tit
                      void*) {
     EXPECT_TRUE(parent == nullptr && menu == nullptr);
     noted(0, "CreateWindowExA", extendedStyle, className, title, style, x, y, width, height);
-    if (!succeeds("CreateWindowExA")) return nullptr;
+    if (!succeeds("CreateWindowExA")) { return nullptr; }
     machine.windowClass.lpfnWndProc(theWindow, WM_CREATE, 0, 0);
     return theWindow;
 }
 
-BOOL ShowWindow(HWND window, int mode) { return noted(FALSE, "ShowWindow", nameOf(window), mode); }
+BOOL ShowWindow(HWND window, int mode) {
+    return noted(FALSE, "ShowWindow", nameOf(window), mode);
+}
 BOOL UpdateWindow(HWND window) {
     noted(0, "UpdateWindow", nameOf(window));
     return machine.windowClass.lpfnWndProc(window, WM_PAINT, 0, 0) == 0;
@@ -73,21 +81,25 @@ int ShowCursor(BOOL show) {
 BOOL PeekMessageA(MSG* message, HWND, UINT first, UINT last, UINT remove) {
     EXPECT_TRUE(first == 0 && last == 0 && remove == PM_REMOVE);
     *message = {};
-    if (machine.queue.empty() && !machine.quitPosted && machine.whenIdle) machine.whenIdle();
+    if (machine.queue.empty() && !machine.quitPosted && machine.whenIdle) { machine.whenIdle(); }
     if (!machine.queue.empty()) {
         *message = machine.queue.front();
         machine.queue.pop_front();
         return TRUE;
     }
-    if (!machine.quitPosted) return FALSE;
+    if (!machine.quitPosted) { return FALSE; }
     message->message = WM_QUIT;
     message->wParam = static_cast<WPARAM>(machine.quitCode);
     return TRUE;
 }
 
-BOOL TranslateMessage(const MSG*) { return FALSE; }
+BOOL TranslateMessage(const MSG*) {
+    return FALSE;
+}
 LRESULT DispatchMessageA(const MSG* message) {
-    if (message->hwnd == nullptr) return 0; // the quit message
+    if (message->hwnd == nullptr) {
+        return 0; // the quit message
+    }
     return GameWindowProc(message->hwnd, message->message, message->wParam, message->lParam);
 }
 
@@ -109,14 +121,18 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
 HDC BeginPaint(HWND window, PAINTSTRUCT*) {
     return noted(theSurface, "BeginPaint", nameOf(window));
 }
-BOOL EndPaint(HWND window, const PAINTSTRUCT*) { return noted(TRUE, "EndPaint", nameOf(window)); }
+BOOL EndPaint(HWND window, const PAINTSTRUCT*) {
+    return noted(TRUE, "EndPaint", nameOf(window));
+}
 
 UINT_PTR SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback) {
     EXPECT_EQ(callback, nullptr);
     return noted(timer, "SetTimer", nameOf(window), timer, period);
 }
 
-HWND GetFocus() { return focusWindow; }
+HWND GetFocus() {
+    return focusWindow;
+}
 
 // A key that is up carries the bit that says it was pressed since the last call.
 SHORT GetAsyncKeyState(int key) {
@@ -133,14 +149,14 @@ int MessageBoxA(HWND owner, const char* text, const char* caption, UINT type) {
 
 BOOL EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode) {
     EXPECT_TRUE(device == nullptr && mode->dmSize == sizeof(DEVMODEA));
-    if (index >= machine.modes.size()) return FALSE;
+    if (index >= machine.modes.size()) { return FALSE; }
     *mode = machine.modes[index];
     return TRUE;
 }
 
 LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
     EXPECT_EQ(flags, 0U);
-    if (mode == nullptr) return noted(DISP_CHANGE_SUCCESSFUL, "ChangeDisplaySettingsA restore");
+    if (mode == nullptr) { return noted(DISP_CHANGE_SUCCESSFUL, "ChangeDisplaySettingsA restore"); }
     machine.switchResults.push_back(DISP_CHANGE_SUCCESSFUL);
     const LONG result = machine.switchResults.front();
     machine.switchResults.pop_front();
@@ -150,8 +166,12 @@ LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
 
 // Pixel format, buffers and the binding of OpenGL
 
-HDC GetDC(HWND window) { return noted(theSurface, "GetDC", nameOf(window)); }
-int ReleaseDC(HWND window, HDC) { return noted(1, "ReleaseDC", nameOf(window)); }
+HDC GetDC(HWND window) {
+    return noted(theSurface, "GetDC", nameOf(window));
+}
+int ReleaseDC(HWND window, HDC) {
+    return noted(1, "ReleaseDC", nameOf(window));
+}
 
 int ChoosePixelFormat(HDC, const PIXELFORMATDESCRIPTOR* wanted) {
     PIXELFORMATDESCRIPTOR expected = {};
@@ -180,9 +200,15 @@ BOOL SwapBuffers(HDC deviceContext) {
     return TRUE;
 }
 
-HGLRC wglCreateContext(HDC) { return noted(theContext, "wglCreateContext"); }
-BOOL wglMakeCurrent(HDC, HGLRC) { return noted(TRUE, "wglMakeCurrent"); }
-BOOL wglDeleteContext(HGLRC) { return noted(TRUE, "wglDeleteContext"); }
+HGLRC wglCreateContext(HDC) {
+    return noted(theContext, "wglCreateContext");
+}
+BOOL wglMakeCurrent(HDC, HGLRC) {
+    return noted(TRUE, "wglMakeCurrent");
+}
+BOOL wglDeleteContext(HGLRC) {
+    return noted(TRUE, "wglDeleteContext");
+}
 
 // Sound and music
 
@@ -191,14 +217,16 @@ BOOL PlaySoundA(const char* fileName, HMODULE module, DWORD flags) {
     return noted(TRUE, "PlaySoundA", fileName);
 }
 
-BOOL MessageBeep(UINT type) { return noted(TRUE, "MessageBeep", type); }
+BOOL MessageBeep(UINT type) {
+    return noted(TRUE, "MessageBeep", type);
+}
 
 namespace {
 
 int openMusic(MCI_OPEN_PARMSA& parameters) {
     EXPECT_STREQ(parameters.lpstrDeviceType, "sequencer");
     const int error = noted(failureOf("MCI_OPEN"), "MCI open", parameters.lpstrElementName);
-    if (error == 0) machine.devices.insert(parameters.wDeviceID = ++machine.lastDevice);
+    if (error == 0) { machine.devices.insert(parameters.wDeviceID = ++machine.lastDevice); }
     return error;
 }
 
@@ -250,13 +278,13 @@ HANDLE CreateFileA(const char* fileName, DWORD access, DWORD share, SECURITY_ATT
     EXPECT_TRUE(access == GENERIC_READ && share == 0);
     EXPECT_TRUE(creation == OPEN_EXISTING && attributes == FILE_ATTRIBUTE_NORMAL);
     std::FILE* file = noted(std::fopen(fileName, "rb"), "CreateFileA", fileName);
-    if (file == nullptr) return INVALID_HANDLE_VALUE;
+    if (file == nullptr) { return INVALID_HANDLE_VALUE; }
     ++machine.openFiles;
     return file;
 }
 
 BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) {
-    if (!succeeds("ReadFile")) return FALSE;
+    if (!succeeds("ReadFile")) { return FALSE; }
     *got = static_cast<DWORD>(std::fread(buffer, 1, wanted, static_cast<std::FILE*>(file)));
     return TRUE;
 }
@@ -269,7 +297,9 @@ BOOL CloseHandle(HANDLE file) {
 
 // Errors in the system's words
 
-DWORD GetLastError() { return 1234; }
+DWORD GetLastError() {
+    return 1234;
+}
 
 DWORD FormatMessageA(DWORD flags, const void*, DWORD error, DWORD language, char* buffer, DWORD,
                      void*) {
@@ -281,7 +311,7 @@ DWORD FormatMessageA(DWORD flags, const void*, DWORD error, DWORD language, char
 }
 
 HLOCAL LocalFree(HLOCAL memory) {
-    if (memory != nullptr) --machine.systemTexts;
+    if (memory != nullptr) { --machine.systemTexts; }
     delete[] static_cast<char*>(memory);
     return nullptr;
 }

@@ -57,7 +57,9 @@ Picture photograph() {
 Picture paint(const std::function<Pixel(int x, int y)>& pixelAt) {
     Picture picture;
     for (int y = 0; y < picture.height; ++y) {
-        for (int x = 0; x < picture.width; ++x) picture.put(x, y, pixelAt(x, y));
+        for (int x = 0; x < picture.width; ++x) {
+            picture.put(x, y, pixelAt(x, y));
+        }
     }
     return picture;
 }
@@ -71,7 +73,7 @@ void expectLike(const Picture& actual, const Picture& expected, const std::strin
         return Pixel{d, d > tolerance ? 0 : d, d > tolerance ? 0 : d};
     });
     const double share = misses / (640.0 * 480.0);
-    if (share <= shareOfMisses) return;
+    if (share <= shareOfMisses) { return; }
     ADD_FAILURE() << name << ": " << misses << " pixels differ, see " GLORBIX_PICTURES;
     savePng(actual, name + "-actual.png");
     savePng(expected, name + "-expected.png");

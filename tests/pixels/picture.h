@@ -11,7 +11,9 @@ struct Pixel {
     double red, green, blue;
 };
 
-constexpr Pixel operator*(Pixel p, double s) { return {p.red * s, p.green * s, p.blue * s}; }
+constexpr Pixel operator*(Pixel p, double s) {
+    return {p.red * s, p.green * s, p.blue * s};
+}
 constexpr Pixel operator+(Pixel a, Pixel b) {
     return {a.red + b.red, a.green + b.green, a.blue + b.blue};
 }

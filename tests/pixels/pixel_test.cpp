@@ -7,16 +7,16 @@
 #include <cstdlib>
 #include <set>
 
-#include "state/game.h"
-#include "render/screens.h"
 #include "app/window.h"
 #include "data/font.h"
-#include "sim/level.h"
 #include "fakes/game_files.h"
 #include "pixels/picture.h"
 #include "platform/sdl/machine.h"
+#include "render/screens.h"
+#include "sim/level.h"
 #include "sim/marble.h"
 #include "sim/view_frame.h"
+#include "state/game.h"
 
 namespace {
 
@@ -40,7 +40,7 @@ void writePictures() {
 class OnScreen : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        if (Game.window != nullptr) return;
+        if (Game.window != nullptr) { return; }
         setenv("SDL_VIDEODRIVER", "offscreen", 1);
         setenv("SDL_AUDIODRIVER", "dummy", 1);
         static const EmptyFolder folder;
@@ -81,9 +81,9 @@ void putText(Picture& picture, const char* text, double x, double y, double scal
     for (; *text != '\0'; ++text) {
         const double right = x + scale * (*text == ' ' ? 10 : testGlyphWidth(*text));
         for (int py = 0; py < 480 && *text != ' '; ++py) {
-            if (479.5 - py < y || 479.5 - py >= y + 33 * scale) continue;
+            if (479.5 - py < y || 479.5 - py >= y + 33 * scale) { continue; }
             for (int px = 0; px < 640; ++px) {
-                if (px + 0.5 >= x && px + 0.5 < right) picture.put(px, py, colour);
+                if (px + 0.5 >= x && px + 0.5 < right) { picture.put(px, py, colour); }
             }
         }
         x = right;
@@ -108,7 +108,9 @@ Spot groundUnder(int px, int py, double angle) {
 }
 
 // The rows that are drawn without far sight end at y = 1830.
-bool isOnCourse(const Spot& spot) { return spot.x > -750 && spot.x < 720 && spot.y < 1830; }
+bool isOnCourse(const Spot& spot) {
+    return spot.x > -750 && spot.x < 720 && spot.y < 1830;
+}
 
 Pixel fogged(Pixel colour, double depth) {
     const double clear = std::clamp((1 / 1800.0 - 1 / depth) / (1 / 1800.0 - 1 / 400.0), 0.0, 1.0);
@@ -146,7 +148,7 @@ TEST_F(OnScreen, TextureLiesFastOnTheGround) {
     level.drawGround(view, true, false);
     expectLike(photograph(), paint([&](int x, int y) {
                    const Spot spot = groundUnder(x, y, pitch);
-                   if (!isOnCourse(spot)) return Pixel{0, 0, 0};
+                   if (!isOnCourse(spot)) { return Pixel{0, 0, 0}; }
                    const double s = spot.x / 160, t = spot.y / 120;
                    return pixelOf(
                        quarters[t - std::floor(t) < 0.5 ? 0 : 1][s - std::floor(s) < 0.5 ? 0 : 1]);
@@ -189,7 +191,9 @@ TEST_F(OnScreen, MarbleBehindAHillIsAGhost) {
         expectLike(actual, paint([&](int x, int y) {
                        const double r =
                            std::hypot(x + 0.5 - centreX, y + 0.5 - centreY) / (6400.0 / q.z);
-                       if (r > 0.85) return actual.at(x, y); // the outline, and what is around it
+                       if (r > 0.85) {
+                           return actual.at(x, y); // the outline, and what is around it
+                       }
                        const Pixel disc = Pixel{255, 100, 0} * (1 - 0.9 * r);
                        return disc * c.share + groundColour * (1 - c.share);
                    }),
@@ -242,8 +246,12 @@ TEST_F(OnScreen, GaugeAndClockStandOverTheWorld) {
     putText(expected, "Turbo", 475, 460, 0.5, {255, 255, 255});
     const Picture actual = photograph();
     for (int y = 1; y < 26; ++y) {
-        for (int x = 542; x < 639; ++x) expected.put(x, y, actual.at(x, y));
-        for (int x = 590; x < 635 && y > 3 && y < 23; ++x) expected.put(x, y, {128, 128, 0});
+        for (int x = 542; x < 639; ++x) {
+            expected.put(x, y, actual.at(x, y));
+        }
+        for (int x = 590; x < 635 && y > 3 && y < 23; ++x) {
+            expected.put(x, y, {128, 128, 0});
+        }
     }
     expectLike(actual, expected, "head-up-display", 10, 0.0005);
 }

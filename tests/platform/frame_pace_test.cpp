@@ -11,7 +11,9 @@
 
 namespace {
 
-LRESULT CALLBACK doNothing(HWND, UINT, WPARAM, LPARAM) { return 0; }
+LRESULT CALLBACK doNothing(HWND, UINT, WPARAM, LPARAM) {
+    return 0;
+}
 
 class Frames : public testing::Test {
 protected:
@@ -51,7 +53,9 @@ protected:
     HDC surface = nullptr;
 };
 
-TEST_F(Frames, ComeNoFasterThan250ASecond) { EXPECT_GE(secondsFor(100), 0.399); }
+TEST_F(Frames, ComeNoFasterThan250ASecond) {
+    EXPECT_GE(secondsFor(100), 0.399);
+}
 
 TEST_F(Frames, WaitForAnEventWhileNobodySeesThem) {
     SDL_HideWindow(window->sdl);

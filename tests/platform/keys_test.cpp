@@ -45,9 +45,7 @@ Codes heldWith(std::initializer_list<int> places) {
     }
     Codes held;
     for (int code = 1; code < 256; ++code) {
-        if (GetAsyncKeyState(code) < 0) {
-            held.push_back(code);
-        }
+        if (GetAsyncKeyState(code) < 0) { held.push_back(code); }
     }
     for (const int place : places) {
         keys[place] = 0;

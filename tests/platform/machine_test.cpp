@@ -16,9 +16,7 @@ void expectAlone(const char* driver, void (*story)(), const char* line) {
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "SDL_VIDEODRIVER"}) {
             unsetenv(name);
         }
-        if (*driver) {
-            setenv("SDL_VIDEODRIVER", driver, 1);
-        }
+        if (*driver) { setenv("SDL_VIDEODRIVER", driver, 1); }
         story();
         std::exit(testing::Test::HasFailure() ? 1 : 0);
     };
@@ -65,6 +63,8 @@ void startAndStop() {
     EXPECT_EQ(SDL_WasInit(0), 0U);
 }
 
-TEST(Machine, GivesEverythingBack) { expectAlone("offscreen", startAndStop, "^$"); }
+TEST(Machine, GivesEverythingBack) {
+    expectAlone("offscreen", startAndStop, "^$");
+}
 
 } // namespace

@@ -175,9 +175,7 @@ LRESULT CALLBACK record(HWND window, UINT message, WPARAM wParam, LPARAM) {
         MessageBoxA(nullptr, "no font", nullptr, MB_ICONHAND);
         return 0;
     }
-    if (message == WM_PAINT) {
-        return DefWindowProcA(window, message, 0, 0);
-    }
+    if (message == WM_PAINT) { return DefWindowProcA(window, message, 0, 0); }
     received.push_back(std::to_string(message) + " " + std::to_string(wParam));
     return 0;
 }
@@ -202,9 +200,7 @@ TEST(MessageBoxes, LeaveTheGameNothingButTheRequestToEnd) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "glorbix: Notice: Creating a file\n");
     MSG message;
     for (int look = 0; look < 10; ++look) {
-        if (PeekMessageA(&message, window, 0, 0, PM_REMOVE)) {
-            DispatchMessageA(&message);
-        }
+        if (PeekMessageA(&message, window, 0, 0, PM_REMOVE)) { DispatchMessageA(&message); }
     }
     EXPECT_EQ(received, Lines{std::to_string(WM_CLOSE) + " 0"});
     closeWindow();

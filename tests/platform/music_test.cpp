@@ -28,7 +28,9 @@ MCIERROR play(MCIDEVICEID device) {
     return mciSendCommandA(device, MCI_PLAY, MCI_NOTIFY, reinterpret_cast<DWORD_PTR>(&play));
 }
 
-MCIERROR close(MCIDEVICEID device) { return mciSendCommandA(device, MCI_CLOSE, 0, 0); }
+MCIERROR close(MCIDEVICEID device) {
+    return mciSendCommandA(device, MCI_CLOSE, 0, 0);
+}
 
 MCIDEVICEID openAndPlay(const std::string& fileName) {
     MCIDEVICEID device = 0;

@@ -25,14 +25,14 @@ inline int framesShown = 0;
     return stoppedClock.value_or(SDL_GetTicks());
 }
 [[gnu::used]] inline int SDLCALL SDL_GetDisplayUsableBounds(int display, SDL_Rect* room) {
-    if (!roomOnDesktop) {
-        return SDL_GetDisplayBounds(display, room);
-    }
+    if (!roomOnDesktop) { return SDL_GetDisplayBounds(display, room); }
     *room = *roomOnDesktop;
     return room->w > 0 ? 0 : -1;
 }
 
-[[gnu::used]] inline void SDLCALL SDL_GL_SwapWindow(SDL_Window*) { ++framesShown; }
+[[gnu::used]] inline void SDLCALL SDL_GL_SwapWindow(SDL_Window*) {
+    ++framesShown;
+}
 
 // The window procedure writes down what it hears. It returns what `answers` holds for a message;
 // all others it leaves to DefWindowProcA.

@@ -84,7 +84,9 @@ std::string noteOf(double seconds) {
     return std::string("\0\x90\x3C\x7F", 4) + wait + "\x80\x3C\x40";
 }
 
-std::string pieceOf(double seconds) { return midiFile(noteOf(seconds)); }
+std::string pieceOf(double seconds) {
+    return midiFile(noteOf(seconds));
+}
 
 std::string waveFile(std::int16_t level, double seconds) {
     const std::string frame = number(static_cast<std::uint32_t>(level), 2);
@@ -176,9 +178,7 @@ std::vector<std::string> linesOfTheGame() {
     std::istringstream text(testing::internal::GetCapturedStderr());
     std::vector<std::string> lines;
     for (std::string line; std::getline(text, line);) {
-        if (line.starts_with("glorbix: ")) {
-            lines.push_back(line);
-        }
+        if (line.starts_with("glorbix: ")) { lines.push_back(line); }
     }
     return lines;
 }

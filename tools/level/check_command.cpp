@@ -46,14 +46,15 @@ double colourDistance(std::uint32_t a, std::uint32_t b) {
 
 void checkHole(int index, Findings& findings) {
     const Hole& hole = level.allHoles()[static_cast<std::size_t>(index)];
-    if (!(hole.width > 0.0F)) findings.add(holeName(index) + " has no width above 0");
-    if (hole.depth == 0.0F) findings.add(holeName(index) + " has the depth 0 and does nothing");
-    if (!(hole.depth > 0.0F)) return;
+    if (!(hole.width > 0.0F)) { findings.add(holeName(index) + " has no width above 0"); }
+    if (hole.depth == 0.0F) { findings.add(holeName(index) + " has the depth 0 and does nothing"); }
+    if (!(hole.depth > 0.0F)) { return; }
     const bool onCourse = hole.x >= courseLeft && hole.x <= courseRight && hole.y >= courseBack &&
                           hole.y <= -courseBack;
-    if (!onCourse) findings.add(holeName(index) + " is a well beside the course");
-    if (std::abs(static_cast<double>(hole.y) - goalLine) <= catchRadiusInWidths * hole.width)
+    if (!onCourse) { findings.add(holeName(index) + " is a well beside the course"); }
+    if (std::abs(static_cast<double>(hole.y) - goalLine) <= catchRadiusInWidths * hole.width) {
         findings.add(holeName(index) + " catches on the goal line");
+    }
 }
 
 void checkReturns(Findings& findings) {
@@ -64,7 +65,7 @@ void checkReturns(Findings& findings) {
                     findings.file.c_str(), wellsTried());
     }
     for (const Return& back : returns) {
-        if (back.found || back.hole == reported) continue;
+        if (back.found || back.hole == reported) { continue; }
         reported = back.hole;
         findings.add(holeName(back.hole) +
                      " keeps the marble for ever: along x = 0 behind it there is no spot 250 units "
@@ -74,15 +75,18 @@ void checkReturns(Findings& findings) {
 
 // What the game takes, but the author surely did not mean.
 void checkCourse(Findings& findings) {
-    for (int i = 0; i < level.holeCount; ++i)
+    for (int i = 0; i < level.holeCount; ++i) {
         checkHole(i, findings);
-    if (level.holeCount == 0) findings.add("there is not a single hole: the ground is flat");
-    if (level.holeAt(0.0F, startLine) > 0.0F) findings.add("the start lies in a catch circle");
-    if (colourDistance(level.fogColourCode, level.marbleColourCode) < alikeColours)
+    }
+    if (level.holeCount == 0) { findings.add("there is not a single hole: the ground is flat"); }
+    if (level.holeAt(0.0F, startLine) > 0.0F) { findings.add("the start lies in a catch circle"); }
+    if (colourDistance(level.fogColourCode, level.marbleColourCode) < alikeColours) {
         findings.add("fogcolor= and marblecolor= are so alike that the marble will be lost in fog");
+    }
     checkReturns(findings);
-    if (!Guide(level).reachesGoal())
+    if (!Guide(level).reachesGoal()) {
         findings.add("no way leads from the start to the goal past all wells");
+    }
 }
 
 int checkLevel(const std::string& file) {
@@ -96,10 +100,11 @@ int checkLevel(const std::string& file) {
         findings.add(explainFault(report.fault));
         return levelHasFaults;
     }
-    for (const std::string& odd : findOddDirectives(report))
+    for (const std::string& odd : findOddDirectives(report)) {
         findings.add(odd);
+    }
     checkCourse(findings);
-    if (findings.count == 0) std::printf("%s: good\n", file.c_str());
+    if (findings.count == 0) { std::printf("%s: good\n", file.c_str()); }
     return findings.count == 0 ? allWell : levelHasFaults;
 }
 
@@ -112,25 +117,30 @@ int explainList() {
 
 // The list and all its levels.
 int checkList() {
-    if (!loadLevelList()) return explainList();
+    if (!loadLevelList()) { return explainList(); }
     std::vector<std::string> files;
     const auto count = static_cast<std::size_t>(Game.levelCount);
     files.reserve(count);
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
         files.emplace_back(Game.levelFiles[i].get());
+    }
     std::printf("%s: good, %zu levels\n", levelListFile, files.size());
     int worst = allWell;
-    for (const std::string& file : files)
+    for (const std::string& file : files) {
         worst = std::max(worst, checkLevel(file));
+    }
     return worst;
 }
 
 } // namespace
 
 int checkLevels(Words words) {
-    if (const std::string option = words.unknownOption(); !option.empty())
+    if (const std::string option = words.unknownOption(); !option.empty()) {
         return refuseWords("check", "unknown option " + option);
-    if (words.words.empty()) return refuseWords("check", "takes level files or maps/maplist.dat");
+    }
+    if (words.words.empty()) {
+        return refuseWords("check", "takes level files or maps/maplist.dat");
+    }
     std::error_code error;
     const std::filesystem::path home = std::filesystem::current_path(error);
     int worst = allWell;

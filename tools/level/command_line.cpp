@@ -9,7 +9,7 @@ bool Words::takeFlag(const std::string& flag) {
 
 std::optional<std::string> Words::takeOption(const std::string& option) {
     const auto found = std::find(words.begin(), words.end(), option);
-    if (found == words.end() || found + 1 == words.end()) return {};
+    if (found == words.end() || found + 1 == words.end()) { return {}; }
     std::string value = *(found + 1);
     words.erase(found, found + 2);
     return value;

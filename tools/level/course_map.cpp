@@ -148,14 +148,15 @@ struct Mapper {
     }
 
     void drawHole(const Hole& hole) {
-        if (hole.depth <= 0.0F) return;
+        if (hole.depth <= 0.0F) { return; }
         const double radius =
             std::min<double>(catchRadiusInWidths * hole.width / unitsPerPixel, mostRadius);
         const double x = pictureX(hole.y);
         const double y = pictureY(hole.x, hole.y);
-        if (std::abs(x) > farAway || std::abs(y) > farAway) return;
-        for (double r = 0.0; r < radius; r += 0.5)
+        if (std::abs(x) > farAway || std::abs(y) > farAway) { return; }
+        for (double r = 0.0; r < radius; r += 0.5) {
             picture.circle(x, y, r, 1, darkRed);
+        }
         picture.circle(x, y, radius, 1, red);
     }
 
@@ -197,7 +198,7 @@ struct Mapper {
                 picture.circle(pictureX(a.y), pictureY(a.x, a.y), 6.0, 3, white);
                 continue;
             }
-            if ((a.y < 0.0F) != (b.y < 0.0F)) continue;
+            if ((a.y < 0.0F) != (b.y < 0.0F)) { continue; }
             picture.line(pictureX(a.y), pictureY(a.x, a.y), pictureX(b.y), pictureY(b.x, b.y), 3,
                          b.turbo ? turboColour : lineColour);
         }
@@ -216,7 +217,8 @@ Picture drawCourseMap(const Level& course, const std::vector<Vector3>& returnSpo
         mapper.drawHole(hole);
     }
     mapper.drawLine(line);
-    for (const Vector3& spot : returnSpots)
+    for (const Vector3& spot : returnSpots) {
         mapper.drawSpot(spot);
+    }
     return std::move(mapper.picture);
 }

@@ -5,7 +5,7 @@ namespace {
 void notePlace(Drive& drive, Keys held, int catchesBefore) {
     const RunState now = runState();
     const Vector3& p = now.rolling.position;
-    if (now.catches > catchesBefore && !drive.line.empty()) drive.line.back().caught = true;
+    if (now.catches > catchesBefore && !drive.line.empty()) { drive.line.back().caught = true; }
     drive.line.push_back({p.x, p.y, (held & turboKey) != 0, false});
 }
 

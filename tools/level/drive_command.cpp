@@ -34,13 +34,14 @@ std::string readOrder(Words& words, Order& order) {
                    std::to_string(mostTicksPerSecond) + " ticks a second, a whole number";
         }
     }
-    if (const auto keys = words.takeOption("--keys")) order.keysOut = wholePath(*keys);
-    if (const auto play = words.takeOption("--play")) order.keysIn = wholePath(*play);
+    if (const auto keys = words.takeOption("--keys")) { order.keysOut = wholePath(*keys); }
+    if (const auto play = words.takeOption("--play")) { order.keysIn = wholePath(*play); }
     order.holdUp = words.takeFlag("--hold-up");
-    if (const std::string option = words.unknownOption(); !option.empty())
+    if (const std::string option = words.unknownOption(); !option.empty()) {
         return "unknown option " + option + ", or nothing behind it";
-    if (words.words.size() != 1) return "takes one level file";
-    if (order.holdUp && !order.keysIn.empty()) return "either --hold-up or --play";
+    }
+    if (words.words.size() != 1) { return "takes one level file"; }
+    if (order.holdUp && !order.keysIn.empty()) { return "either --hold-up or --play"; }
     order.level = words.words[0];
     return {};
 }
@@ -49,7 +50,7 @@ std::string readOrder(Words& words, Order& order) {
 void showProgress(float y) {
     static int shown = -1;
     const int percent = static_cast<int>(100.0F * (y - startLine) / (goalLine - startLine));
-    if (percent == shown || isatty(STDERR_FILENO) == 0) return;
+    if (percent == shown || isatty(STDERR_FILENO) == 0) { return; }
     shown = percent;
     std::fprintf(stderr, "\r%3d %%", percent);
 }
@@ -60,7 +61,7 @@ Drive driveAlone(const Order& order) {
         showProgress(marble.position.y);
         return order.holdUp ? upKey : driver.keysFor(dt);
     });
-    if (isatty(STDERR_FILENO) != 0) std::fputs("\r     \r", stderr);
+    if (isatty(STDERR_FILENO) != 0) { std::fputs("\r     \r", stderr); }
     return drive;
 }
 
@@ -82,18 +83,22 @@ int printResult(const Order& order, const Drive& drive) {
 
 int driveLevel(Words words) {
     Order order;
-    if (const std::string why = readOrder(words, order); !why.empty())
+    if (const std::string why = readOrder(words, order); !why.empty()) {
         return refuseWords("drive", why);
+    }
     KeyFile keys;
     std::string error;
-    if (!order.keysIn.empty() && !readKeyFile(order.keysIn, keys, error)) return refuseFile(error);
+    if (!order.keysIn.empty() && !readKeyFile(order.keysIn, keys, error)) {
+        return refuseFile(error);
+    }
     enterGameFolder(order.level);
     LevelFileReport report;
     if (!startRun(order.level.c_str(), report)) {
         return refuseFile(order.level + ":" + explainFault(report.fault));
     }
     const Drive drive = order.keysIn.empty() ? driveAlone(order) : replay(keys);
-    if (!order.keysOut.empty() && !writeKeyFile(order.keysOut, drive.keys, error))
+    if (!order.keysOut.empty() && !writeKeyFile(order.keysOut, drive.keys, error)) {
         return refuseFile(error);
+    }
     return printResult(order, drive);
 }

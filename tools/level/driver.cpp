@@ -31,10 +31,10 @@ Keys keysAlongGuide(const Guide& guide, Keys turbo) {
     const float speed = turbo == noKey ? topSpeed : turboSpeed;
     const Vector3 gap = guide.directionAt(p.x, p.y) * speed - marble.velocity;
     Keys keys = noKey;
-    if (gap.x < -0.5F) keys |= leftKey;
-    if (gap.x > 0.5F) keys |= rightKey;
-    if (gap.y > 0.2F) keys |= upKey;
-    if (gap.y < -1.0F) keys |= downKey;
+    if (gap.x < -0.5F) { keys |= leftKey; }
+    if (gap.x > 0.5F) { keys |= rightKey; }
+    if (gap.y > 0.2F) { keys |= upKey; }
+    if (gap.y < -1.0F) { keys |= downKey; }
     return keys;
 }
 
@@ -46,8 +46,9 @@ struct Look {
 
     // Holds the keys for some ticks, or for less where the matter is decided before.
     void hold(Keys keys, int ticks) const {
-        for (int i = 0; i < ticks && !isDecided(); ++i)
+        for (int i = 0; i < ticks && !isDecided(); ++i) {
             tickRun(keys, lookTick);
+        }
     }
 
     void followGuide(Keys turbo) const {
@@ -60,10 +61,10 @@ struct Look {
     float cost() const {
         const RunState then = runState();
         const float elapsed = now.clock - then.clock;
-        if (then.catches > now.catches) return catchCost - elapsed;
+        if (then.catches > now.catches) { return catchCost - elapsed; }
         const float turbo = (now.turbo - then.turbo) * turboPrice;
         // Being over the line is worth no less than racing towards it.
-        if (then.done) return elapsed + turbo - fullSpeedWorth * turboSpeed / topSpeed;
+        if (then.done) { return elapsed + turbo - fullSpeedWorth * turboSpeed / topSpeed; }
         const Vector3& p = marble.position;
         const float alongLine = dot(guide.directionAt(p.x, p.y), marble.velocity) / topSpeed;
         return elapsed + guide.secondsAt(p.x, p.y) + turbo - fullSpeedWorth * alongLine;
@@ -89,16 +90,16 @@ float costOf(const Look& look, Keys first, Keys turbo) {
 Keys Driver::keysFor(float dt) {
     untilDecision -= dt;
     const RunState now = runState();
-    if (untilDecision > 0.0F || now.clock > levelTime || now.holdTime > dt) return held;
+    if (untilDecision > 0.0F || now.clock > levelTime || now.holdTime > dt) { return held; }
     untilDecision += decisionSeconds;
-    if (untilDecision <= 0.0F) untilDecision = decisionSeconds;
+    if (untilDecision <= 0.0F) { untilDecision = decisionSeconds; }
     float best = 1.0e9F;
     for (const Keys turbo : {noKey, turboKey}) {
-        if (turbo != noKey && now.turbo <= 0.0F) continue;
+        if (turbo != noKey && now.turbo <= 0.0F) { continue; }
         for (const Keys first : directions) {
             const float cost = costOf({guide, now}, first, turbo);
             setRunState(now);
-            if (cost >= best) continue;
+            if (cost >= best) { continue; }
             best = cost;
             held = first | turbo;
         }

@@ -18,7 +18,7 @@ std::string butFound(const LevelFault& fault) {
 
 std::string explainUnknown(const std::string& token) {
     for (const char* key : directiveKeys) {
-        if (token.starts_with(key)) return "there must be a blank after " + quoted(key);
+        if (token.starts_with(key)) { return "there must be a blank after " + quoted(key); }
     }
     return "unknown word " + quoted(token) +
            ", expected texturefile=, fogcolor=, marblecolor=, holecount= or .data";
@@ -76,8 +76,8 @@ std::vector<std::string> findOddDirectives(const LevelFileReport& report) {
     for (int i = 0; i < directiveCount; ++i) {
         const int times = report.seen[static_cast<std::size_t>(i)];
         const std::string key = quoted(directiveKeys[i]);
-        if (times == 0) odd.push_back(key + " is missing");
-        if (times > 1) odd.push_back(key + " occurs more than once; the last counts");
+        if (times == 0) { odd.push_back(key + " is missing"); }
+        if (times > 1) { odd.push_back(key + " occurs more than once; the last counts"); }
     }
     return odd;
 }

@@ -21,11 +21,11 @@ path installedData() {
 
 path gameFolderOf(const path& file) {
     for (path folder = file.parent_path();; folder = folder.parent_path()) {
-        if (isGameFolder(folder)) return folder;
-        if (folder == folder.parent_path()) break;
+        if (isGameFolder(folder)) { return folder; }
+        if (folder == folder.parent_path()) { break; }
     }
-    if (isGameFolder(".")) return ".";
-    if (isGameFolder("game")) return "game";
+    if (isGameFolder(".")) { return "."; }
+    if (isGameFolder("game")) { return "game"; }
     return installedData();
 }
 
@@ -34,11 +34,11 @@ path gameFolderOf(const path& file) {
 void enterGameFolder(std::string& file) {
     std::error_code error;
     const path whole = std::filesystem::absolute(file, error).lexically_normal();
-    if (error) return;
+    if (error) { return; }
     const path folder = gameFolderOf(whole);
     file = whole.string();
     std::filesystem::current_path(folder, error);
-    if (error) return;
+    if (error) { return; }
     const path near = whole.lexically_relative(std::filesystem::current_path(error));
-    if (!error && !near.empty() && *near.begin() != "..") file = near.string();
+    if (!error && !near.empty() && *near.begin() != "..") { file = near.string(); }
 }

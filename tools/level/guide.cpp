@@ -37,13 +37,13 @@ std::size_t indexOf(int column, int row) {
 }
 
 bool isOpen(const Level& course, const Vector3& at) {
-    if (at.x < courseLeft + margin || at.x > courseRight - margin) return false;
+    if (at.x < courseLeft + margin || at.x > courseRight - margin) { return false; }
     for (int i = 0; i < 8; ++i) {
         const auto& [c, r] = neighbours[i];
         const float reach = margin / std::sqrt(static_cast<float>(c * c + r * r));
         const float x = at.x + static_cast<float>(c) * reach;
         const float y = at.y + static_cast<float>(r) * reach;
-        if (course.holeAt(x, y) > 0.0F) return false;
+        if (course.holeAt(x, y) > 0.0F) { return false; }
     }
     return course.holeAt(at.x, at.y) <= 0.0F;
 }
@@ -67,12 +67,14 @@ struct Search {
 
     void begin() {
         for (std::size_t i = 0; i < guide.seconds.size(); ++i) {
-            if (course.groundPoints[i].y > goalLine) offer(i, 0.0F);
+            if (course.groundPoints[i].y > goalLine) { offer(i, 0.0F); }
         }
     }
 
     void offer(std::size_t index, float seconds) {
-        if (!(seconds < guide.seconds[index])) return; // nor one that is no number
+        if (!(seconds < guide.seconds[index])) {
+            return; // nor one that is no number
+        }
         guide.seconds[index] = seconds;
         next.emplace(seconds, index);
     }
@@ -81,10 +83,10 @@ struct Search {
         const int column = static_cast<int>(to) % groundColumns;
         const int row = static_cast<int>(to) / groundColumns;
         for (const auto& [c, r] : neighbours) {
-            if (!onMesh(column + c, row + r)) continue;
+            if (!onMesh(column + c, row + r)) { continue; }
             const std::size_t from = indexOf(column + c, row + r);
             float seconds = secondsBetween(course.groundPoints[from], course.groundPoints[to]);
-            if (!guide.open[from]) seconds *= closedFactor;
+            if (!guide.open[from]) { seconds *= closedFactor; }
             offer(from, guide.seconds[to] + seconds);
         }
     }
@@ -94,7 +96,7 @@ struct Search {
         while (!next.empty()) {
             const auto [seconds, index] = next.top();
             next.pop();
-            if (seconds <= guide.seconds[index]) spread(index);
+            if (seconds <= guide.seconds[index]) { spread(index); }
         }
     }
 };
@@ -104,8 +106,9 @@ struct Search {
 Guide::Guide(const Level& course) {
     seconds.assign(groundVertices, 1.0e9F);
     open.resize(groundVertices);
-    for (std::size_t i = 0; i < open.size(); ++i)
+    for (std::size_t i = 0; i < open.size(); ++i) {
         open[i] = isOpen(course, course.groundPoints[i]);
+    }
     Search{course, *this, {}}.run();
 }
 
@@ -136,14 +139,14 @@ bool Guide::reachesGoal() const {
     while (!toVisit.empty()) {
         const std::size_t index = toVisit.back();
         toVisit.pop_back();
-        if (seen[index] || !open[index]) continue;
+        if (seen[index] || !open[index]) { continue; }
         seen[index] = true;
         const int column = static_cast<int>(index) % groundColumns;
         const int row = static_cast<int>(index) / groundColumns;
-        if (row == groundRows - 1) return true;
+        if (row == groundRows - 1) { return true; }
         for (int i = 0; i < 8; ++i) {
             const auto& [c, r] = neighbours[i];
-            if (onMesh(column + c, row + r)) toVisit.push_back(indexOf(column + c, row + r));
+            if (onMesh(column + c, row + r)) { toVisit.push_back(indexOf(column + c, row + r)); }
         }
     }
     return false;

@@ -34,9 +34,7 @@ std::vector<std::string> wordsOf(const std::string& line) {
 
 // What is wrong with a line; empty when it is taken.
 std::string takeTicks(const std::vector<std::string>& words, KeyFile& into) {
-    if (words.size() == 2 && readTicksPerSecond(words[1], into.ticksPerSecond)) {
-        return {};
-    }
+    if (words.size() == 2 && readTicksPerSecond(words[1], into.ticksPerSecond)) { return {}; }
     return "\"ticks\" takes one whole number, " + std::to_string(fewestTicksPerSecond) + " to " +
            std::to_string(mostTicksPerSecond);
 }
@@ -66,12 +64,8 @@ std::string takeKeys(const std::vector<std::string>& words, KeyFile& into) {
 
 std::string takeLine(const std::string& line, KeyFile& into) {
     const std::vector<std::string> words = wordsOf(line);
-    if (words.empty()) {
-        return {};
-    }
-    if (words[0] == "ticks") {
-        return takeTicks(words, into);
-    }
+    if (words.empty()) { return {}; }
+    if (words[0] == "ticks") { return takeTicks(words, into); }
     return words[0] == "time" ? takeTime(words, into) : takeKeys(words, into);
 }
 
@@ -110,12 +104,13 @@ bool writeKeyFile(const std::string& fileName, const KeyFile& drive, std::string
     file << "ticks " << drive.ticksPerSecond << "\ntime "
          << std::setprecision(std::numeric_limits<float>::max_digits10) << drive.time << '\n';
     for (std::size_t i = 0, next = 0; i < drive.ticks.size(); i = next) {
-        while (next < drive.ticks.size() && drive.ticks[next] == drive.ticks[i])
+        while (next < drive.ticks.size() && drive.ticks[next] == drive.ticks[i]) {
             ++next;
+        }
         file << next - i << ' ' << keysText(drive.ticks[i]) << '\n';
     }
     file.close();
-    if (file) return true;
+    if (file) { return true; }
     error = fileName + ": cannot be written";
     return false;
 }

@@ -18,17 +18,17 @@ constexpr const char* noKeyName = "-";
 std::string keysText(Keys keys) {
     std::string text;
     for (const KeyName& entry : keyNames) {
-        if ((keys & entry.key) == 0) continue;
-        if (!text.empty()) text += ' ';
+        if ((keys & entry.key) == 0) { continue; }
+        if (!text.empty()) { text += ' '; }
         text += entry.name;
     }
     return text.empty() ? noKeyName : text;
 }
 
 bool addKey(const std::string& name, Keys& keys) {
-    if (name == noKeyName) return true;
+    if (name == noKeyName) { return true; }
     for (const KeyName& entry : keyNames) {
-        if (name != entry.name) continue;
+        if (name != entry.name) { continue; }
         keys |= entry.key;
         return true;
     }

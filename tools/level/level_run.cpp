@@ -20,13 +20,13 @@ int catches = 0;
 bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_t* pixels) {
     std::string file;
     std::string why;
-    if (!readWholeFile(fileName, file, why)) return false;
+    if (!readWholeFile(fileName, file, why)) { return false; }
     constexpr std::size_t headers = bitmapFileHeaderSize + bitmapInfoHeaderSize;
     file.resize(std::max(file.size(), headers)); // what the headers lack counts as 0
     std::uint8_t infoHeader[bitmapInfoHeaderSize];
     std::memcpy(infoHeader, file.data() + bitmapFileHeaderSize, sizeof infoHeader);
     const std::int64_t bytes = pixelBytes(parseBitmapInfo(infoHeader));
-    if (bytes < 0 || bytes > capacity) return false;
+    if (bytes < 0 || bytes > capacity) { return false; }
     const std::size_t there = std::min(file.size() - headers, static_cast<std::size_t>(bytes));
     std::memcpy(pixels, file.data() + headers, there);
     exchangeRedAndBlue(pixels, bytes);
@@ -35,11 +35,11 @@ bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_
 
 bool readTexture(Level& into, const char* baseName, std::string& picture) {
     picture = baseName;
-    if (std::strlen(baseName) >= mipBaseNameCapacity) return false;
+    if (std::strlen(baseName) >= mipBaseNameCapacity) { return false; }
     for (int k = 0; k < groundChain.levels; ++k) {
         picture = mipFileName(baseName, k);
         const auto capacity = static_cast<std::int64_t>(slotSize(groundChain));
-        if (!readPicture(picture, capacity, into.texturePixels[k])) return false;
+        if (!readPicture(picture, capacity, into.texturePixels[k])) { return false; }
     }
     return true;
 }
@@ -64,7 +64,7 @@ bool startRun(const char* levelFile, LevelFileReport& report) {
     Game.levelTimes.reset(new float[levelsInRun]{levelTime, levelTime});
     catches = 0;
     resetLevel();
-    if (!readLevelFile(levelFile, level, marble, readTexture, report)) return false;
+    if (!readLevelFile(levelFile, level, marble, readTexture, report)) { return false; }
     Game.turbo = fullTurbo;
     placeAtStart();
     return true;
@@ -73,7 +73,7 @@ bool startRun(const char* levelFile, LevelFileReport& report) {
 void tickRun(Keys keys, float dt) {
     Game.frameTime = dt;
     advanceClocks();
-    if (!Game.levelDone && stepWorld(controlsOf(keys)).resetMarble) ++catches;
+    if (!Game.levelDone && stepWorld(controlsOf(keys)).resetMarble) { ++catches; }
     agePenalty();
     checkClock();
 }

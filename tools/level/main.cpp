@@ -41,8 +41,9 @@ constexpr Verb verbs[] = {
 void printAllHelp(std::FILE* out) {
     std::fputs("Makes and tests levels of Glorbix. docs/levels.md tells how they are written.\n\n",
                out);
-    for (const Verb& verb : verbs)
+    for (const Verb& verb : verbs) {
         std::fprintf(out, "%s\n", verb.help);
+    }
 }
 
 int runVerb(const Verb& verb, Words words) {
@@ -58,7 +59,7 @@ int runVerb(const Verb& verb, Words words) {
 int main(int count, char** arguments) {
     const std::string name = count > 1 ? arguments[1] : "";
     for (const Verb& verb : verbs) {
-        if (name == verb.name) return runVerb(verb, {{arguments + 2, arguments + count}});
+        if (name == verb.name) { return runVerb(verb, {{arguments + 2, arguments + count}}); }
     }
     if (name == "--version") {
         std::puts("glorbix-level " GLORBIX_VERSION);

@@ -22,16 +22,17 @@ constexpr const char* smallLevel = "texturefile= graphics/ground/grid\n"
 
 int newLevel(Words words) {
     const bool force = words.takeFlag("--force");
-    if (const std::string option = words.unknownOption(); !option.empty())
+    if (const std::string option = words.unknownOption(); !option.empty()) {
         return refuseWords("new", "unknown option " + option);
-    if (words.words.size() != 1) return refuseWords("new", "takes one file");
+    }
+    if (words.words.size() != 1) { return refuseWords("new", "takes one file"); }
     const std::string& file = words.words[0];
     std::error_code ignored;
     const std::filesystem::file_status there = std::filesystem::status(file, ignored);
-    if (exists(there) && !is_regular_file(there)) {
-        return refuseFile(file + " is not a file");
+    if (exists(there) && !is_regular_file(there)) { return refuseFile(file + " is not a file"); }
+    if (!force && exists(there)) {
+        return refuseFile(file + " is there already; --force replaces it");
     }
-    if (!force && exists(there)) return refuseFile(file + " is there already; --force replaces it");
     std::ofstream out(file, std::ios::binary);
     out << smallLevel;
     out.close();

@@ -14,7 +14,7 @@ std::uint8_t Picture::addColour(PaletteColour colour) {
 }
 
 void Picture::put(int x, int y, std::uint8_t colour) {
-    if (x < 0 || x >= width || y < 0 || y >= height) return;
+    if (x < 0 || x >= width || y < 0 || y >= height) { return; }
     pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
            static_cast<std::size_t>(x)] = colour;
 }
@@ -22,8 +22,9 @@ void Picture::put(int x, int y, std::uint8_t colour) {
 void Picture::dot(int x, int y, int thickness, std::uint8_t colour) {
     const int reach = thickness / 2;
     for (int row = y - reach; row <= y + reach; ++row) {
-        for (int column = x - reach; column <= x + reach; ++column)
+        for (int column = x - reach; column <= x + reach; ++column) {
             put(column, row, colour);
+        }
     }
 }
 

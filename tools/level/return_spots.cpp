@@ -35,8 +35,10 @@ std::vector<Return> findReturns() {
     std::vector<Return> returns;
     for (int i = 0; i < wellsTried(); ++i) {
         const Hole& hole = level.allHoles()[static_cast<std::size_t>(i)];
-        if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) continue;
-        if (std::abs(hole.y) > -courseBack) continue; // no marble gets there
+        if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) { continue; }
+        if (std::abs(hole.y) > -courseBack) {
+            continue; // no marble gets there
+        }
         for (const float side : {-dropDistance, dropDistance}) {
             Return back = {i, false, {}};
             const float y = std::clamp(hole.y + side * hole.width, courseBack, -courseBack);
@@ -54,7 +56,7 @@ std::vector<Vector3> differentSpots(const std::vector<Return>& returns) {
         const bool known = std::any_of(spots.begin(), spots.end(), [&back](const Vector3& spot) {
             return (spot - back.spot).length() < 1.0F;
         });
-        if (back.found && !known) spots.push_back(back.spot);
+        if (back.found && !known) { spots.push_back(back.spot); }
     }
     std::sort(spots.begin(), spots.end(),
               [](const Vector3& a, const Vector3& b) { return a.y < b.y; });

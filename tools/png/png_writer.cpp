@@ -15,9 +15,7 @@ png_image describe(int width, int height, png_uint_32 format) {
 
 bool write(png_image& image, const std::string& file, const std::uint8_t* pixels,
            const std::uint8_t* palette, std::string& error) {
-    if (png_image_write_to_file(&image, file.c_str(), 0, pixels, 0, palette) != 0) {
-        return true;
-    }
+    if (png_image_write_to_file(&image, file.c_str(), 0, pixels, 0, palette) != 0) { return true; }
     error = file + ": " + image.message;
     return false;
 }
