@@ -1,7 +1,7 @@
 # How everything of ours is compiled: strict arithmetic, strict warnings.
 add_library(glorbix_compiler INTERFACE)
 
-# The marble must roll alike on every machine: no multiply-add is contracted behind our back.
+# The marble must roll alike on every machine, so the compiler must not fuse multiply and add.
 target_compile_options(glorbix_compiler INTERFACE -ffp-contract=off)
 # With this vectorizer, GCC 12 gives other last bits at -O2 than at -O1 and than other compilers.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")

@@ -1,24 +1,25 @@
 # shellcheck shell=bash
-# The real game on a virtual display, to be steered by keys and looked at: source this file.
+# Functions that run the real game on a virtual display, press its keys and take pictures. Source
+# this file.
 #
 #   startGame BINARY DATA_FOLDER    starts the game in a folder of its own, $gameFolder
 #   answerBox TITLE                 waits for the message box and closes it by Return
 #   press KEY...                    presses keys one after the other, by their X names
-#   pressQuickly KEY...             the same, ten keys a second however busy the machine is
+#   pressQuickly KEY...             the same, ten keys a second, also on a busy machine
 #   hold KEY... / release KEY...    keys that stay down
 #   shoot FILE                      writes a picture of what the player sees
-#   waitForEnd SECONDS              waits until the game has ended; its exit code
+#   waitForEnd SECONDS              waits until the game has ended; returns its exit code
 #   stopGame                        ends game and display; call it from a trap as well
 #
-# The game's own output is in $gameFolder/log.
+# The game's output is in $gameFolder/log.
 
 gameDisplay=''
 gameFolder=''
 displayProcess=''
 gameProcess=''
 
-# Without -noreset the server would start over whenever its last client leaves, as each look at the
-# windows is while the game has not connected yet.
+# Without -noreset the server would reset itself whenever its last client leaves, such as a search
+# for a window before the game has connected.
 startDisplay() {
     local pipe="$gameFolder/display"
     mkfifo "$pipe"
@@ -33,7 +34,7 @@ startDisplay() {
     gameDisplay=":$gameDisplay"
 }
 
-# The window of that title; nothing while there is none to be seen.
+# Prints the window of that title; nothing while none is visible.
 windowOf() {
     DISPLAY=$gameDisplay xwininfo -name "$1" 2> /dev/null |
         awk '/Window id/ { id = $4 } /IsViewable/ { print id }'
@@ -46,7 +47,7 @@ hasKeyboard() {
         [ $((window)) -eq "$(DISPLAY=$gameDisplay xdotool getwindowfocus 2> /dev/null || echo 0)" ]
 }
 
-# Waits until a window of that title has the keyboard; a busy machine takes its time.
+# Waits until a window of that title has the keyboard; up to a minute, for a busy machine.
 waitForWindow() {
     local patience=$((SECONDS + 60))
     while [ "$SECONDS" -lt "$patience" ]; do
@@ -78,7 +79,7 @@ startGame() {
     gameProcess=$!
 }
 
-# There is no window manager, so the game itself gives the box the keyboard and takes it back.
+# There is no window manager: the game itself moves the keyboard to the box and back.
 answerBox() {
     waitForWindow "$1"
     press Return
@@ -103,15 +104,14 @@ release() { DISPLAY=$gameDisplay xdotool keyup "$@"; }
 shoot() { DISPLAY=$gameDisplay import -window root "$1"; }
 
 waitForEnd() {
-    local try
-    for try in $(seq $(($1 * 10))); do
+    for _ in $(seq $(($1 * 10))); do
         if ! kill -0 "$gameProcess" 2> /dev/null; then
             wait "$gameProcess"
             return
         fi
         sleep 0.1
     done
-    echo "the game still runs after $1 seconds ($try looks)" >&2
+    echo "the game still runs after $1 seconds" >&2
     return 1
 }
 
