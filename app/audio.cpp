@@ -1,13 +1,10 @@
 #include "app/audio.h"
 
+#include "data/asset_files.h"
 #include "platform/windows_api.h"
 #include "state/game.h"
 
 namespace {
-
-// In the order of Game.nextTrack; the first opens every run.
-constexpr const char* tracks[] = {"sounds/midi1.mid", "sounds/drwho2.mid", "sounds/midi3.mid"};
-constexpr std::int32_t trackCount = 3;
 
 void closeDevice() {
     mciSendCommandA(Game.musicDevice, MCI_CLOSE, 0, 0);
@@ -23,7 +20,7 @@ MCIERROR openDevice(const char* fileName) {
     return error;
 }
 
-// The port itself does not matter; a device that cannot tell it cannot play.
+// The port itself is not used; a device that cannot report it cannot play.
 MCIERROR queryPort() {
     MCI_STATUS_PARMS status = {};
     status.dwItem = MCI_SEQ_STATUS_PORT;
@@ -39,7 +36,7 @@ MCIERROR playDevice(HWND window) {
 }
 
 void playTrack(std::int32_t track) {
-    playMidi(Game.window, tracks[track]);
+    playMidi(Game.window, musicFiles[track]);
     Game.musicPlaying = 1;
 }
 
@@ -67,5 +64,5 @@ void rotateMusic() {
     closeDevice();
     if (!Game.musicPlaying || Game.screen != Screen::Level) { return; }
     playTrack(Game.nextTrack);
-    Game.nextTrack = (Game.nextTrack + 1) % trackCount;
+    Game.nextTrack = (Game.nextTrack + 1) % musicFileCount;
 }

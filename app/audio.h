@@ -1,21 +1,23 @@
-// The music: three MIDI pieces in rotation while a level is played. (Effects: app/effects.h.)
+// The music: MIDI pieces in rotation while a level is played. (Effects: app/effects.h.)
 //
-// The machine's sequencer plays in the background and reports the end of a piece as MM_MCINOTIFY,
-// at which the next one starts. Every run, and every switching on, begins with the opening piece.
-// A piece that cannot be played is passed over in silence, until the music is started again.
+// The sequencer plays in the background and reports the end of a piece to the window as
+// MM_MCINOTIFY; rotateMusic then plays the next one. startMusic plays the first piece, and
+// the rotation then continues with Game.nextTrack. After a piece that cannot be played there is no
+// music until startMusic is called again.
 #pragma once
 
 #include "platform/windows_api.h"
 
-// Opens the sequencer on a MIDI file and plays it, with the window to be told of its end. Returns 0
-// or the error code; after an error nothing is open. Leaves Game.musicPlaying to the caller.
+// Opens the sequencer on a MIDI file and plays it; `window` gets MM_MCINOTIFY at its end. Returns 0
+// or the error code; after an error nothing is open. Does not change Game.musicPlaying.
 MCIERROR playMidi(HWND window, const char* fileName);
 
-// Plays the opening piece and sets Game.musicPlaying.
+// Plays the first piece and sets Game.musicPlaying.
 void startMusic();
 
 // Closes the sequencer and clears Game.musicPlaying.
 void stopMusic();
 
-// A piece has ended: closes it and, if a level is on the screen, plays the next.
+// Handles the end of a piece: closes it and, if the music is on and a level on the screen, plays
+// the next.
 void rotateMusic();

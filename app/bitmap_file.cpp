@@ -6,7 +6,7 @@
 
 namespace {
 
-// Reads both headers. Of a header that ends early the missing bytes count as 0.
+// Reads both headers. Missing bytes of a file that ends early count as 0.
 bool readHeaders(HANDLE file, BitmapInfo& info) {
     std::uint8_t fileHeader[bitmapFileHeaderSize] = {};
     std::uint8_t infoHeader[bitmapInfoHeaderSize] = {};
@@ -22,7 +22,7 @@ bool readPixels(HANDLE file, std::int64_t bytes, std::uint8_t* pixels) {
     return ReadFile(file, pixels, static_cast<DWORD>(bytes), &got, nullptr) != FALSE;
 }
 
-// Reads the picture if accepts(info) says that it fits the buffer.
+// Reads the picture if accepts(info) returns that it fits the buffer.
 template <typename Accepts>
 bool readIfAccepted(const char* fileName, std::uint8_t* pixels, Accepts accepts) {
     const HANDLE file = CreateFileA(fileName, GENERIC_READ, 0, nullptr, OPEN_EXISTING,
@@ -33,7 +33,7 @@ bool readIfAccepted(const char* fileName, std::uint8_t* pixels, Accepts accepts)
                       readPixels(file, pixelBytes(info), pixels);
     const bool closed = CloseHandle(file) != FALSE;
     if (!read || !closed) { return false; }
-    exchangeRedAndBlue(pixels, pixelBytes(info));
+    swapRedAndBlue(pixels, pixelBytes(info));
     return true;
 }
 

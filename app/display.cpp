@@ -18,7 +18,7 @@ bool isGameMode(const DEVMODEA& mode) {
            mode.dmPelsHeight == screenHeight;
 }
 
-// Looks through the display's modes for the game's own, which then stands in displayMode.
+// Searches the display's modes for the game's own and leaves it in displayMode.
 bool findGameMode() {
     displayMode.dmSize = sizeof displayMode;
     for (DWORD index = 0;; ++index) {
@@ -28,7 +28,7 @@ bool findGameMode() {
     }
 }
 
-// Asks for nothing but size and colours, leaving the rest of the mode to the display.
+// Requests only size and colour depth and leaves the rest of the mode to the display.
 LONG switchBySize() {
     displayMode.dmBitsPerPel = screenColourBits;
     displayMode.dmPelsWidth = screenWidth;
@@ -42,7 +42,7 @@ bool refuseDisplay(const char* text, const char* caption) {
     return false;
 }
 
-// Tells why the display did not switch, where there is something to tell.
+// Reports why the display did not switch, for the results that have a message. Returns false.
 bool reportSwitch(LONG result) {
     switch (result) {
     case DISP_CHANGE_RESTART:
@@ -75,7 +75,7 @@ bool needsPalette(HDC deviceContext, int format) {
     return (description.dwFlags & PFD_NEED_PALETTE) != 0;
 }
 
-// Tells the last failure in the system's own words.
+// Reports the last error with the system's text. Returns false.
 bool refuseWithLastError(const char* caption) {
     char* text = nullptr;
     FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM, nullptr,

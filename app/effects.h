@@ -1,12 +1,6 @@
-// The sound effects: which there are, and the one way to play them.
-//
-// A new effect cuts off the one still playing; a file that cannot be played is passed over.
+// Plays the sound effects (their files: data/asset_files.h).
 #pragma once
 
-inline constexpr const char* menuSound = "sounds/menu.wav";     // a menu key, a letter of a name
-inline constexpr const char* goSound = "sounds/go.wav";         // the count-down is over
-inline constexpr const char* timeUpSound = "sounds/timeup.wav"; // the level's time has run out
-inline constexpr const char* goalSound = "sounds/allright.wav"; // the marble is over the line
-
-// Starts the WAVE file and returns at once.
+// Starts a WAVE file and returns at once. A new effect cuts off the one that is still playing; a
+// file that cannot be played is ignored.
 void playEffect(const char* fileName);

@@ -3,6 +3,7 @@
 #include "app/audio.h"
 #include "app/bitmap_file.h"
 #include "app/name_entry.h"
+#include "data/asset_files.h"
 #include "platform/windows_api.h"
 #include "render/best_times_screen.h"
 #include "render/frame_state.h"
@@ -15,9 +16,9 @@
 
 namespace {
 
-// A picture of the whole screen: its file, the message when that cannot be read, and its place in
-// the Game record. It is read when its screen is first entered; after a failure it is left out, and
-// tried again when its screen is entered again.
+// A picture of the whole screen: its file, the message when that cannot be read, and its fields in
+// the Game record. It is read when its screen is first entered. After a failure the screen is drawn
+// without it, and it is read again when the screen is entered again.
 struct ScreenPicture {
     const char* fileName;
     const char* failure;
@@ -25,9 +26,9 @@ struct ScreenPicture {
     std::uint8_t* pixels;
 };
 
-const ScreenPicture titlePicture = {"graphics/title.bmp", "could not load.bmp title",
-                                    Game.titlePending, Game.titlePicture};
-const ScreenPicture backPicture = {"graphics/back.bmp", "could not load back.bmp", Game.backPending,
+const ScreenPicture titlePicture = {titlePictureFile, "could not load.bmp title", Game.titlePending,
+                                    Game.titlePicture};
+const ScreenPicture backPicture = {backPictureFile, "could not load back.bmp", Game.backPending,
                                    Game.backPicture};
 
 void readPicture(const ScreenPicture& picture) {

@@ -1,7 +1,7 @@
 // One complete frame for the screen that the game is on.
 #pragma once
 
-// Composes and presents a frame: once a tick, also while paused, and when the window must be
-// painted. On the screens without a level it also ends the level and the music; on the name entry it takes
-// the typed key.
+// Draws and presents a frame. Called once a tick, also while paused, and when the window must be
+// painted. Every screen but the level's also stops the level; title and best times stop the music,
+// and the name entry takes the key that was typed.
 void drawFrame();

@@ -2,6 +2,7 @@
 
 #include "app/audio.h"
 #include "app/effects.h"
+#include "data/asset_files.h"
 #include "data/best_times.h"
 #include "platform/windows_api.h"
 #include "render/frame_state.h"
@@ -27,7 +28,7 @@ void startNewGame() {
     PostMessageA(Game.window, WM_GAME_START_LEVEL, 0, 0);
 }
 
-// Gives up the run; the posted Escape closes the menu.
+// Abandons the run; the posted Escape closes the menu.
 void showBestTimes() {
     Game.screen = Screen::BestTimes;
     Game.newBestEntry = -1;
@@ -62,7 +63,7 @@ void chooseMenuItem() {
     }
 }
 
-// Both pages wrap around; in fog "Far Sight" is stepped over.
+// Both pages wrap around; "Far Sight" is skipped while fog is on.
 void moveUp() {
     const MenuPage& page = menuPageOf(Game.menuItem);
     Game.menuItem = Game.menuItem == page.first ? page.last : Game.menuItem - 1;

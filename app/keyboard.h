@@ -1,10 +1,10 @@
-// The keyboard commands, and the menu (state/menu.h) that they drive.
-//
-// Steering and turbo are not here: updateSimulation samples those keys.
+// The keyboard commands and the menu (state/menu.h). Steering and turbo are not here:
+// updateSimulation samples those keys.
 #pragma once
 
 #include "platform/windows_api.h"
 
-// Answers a key-down message: remembers the key for the name entry, then runs its command. Menu
-// lines that repeat a key's command post that key to the window, so it runs on a later turn.
+// Handles a key-down message: stores the key for the name entry, then runs its command. A menu line
+// that does the same as a key posts that key to the window, so its command runs with a later
+// message.
 void handleKeyDown(WPARAM key);

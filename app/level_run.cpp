@@ -2,6 +2,7 @@
 
 #include "app/audio.h"
 #include "app/effects.h"
+#include "data/asset_files.h"
 #include "data/best_times.h"
 #include "platform/windows_api.h"
 #include "sim/level.h"
@@ -11,7 +12,7 @@
 
 namespace {
 
-constexpr float clockAtStartOfRun = 52.0F; // seconds: level 1 has a longer count-down
+constexpr float clockAtStartOfRun = levelTime + 7.0F; // seconds: a longer count-down
 
 void beginRun() {
     Game.clock = clockAtStartOfRun;
@@ -36,7 +37,7 @@ bool endRun() {
     return Game.levelNumber == Game.levelCount + 1 && finishRun();
 }
 
-// The next tick measures its time from here, so loading costs the player nothing.
+// The next tick measures its time from here, so the time spent loading does not count.
 void restartTime() {
     LARGE_INTEGER counter = {};
     QueryPerformanceCounter(&counter);

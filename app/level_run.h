@@ -1,5 +1,5 @@
-// A run: the levels of the list in order, each against its clock (sim/level_clock.h). The end of a
-// run goes to the best times.
+// A run: the levels of the list in order, each against its clock (sim/level_clock.h), and at the
+// end the best times.
 #pragma once
 
 // Starts the level after Game.levelNumber, or ends the run after the last one: the handler of
@@ -7,6 +7,6 @@
 // reported, and the program ends.
 void startNextLevel();
 
-// The turning points of the level's clock, checked after the frame of each running tick: starts the
-// next level and plays the signals of the start and of the end of the time.
+// Handles the events of the level's clock: starts the next level, and plays the sounds of the start
+// and of the end of the time. Called after the frame of each running tick.
 void checkLevelClock();

@@ -1,4 +1,4 @@
-// The entry of the game, and the loop in which it lives: every idle moment becomes a tick.
+// The entry of the game and its message loop.
 #include "app/display.h"
 #include "app/window.h"
 #include "platform/windows_api.h"
@@ -16,7 +16,7 @@ bool registerWindowClass(HINSTANCE instance) {
     WNDCLASSA windowClass = {};
     windowClass.lpfnWndProc = GameWindowProc;
     windowClass.hInstance = instance;
-    windowClass.hIcon = LoadIconA(instance, "OpenGL Demo"); // none is supplied
+    windowClass.hIcon = LoadIconA(instance, "OpenGL Demo"); // the program has none
     windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
     windowClass.lpszMenuName = gameName;
@@ -31,7 +31,8 @@ bool createWindow(HINSTANCE instance) {
     return Game.window != nullptr;
 }
 
-// Handles all messages that wait, then posts one tick, until the quit message comes; its exit code.
+// Handles waiting messages and posts a tick whenever there are none, until the quit message.
+// Returns its exit code.
 int runMessageLoop() {
     MSG message = {};
     for (;;) {

@@ -1,6 +1,7 @@
 #include "app/name_entry.h"
 
 #include "app/effects.h"
+#include "data/asset_files.h"
 #include "data/best_times.h"
 #include "platform/windows_api.h"
 #include "state/game.h"
@@ -10,7 +11,7 @@ namespace {
 constexpr std::int8_t firstLetter = 'A';
 constexpr std::int8_t lastLetter = 'z';
 constexpr int nameLength = 3;
-constexpr UINT refusalBeep = 10000; // none of the named beeps, so the system's default one
+constexpr UINT refusalBeep = 10000; // not a named beep, so the system's default one
 
 void typeLetter(char* name, char letter) {
     name[Game.nameCursor] = letter;

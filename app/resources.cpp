@@ -18,14 +18,14 @@ bool refuse(const std::string& text) {
     return false;
 }
 
-// The texture is made at once, so it stays where a later part of the file is refused.
+// Uploads the texture at once: it stays even when a later part of the level file is refused.
 bool loadGroundTexture(Level& into, const char* baseName, std::string& picture) {
     if (!readMipChain(groundChain, baseName, into.texturePixels[0], picture)) { return false; }
     uploadGroundTexture(into);
     return true;
 }
 
-// Some causes have no message of their own: the level run reports that the level is refused.
+// Reports the causes that have a message. Returns false; startNextLevel then reports the level.
 bool refuseLevel(const std::string& fileName, const LevelFault& fault) {
     using Cause = LevelFault::Cause;
     switch (fault.cause) {

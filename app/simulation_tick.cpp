@@ -1,6 +1,7 @@
 #include "app/simulation_tick.h"
 
 #include "app/effects.h"
+#include "data/asset_files.h"
 #include "platform/windows_api.h"
 #include "sim/simulation.h"
 #include "state/game.h"

@@ -1,4 +1,4 @@
-// The player's share of a tick of the world: the keys go in, the sound of the goal comes out.
+// A tick of the world for the player: samples the keys and plays the sound of the goal.
 #pragma once
 
 // Samples the steering keys and advances the world (sim/simulation.h) by Game.frameTime seconds.

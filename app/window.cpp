@@ -24,7 +24,7 @@ void create(HWND window) {
     SetTimer(window, latchTimer, latchPeriod, nullptr);
 }
 
-// Gives everything back to the machine but the window itself.
+// Releases everything but the window itself, and ends the program.
 void shutDown(HWND window) {
     if (Game.glContext != nullptr) { wglDeleteContext(Game.glContext); }
     Game.glContext = nullptr;
@@ -54,7 +54,7 @@ void paint(HWND window) {
     EndPaint(window, &painting);
 }
 
-// Once a second: what the statistics show until the next.
+// Sets, once a second, what the statistics show for the next second.
 void latchStatistics() {
     Game.fps = Game.framesThisSecond;
     Game.pps = Game.trianglesThisSecond;
@@ -62,7 +62,7 @@ void latchStatistics() {
     Game.trianglesThisSecond = 0;
 }
 
-// Also while paused, so that no long step follows a pause.
+// Called also while paused, so that no long step follows a pause.
 void measureFrameTime() {
     LARGE_INTEGER frequency = {};
     LARGE_INTEGER counter = {};

@@ -40,7 +40,7 @@ void sortTable() {
         [](const BestTimeEntry& a, const BestTimeEntry& b) { return compareBestTimes(b, a) > 0; });
 }
 
-// The place of the run just finished, -1 when it is not among the ten best.
+// Returns the place of the run just finished, or -1 when it is not among the ten best.
 int placeOfCandidate() {
     int place = bestTimesShown - 1;
     while (place >= 0 && std::strcmp(bestTimes.slots[place].name, candidateName) != 0) {
@@ -87,7 +87,7 @@ bool finishRun() {
     if (Game.newBestEntry < 0) { return false; }
     Game.screen = Screen::NameEntry;
     Game.lastKey = 0;
-    Game.nameCursor = 0; // a name that was never finished does not shorten this one
+    Game.nameCursor = 0; // the last name entry may have been left unfinished
     Game.endLevel();
     return true;
 }

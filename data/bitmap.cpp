@@ -24,7 +24,7 @@ std::int64_t pixelBytes(const BitmapInfo& info) {
     return std::int64_t{bytesPerPixel} * info.width * info.height;
 }
 
-void exchangeRedAndBlue(std::uint8_t* pixels, std::int64_t byteCount) {
+void swapRedAndBlue(std::uint8_t* pixels, std::int64_t byteCount) {
     for (std::int64_t i = 0; i < byteCount; i += bytesPerPixel) {
         std::swap(pixels[i], pixels[i + 2]);
     }

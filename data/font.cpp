@@ -7,7 +7,7 @@
 namespace {
 
 constexpr char lineHeightGlyph = '!'; // its height is the line spacing
-constexpr float gapWidth = 10.0F;     // advance of what is not drawn, before scaling
+constexpr float gapWidth = 10.0F;     // advance of a character that is not drawn, before scaling
 
 bool readGlyph(TokenReader& reader, Font& into, char character) {
     const auto code = static_cast<unsigned char>(character);

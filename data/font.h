@@ -1,8 +1,8 @@
 // The bitmap font that draws all text of the game.
 //
-// Glyphs are rectangles of one picture, a mip chain of 256 x 256 pixels and down; the metrics file
-// has the rectangle of each character. Positions are pixels of the 640 x 480 screen, origin top
-// left, y growing downwards. Set scale, position and colour, then draw: the pen moves on.
+// Glyphs are rectangles of one picture, a mip chain; the metrics file has the rectangle of each
+// character. Positions are screen pixels, origin top left, y downwards. Set scale, position and
+// colour, then draw: the pen advances.
 #pragma once
 
 #include <cstdint>
@@ -13,10 +13,12 @@ inline constexpr const char* fontMetricsFile = "graphics/font/font.dat";
 inline constexpr int fontLevels = 9; // mip levels 256 x 256 down to 1 x 1
 inline constexpr int fontSize = 256; // pixels a side of level 0
 
-// The text sizes of the game. The line spacing is the height of "!", 33 pixels, times the scale.
+inline constexpr int glyphHeight = 33; // pixels, of "!", which gives the line spacing
+
+// The text sizes of the game, as scales.
 inline constexpr float normalText = 1.0F;
-inline constexpr float smallText = 0.3939394F; // 13/33: lines 13 pixels apart
-inline constexpr int smallLine = 13;           // pixels
+inline constexpr int smallLine = 13; // screen pixels from line to line of small text
+inline constexpr float smallText = static_cast<float>(smallLine) / glyphHeight;
 
 struct Font {
     // Pixels of the glyphs in the picture, by character code, rows counted from its top.
@@ -26,10 +28,10 @@ struct Font {
     float glyphTop[256] = {};
     float glyphBottom[256] = {};
 
-    std::uint8_t imageLevels[fontLevels][fontSize * fontSize * 3] = {}; // grey, red byte counts
+    std::uint8_t imageLevels[fontLevels][fontSize * fontSize * 3] = {}; // grey; red is used
     std::int32_t firstChar; // the drawable range of character codes; -1 until loaded
     std::int32_t lastChar;
-    bool loaded;      // text is drawn only once this is set
+    bool loaded;      // text is drawn only when this is set
     float lineStartX; // where a line break takes the pen
     float penX;       // left edge of the next character
     float penY;       // top edge of the line
@@ -51,12 +53,12 @@ struct Font {
     void setPosition(float x, float y);
     void setColour(float red, float green, float blue, float alpha);
 
-    // How far drawText would advance the pen, the sum of the advances; a glyph whose right edge
-    // lies left of its left edge takes away from it. Of several lines the width of the widest.
+    // Returns how far drawText would advance the pen, in screen pixels; of several lines, the width
+    // of the widest. A glyph whose right edge is left of its left edge has a negative advance.
     float textWidth(const char* text) const;
 
-    // Whether the character has a glyph; how far it advances the pen; how far a line break lowers
-    // it. In screen pixels at the present scale.
+    // Return whether a character has a glyph, how far it advances the pen, and how far a line break
+    // lowers the pen. In screen pixels at the current scale.
     bool isDrawable(char character) const;
     float advanceOf(char character) const;
     float lineSpacing() const;
@@ -64,11 +66,11 @@ struct Font {
     // The drawing (render/text.cpp).
 
     // Draws a text at the pen and advances it. A line break goes one line down, to the x of the
-    // last setPosition; a character outside the drawable range, such as the blank, leaves a gap of
-    // 10 pixels times the scale. Draws nothing before the font is loaded.
+    // last setPosition; a character outside the drawable range, such as the blank, leaves a gap.
+    // Draws nothing before the font is loaded.
     void drawText(const char* text);
 
-    // Draws a number: with 0 decimals truncated towards zero, otherwise rounded to that many digits.
+    // Draws a number: truncated towards zero with 0 decimals, otherwise rounded to that many.
     void drawNumber(float value, int decimals);
 
     // Draws one glyph with its top left corner at (x, y).

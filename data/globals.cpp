@@ -1,6 +1,5 @@
-// The program-wide objects, defined in one file so that they are constructed in this order, before
-// the entry runs, and torn down in reverse after it has returned. Each is declared, and explained,
-// in its own header.
+// The program-wide objects, defined in one file so that they are constructed in this order and
+// destroyed in the reverse order. Each is declared and explained in its own header.
 #include "data/best_times.h"
 #include "data/font.h"
 #include "sim/camera.h"

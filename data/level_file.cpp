@@ -9,7 +9,7 @@ namespace {
 
 using Cause = LevelFault::Cause;
 
-// One call of readLevelFile.
+// The state of one call of readLevelFile.
 struct LevelReading {
     TokenReader tokens;
     Level& into;
@@ -32,7 +32,7 @@ std::optional<Directive> directiveOf(const char* token) {
     return {};
 }
 
-// Red, green or blue, 0..255, of a colour written as 0xRRGGBB.
+// Return red, green or blue, 0..255, of a colour written as 0xRRGGBB.
 unsigned redOf(std::uint32_t code) {
     return code >> 16 & 255U;
 }
@@ -86,7 +86,7 @@ bool takeMarbleColour(LevelReading& reading) {
 bool takeHoleCount(LevelReading& reading) {
     std::int32_t count = 0;
     if (!reading.tokens.readInteger(count)) { return refuseNumber(reading); }
-    if (count < 0 || count > mostHoles) { return reading.refuse(Cause::HoleCountInvalid); }
+    if (count < 0 || count > maxHoles) { return reading.refuse(Cause::HoleCountInvalid); }
     return reading.into.makeHoles(count) || reading.refuse(Cause::OutOfMemory);
 }
 
@@ -122,7 +122,8 @@ bool takeDirective(LevelReading& reading, Directive directive) {
     return false;
 }
 
-// A token that begins a directive. White space after the last one is reported at that one.
+// Reads a token that begins a directive. White space at the end of the file is reported at the
+// token before it.
 bool readDirectiveKey(LevelReading& reading, char (&token)[tokenCapacity]) {
     const TextPlace before = reading.tokens.place();
     const bool first = reading.tokens.next == 0;
@@ -131,8 +132,8 @@ bool readDirectiveKey(LevelReading& reading, char (&token)[tokenCapacity]) {
     return false;
 }
 
-// Takes directives up to the one that the file ends directly after. When anything follows it, even
-// white space alone, there must be a further one.
+// Reads directives until the file ends directly after one. When anything follows a directive, even
+// white space alone, another directive must come.
 bool takeDirectives(LevelReading& reading) {
     do {
         char token[tokenCapacity];

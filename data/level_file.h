@@ -1,15 +1,15 @@
-// Level files: their grammar, and why one is refused. The only reader of them; game and level tool
-// put the reasons into words of their own.
+// Level files: their grammar, and why one is refused. The game and the level tool both read them
+// here, and each has its own messages for the reasons.
 //
-// A level file is a row of directives in any order, tokens separated by white space:
+// A level file is a sequence of directives in any order, of tokens separated by white space:
 //
 //   texturefile= BASE      the ground texture: the mip chain BASE_0.bmp to BASE_7.bmp
 //   fogcolor= 0xRRGGBB     the colour of fog and sky
 //   marblecolor= 0xRRGGBB  the colour of the marble
-//   holecount= H           the number of holes, 0 to mostHoles; they are flat until .data
+//   holecount= H           the number of holes, 0 to maxHoles; they are flat until .data
 //   .data ... .end         H times x y width depth
 //
-// It must end directly after its last token, without so much as a line break.
+// It must end directly after its last token: not even a line break may follow.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@
 #include "data/tokens.h"
 #include "sim/level.h"
 
-inline constexpr std::int32_t mostHoles = 100'000;
+inline constexpr std::int32_t maxHoles = 100'000;
 
 enum class Directive { TextureFile, FogColour, MarbleColour, HoleCount, Data };
 
@@ -27,6 +27,10 @@ inline constexpr const char* directiveKeys[] = {
     "texturefile=", "fogcolor=", "marblecolor=", "holecount=", ".data"};
 inline constexpr int directiveCount = 5;
 inline constexpr const char* endOfHoles = ".end";
+
+inline constexpr const char* keyOf(Directive directive) {
+    return directiveKeys[static_cast<int>(directive)];
+}
 
 // Why a level file is refused, and where.
 struct LevelFault {
@@ -39,9 +43,9 @@ struct LevelFault {
         TokenTooLong,     // or it holds a zero byte
         ValueMissing,     // the file ends after a key
         NumberMalformed,  // a colour or count that is not an integer in its range
-        HoleCountInvalid, // negative or above mostHoles
+        HoleCountInvalid, // negative or above maxHoles
         HoleMalformed,    // one of a hole's four numbers is missing or malformed
-        EndMissing,       // something else than .end follows the holes, or nothing
+        EndMissing,       // .end does not follow the holes
         PictureUnreadable,
         OutOfMemory,
     };
@@ -49,12 +53,12 @@ struct LevelFault {
     TextPlace place;
     std::string token; // the offending token; a picture's file name; why the file is unreadable
     Directive directive = Directive::TextureFile; // being read, for the causes within one
-    std::int32_t holeCount = 0; // HoleMalformed, EndMissing: the level's count of holes
-    std::int32_t number = 0;    // HoleMalformed: the hole numbers that were good
+    std::int32_t holeCount = 0;                   // HoleMalformed, EndMissing: the number of holes
+    std::int32_t number = 0;                      // HoleMalformed: numbers of holes read before it
 };
 
-// Takes the ground texture of that base name into Level::texturePixels. Returns false, with the
-// name of the first picture that cannot be read in `picture`, when it fails.
+// Reads the ground texture of that base name into Level::texturePixels. When it fails, returns
+// false, with the name of the first picture that cannot be read in `picture`.
 using TextureReader = bool (*)(Level& into, const char* baseName, std::string& picture);
 
 // What was read of a level file.

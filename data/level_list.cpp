@@ -11,13 +11,13 @@ namespace {
 
 static_assert(LEVEL_NAME_CAPACITY == tokenCapacity);
 
-// A count beyond this is a slip of the author's, not a list; nothing is allocated for it.
-constexpr std::int32_t mostLevels = 100'000;
+// A greater count is a mistake of the author; nothing is allocated for it.
+constexpr std::int32_t maxLevels = 100'000;
 
 bool allocateList(std::int32_t count) {
     const auto n = static_cast<std::size_t>(count);
     Game.levelTimes.reset(new (std::nothrow) float[n]);
-    if (!Game.levelTimes) { return false; }
+    if (Game.levelTimes == nullptr) { return false; }
     Game.levelFiles.reset(new (std::nothrow) std::unique_ptr<char[]>[n]);
     return Game.levelFiles != nullptr;
 }
@@ -25,7 +25,7 @@ bool allocateList(std::int32_t count) {
 bool readLevelName(TokenReader& reader, std::unique_ptr<char[]>& name) {
     name.reset(new (std::nothrow) char[LEVEL_NAME_CAPACITY]);
     char token[tokenCapacity];
-    if (!name || !reader.readToken(token)) { return false; }
+    if (name == nullptr || !reader.readToken(token)) { return false; }
     std::memcpy(name.get(), token, sizeof token);
     return true;
 }
@@ -37,7 +37,7 @@ bool loadLevelList() {
     if (!reader.open(levelListFile)) { return false; }
     Game.levelCount = 0;
     reader.readInteger(Game.levelCount);
-    if (Game.levelCount <= 0 || Game.levelCount > mostLevels) { return false; }
+    if (Game.levelCount <= 0 || Game.levelCount > maxLevels) { return false; }
     if (!allocateList(Game.levelCount)) { return false; }
     const auto count = static_cast<std::size_t>(Game.levelCount);
     for (std::size_t i = 0; i < count; ++i) {

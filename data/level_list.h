@@ -1,9 +1,9 @@
-// The list of levels, "maps/maplist.dat": how many there are, then the file of each in playing
-// order. The list is taken only when the file ends directly after the last name.
+// The list of levels: a file with their number, then the file name of each in playing order. It
+// must end directly after the last name.
 #pragma once
 
 inline constexpr const char* levelListFile = "maps/maplist.dat";
 
-// Fills Game.levelCount, levelFiles and levelTimes (each levelTime, none finished). False, with no
-// message, when the list cannot be read; what was read by then stays.
+// Fills Game.levelCount, levelFiles and levelTimes (each levelTime: not finished). Returns false,
+// without a message, when the list cannot be read; what was read before stays.
 bool loadLevelList();

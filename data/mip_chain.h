@@ -1,4 +1,4 @@
-// Textures with all their mip levels, each a bitmap file of its own: the game scales nothing.
+// Textures with all their mip levels, each in its own bitmap file: the game scales no pictures.
 //
 // A chain with the base name B is B_0.bmp, B_1.bmp, ...; file k is a square picture of size >> k
 // pixels a side. Ground and font are such chains.
@@ -19,14 +19,15 @@ struct MipChain {
 inline constexpr MipChain groundChain = {groundTextureLevels, groundTextureSize};
 inline constexpr MipChain fontChain = {fontLevels, fontSize};
 
-inline constexpr int mipBaseNameCapacity = 250; // bytes of a base name, with its zero
+inline constexpr int mipBaseNameCapacity = 250; // bytes of a base name, with the final zero
 
-// The file of level k.
+// Returns the file name of level k.
 inline std::string mipFileName(const std::string& baseName, int k) {
     return baseName + "_" + std::to_string(k) + ".bmp";
 }
 
-// The bytes of a slot: each level has one that would hold level 0, in one block after another.
+// Returns the bytes of a slot. The levels of a chain lie in memory one after another, each in a
+// slot that is large enough for level 0.
 constexpr std::size_t slotSize(const MipChain& chain) {
     return static_cast<std::size_t>(chain.size) * static_cast<std::size_t>(chain.size) *
            bytesPerPixel;

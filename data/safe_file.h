@@ -1,23 +1,23 @@
-// Replaces a small file without losing it: whoever reads it afterwards finds the old contents or
-// the new ones, also when the process was killed, the power failed or the disk was full.
+// Replaces a small file safely: a later reader finds either the old contents or the new ones, even
+// when the process was killed, the power failed or the disk was full.
 //
-// The contents are written to NAME.new, flushed to the disk, and renamed. Where no file can be made
-// beside the old one, or none may take its place, the old one is written over in steps that never
-// leave it short: it is first made as long as the new contents, with blanks, and flushed; then one
-// write puts the new contents over its beginning; then it is cut to their length. So the contents
-// must be text that ends with a blank and whose reader passes over all that follows.
+// The contents are written to NAME.new, flushed to the disk, and renamed. If the folder does not
+// allow that, the old file is overwritten in steps that never leave it too short: it is first
+// extended with blanks to the length of the new contents and flushed; then one write puts the new
+// contents over its beginning; then it is truncated to their length. So the contents must be text
+// that ends with a blank and whose reader ignores everything after it.
 //
-// Limits of writing over: that one write is complete or absent after a kill only up to 4096 bytes,
-// and after a power failure only where the disk writes its sectors whole. When two processes
-// replace the same file at the same moment, one of them may report a failure.
+// Limits of overwriting: after a kill, that one write is complete or absent only up to 4096 bytes;
+// after a power failure, only where the disk writes whole sectors. When two processes replace the
+// same file at the same moment, one of them may report a failure.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// Gives the file its new contents. It keeps its mode, and is made where there is none; a symbolic
-// link stays and its target is replaced. A NAME.new from before is removed, never written to.
+// Gives the file its new contents. The file keeps its mode; a missing one is created. A symbolic
+// link stays and its target is replaced. An existing NAME.new is removed, never written to.
 //
-// Returns false with the reason in `why` when the disk is full or fails, when the file may not be
-// written, and when the name stands for anything but a file. The old contents then stay.
+// Returns false, with the reason in `why`, when the disk is full or fails, when the file may not be
+// written, or when it is not a regular file. The old contents then stay.
 bool replaceFile(const std::string& name, std::string_view contents, std::string& why);

@@ -12,10 +12,10 @@
 
 namespace {
 
-constexpr int mostLinks = 40; // followed from name to name; more of them are a circle
+constexpr int maxLinks = 40; // symbolic links followed; a longer chain is taken for a loop
 constexpr int writeThisFile = O_WRONLY | O_NOFOLLOW | O_CLOEXEC;
 
-// An open file, closed at the end of its life.
+// An open file, closed by the destructor.
 struct Descriptor {
     int number;
 
@@ -34,14 +34,14 @@ struct Descriptor {
 enum class Outcome {
     Done,
     Failed,
-    NotPossible, // in this folder; the old file may still be written over
+    NotPossible, // in this folder; the old file may still be overwritten
 };
 
-// Where a chain of symbolic links ends; there need not be a file yet.
+// Returns the end of a chain of symbolic links; the file need not exist.
 std::string targetOf(const std::string& name) {
     std::filesystem::path file = name;
     std::error_code error;
-    for (int links = 0; links < mostLinks; ++links) {
+    for (int links = 0; links < maxLinks; ++links) {
         const std::filesystem::path next = std::filesystem::read_symlink(file, error);
         if (error) { break; }
         file = file.parent_path() / next;
@@ -49,7 +49,7 @@ std::string targetOf(const std::string& name) {
     return file.string();
 }
 
-// The system's reason for the call that has just failed.
+// Stores the system's reason for the call that has just failed. Returns false.
 bool fail(std::string& why) {
     why = std::strerror(errno);
     return false;
@@ -66,12 +66,12 @@ bool writeAt(const Descriptor& file, std::string_view bytes, off_t offset, std::
     return true;
 }
 
-// Waits until the file is on the disk. File systems that know no such thing are taken as they are.
+// Waits until the file is on the disk. File systems that cannot do that are accepted.
 bool flush(const Descriptor& file, std::string& why) {
     return fsync(file.number) == 0 || errno == EINVAL || errno == ENOSYS || fail(why);
 }
 
-// Makes the new name last. The contents are safe without it, so a failure is passed over.
+// Makes the new name durable. The contents are safe without it, so a failure is ignored.
 void flushFolderOf(const std::string& name) {
     const std::string folder = std::filesystem::path(name).parent_path().string();
     const Descriptor opened(
@@ -80,28 +80,30 @@ void flushFolderOf(const std::string& name) {
     if (opened.isOpen()) { flush(opened, ignored); }
 }
 
-int createOnly(const std::string& name, mode_t mode) {
+int createExclusive(const std::string& name, mode_t mode) {
     return open(name.c_str(), writeThisFile | O_CREAT | O_EXCL, mode);
 }
 
-int createAnew(const std::string& name, mode_t mode) {
-    const int file = createOnly(name, mode);
+int createReplacing(const std::string& name, mode_t mode) {
+    const int file = createExclusive(name, mode);
     if (file >= 0 || errno != EEXIST || unlink(name.c_str()) != 0) { return file; }
-    return createOnly(name, mode);
+    return createExclusive(name, mode);
 }
 
-// Only the system's administrator may give a file away; others keep what they save.
-bool copyRights(const Descriptor& to, const struct stat& from) {
+// Only root may change the owner; otherwise the file stays the caller's, and its mode loses the
+// setuid, setgid and sticky bits.
+bool copyOwnerAndMode(const Descriptor& to, const struct stat& from) {
     const bool sameOwner = fchown(to.number, from.st_uid, from.st_gid) == 0;
     const mode_t mode = from.st_mode & (sameOwner ? 07777U : 0777U);
     return fchmod(to.number, mode) == 0;
 }
 
-// The contents, flushed, in a new file. `old` is null where there is no file whose rights it takes.
-Outcome writeBeside(const std::string& beside, const struct stat* old, std::string_view contents,
-                    std::string& why) {
-    Descriptor file(createAnew(beside, old == nullptr ? 0666 : 0600));
-    if (!file.isOpen() || (old != nullptr && !copyRights(file, *old))) {
+// Writes the contents to a new file and flushes it. The file takes owner and mode of `old`, which
+// is nullptr when there is no old file.
+Outcome writeTemporary(const std::string& temporary, const struct stat* old,
+                       std::string_view contents, std::string& why) {
+    Descriptor file(createReplacing(temporary, old == nullptr ? 0666 : 0600));
+    if (!file.isOpen() || (old != nullptr && !copyOwnerAndMode(file, *old))) {
         fail(why);
         return Outcome::NotPossible;
     }
@@ -111,21 +113,21 @@ Outcome writeBeside(const std::string& beside, const struct stat* old, std::stri
 
 Outcome replaceByRename(const std::string& name, const struct stat* old, std::string_view contents,
                         std::string& why) {
-    const std::string beside = name + ".new";
-    Outcome outcome = writeBeside(beside, old, contents, why);
-    if (outcome == Outcome::Done && rename(beside.c_str(), name.c_str()) != 0) {
+    const std::string temporary = name + ".new";
+    Outcome outcome = writeTemporary(temporary, old, contents, why);
+    if (outcome == Outcome::Done && rename(temporary.c_str(), name.c_str()) != 0) {
         fail(why);
         outcome = Outcome::NotPossible;
     }
     if (outcome == Outcome::Done) {
         flushFolderOf(name);
     } else {
-        unlink(beside.c_str());
+        unlink(temporary.c_str());
     }
     return outcome;
 }
 
-// Blanks at the end of the file, until it is long enough; false when they do not fit.
+// Extends the file with blanks to the new length. Returns false when they do not fit.
 bool makeRoom(const Descriptor& file, off_t oldLength, off_t newLength, std::string& why) {
     if (newLength <= oldLength) { return true; }
     const std::string blanks(static_cast<std::size_t>(newLength - oldLength), ' ');
@@ -134,7 +136,7 @@ bool makeRoom(const Descriptor& file, off_t oldLength, off_t newLength, std::str
     return false;
 }
 
-bool writeOver(const Descriptor& file, off_t oldLength, std::string_view contents,
+bool overwrite(const Descriptor& file, off_t oldLength, std::string_view contents,
                std::string& why) {
     const auto newLength = static_cast<off_t>(contents.size());
     if (!makeRoom(file, oldLength, newLength, why) || !writeAt(file, contents, 0, why)) {
@@ -161,5 +163,5 @@ bool replaceFile(const std::string& name, std::string_view contents, std::string
     if (!old.isOpen() || fstat(old.number, &status) != 0) { return fail(why); }
     const Outcome outcome = replaceByRename(target, &status, contents, why);
     return outcome == Outcome::Done ||
-           (outcome == Outcome::NotPossible && writeOver(old, status.st_size, contents, why));
+           (outcome == Outcome::NotPossible && overwrite(old, status.st_size, contents, why));
 }

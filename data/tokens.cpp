@@ -5,7 +5,6 @@
 #include <clocale>
 #include <cmath>
 #include <cstddef>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -17,14 +16,14 @@ namespace {
 
 constexpr const char* whiteSpace = " \t\n\v\f\r";
 
-// Steps over a sign; whether it was a minus.
+// Skips a sign. Returns whether it was a minus.
 bool takeSign(const char*& text) {
     const bool negative = *text == '-';
     if (negative || *text == '+') { ++text; }
     return negative;
 }
 
-// Steps over the prefix that tells the base of an integer.
+// Skips the prefix that gives the base of an integer. Returns the base.
 int takeBase(const char*& text) {
     if (text[0] != '0' || text[1] == '\0') { return 10; }
     if (text[1] == 'x' || text[1] == 'X') {
@@ -49,14 +48,14 @@ bool parseInteger(const char* token, std::int64_t& value) {
     return true;
 }
 
-// Steps over digits; how many there were.
+// Skips digits. Returns how many there were.
 std::size_t takeDigits(const char*& text) {
     const std::size_t count = std::strspn(text, "0123456789");
     text += count;
     return count;
 }
 
-// Digits, optional point and fraction, optional exponent, and nothing else.
+// Returns whether the text is digits, optional point and fraction, optional exponent, nothing else.
 bool isDecimal(const char* text) {
     std::size_t digits = takeDigits(text);
     if (*text == '.') { digits += takeDigits(++text); }
@@ -68,15 +67,15 @@ bool isDecimal(const char* text) {
     return *text == '\0';
 }
 
-// The library's parser takes the decimal point of the current locale. Its std::from_chars, which
-// takes none, is not everywhere.
+// strtod expects the decimal point of the current locale. std::from_chars does not, but not every
+// standard library has it for floating-point numbers.
 double convertDecimal(std::string text) {
     const std::size_t point = text.find('.');
     if (point != std::string::npos) { text.replace(point, 1, std::localeconv()->decimal_point); }
     return std::strtod(text.c_str(), nullptr);
 }
 
-// A number too near to 0 for a float is 0.
+// Reads a number too close to 0 for a float as 0. Returns false for one too large.
 bool parseFloat(const char* token, float& value) {
     const bool negative = takeSign(token);
     if (!isDecimal(token)) { return false; }

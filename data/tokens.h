@@ -1,4 +1,4 @@
-// The one way to read the game's text files: tokens separated by white space.
+// Reads the game's text files: tokens separated by white space.
 //
 // Every read but readCharacter takes one whole token. A read that fails (nothing left, a token that
 // is too long, a malformed number) leaves the reader failed, and all later reads fail too.
@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <string>
 
-inline constexpr int tokenCapacity = 256; // bytes: 255 characters and the closing zero
+inline constexpr int tokenCapacity = 256; // bytes: 255 characters and the final zero
 
-// Where in a file something stands; both count from 1.
+// A position in a file; both count from 1.
 struct TextPlace {
     int line = 1;
     int column = 1;
@@ -18,37 +18,39 @@ struct TextPlace {
 
 struct TokenReader {
     std::string text;     // the whole file
-    std::size_t next = 0; // index of the next character to take
+    std::size_t next = 0; // index of the next character to read
     std::size_t last = 0; // index at which the token read last begins
     bool failed = false;
     bool reachedEnd = false;
-    std::string why; // of an open that failed, see data/file_text.h
+    std::string why; // the reason of a failed open, see data/file_text.h
 
-    // Reads an existing file, which is never created. Returns false when it cannot be read.
+    // Reads a file. Returns false when it cannot be read; a missing file is not created.
     bool open(const char* fileName);
 
-    // One token, zero-terminated. A token of more than 255 characters, or with a zero byte in it,
-    // is refused.
+    // Reads one token, zero-terminated. A token of more than 255 characters, or with a zero byte in
+    // it, is refused.
     bool readToken(char (&token)[tokenCapacity]);
 
-    // The next character that is not white space, whatever follows it.
+    // Reads the next character that is not white space; the next read starts right after it.
     bool readCharacter(char& character);
 
-    // An integer, see parseInteger. One that does not fit the type is malformed.
+    // Read an integer with an optional sign: decimal, hexadecimal (0x) or octal (a leading 0). One
+    // that does not fit the type is malformed.
     bool readInteger(std::int32_t& value);
     bool readUnsigned(std::uint32_t& value);
 
-    // A decimal number: an optional sign, digits, optional point and fraction, optional exponent.
-    // One too large for a float is malformed.
+    // Reads a decimal number: an optional sign, digits, optional point and fraction, optional
+    // exponent. One too large for a float is malformed.
     bool readFloat(float& value);
 
-    // Whether the last read reached the end of the file: the file ends directly after the last
-    // token, without so much as a line break.
+    // Returns whether the last read reached the end of the file: the file ends directly after the
+    // last token, without even a line break.
     bool atEnd() const { return reachedEnd; }
 
-    // Where the token read last begins, also one that was refused; where nothing is left, the end.
+    // Returns where the token read last begins, even if it was refused; when nothing is left, the
+    // end of the file.
     TextPlace place() const;
 
-    // The token read last, also one that was refused; empty where nothing is left.
+    // Returns the token read last, even if it was refused; empty when nothing is left.
     std::string lastToken() const;
 };

@@ -4,21 +4,23 @@
 
 #include <GL/gl.h>
 
+#include "state/screen.h"
+
 namespace {
 
-constexpr float shaftShare = 0.9F;   // of the arrow; the head takes the rest
+constexpr float shaftShare = 0.9F;   // of the arrow's length
 constexpr float barbLength = 10.0F;  // pixels
 constexpr float halfTurn = 3.1416F;  // radians
 constexpr float barbAngle = 0.3927F; // radians either side of the shaft
-constexpr float headLift = 0.0001F;  // inverse depth by which the head covers the shaft
-constexpr float ndcPerArrowX = 0.003125F;
-constexpr float ndcPerArrowY = 0.004166667F;
+constexpr float headLift = 0.0001F;  // inverse depth added so that the head covers the shaft
+constexpr auto scaleX = static_cast<float>(ndcPerPixelX);
+constexpr auto scaleY = static_cast<float>(ndcPerPixelY);
 
 void putPixel(float x, float y, float inverseDepth) {
-    glVertex3f(x * ndcPerArrowX - 1.0F, y * ndcPerArrowY - 1.0F, inverseDepth);
+    glVertex3f(x * scaleX - 1.0F, y * scaleY - 1.0F, inverseDepth);
 }
 
-// The end of a head's side: a pixel point as far from the tip as a barb is long.
+// Returns the end of a barb, in pixels; `angle` is its direction from the tip, in radians.
 Vector3 barbEnd(const Vector3& tip, double angle) {
     return {static_cast<float>(tip.x + barbLength * std::cos(angle)),
             static_cast<float>(tip.y + barbLength * std::sin(angle)), tip.z};

@@ -1,4 +1,4 @@
-// The arrows at the marble; the marble itself is drawn by Marble::draw (sim/marble.h).
+// The arrows of the ground's normal and slope, which Marble::draw (sim/marble.h) draws.
 #pragma once
 
 #include "sim/vector.h"

@@ -17,10 +17,14 @@ constexpr float nameX = 450.0F;
 
 constexpr const char* footer = "press <space> to return";
 
-void drawRunLabels() {
-    font.setPosition(0.0F, runTop);
+void setRunStyle() {
     font.setColour(1.0F, 0.0F, 0.0F, 1.0F);
     font.setScale(smallText);
+}
+
+void drawRunLabels() {
+    setRunStyle();
+    font.setPosition(0.0F, runTop);
     for (std::int32_t i = 1; i <= Game.levelCount; ++i) {
         font.drawText("\nLevel ");
         font.drawNumber(static_cast<float>(i), 0);
@@ -28,9 +32,10 @@ void drawRunLabels() {
     }
 }
 
-// Draws the times of the run's levels; their total.
+// Draws the times of the run's levels. Returns their total.
 float drawRunTimes() {
     float total = 0.0F;
+    setRunStyle();
     font.setPosition(runTimesX, runTop);
     for (const float time : Game.allLevelTimes()) {
         font.drawText("\n");
@@ -42,6 +47,7 @@ float drawRunTimes() {
 
 void drawRunTotal(float total) {
     const auto below = static_cast<float>(smallLine * Game.levelCount);
+    setRunStyle();
     font.setPosition(runTimesX, below);
     font.drawText("------");
     font.setPosition(0.0F, below + smallLine);
@@ -57,7 +63,7 @@ void drawTitle() {
     font.drawText("Best Times");
 }
 
-// Red for the run just played, and for every entry that it equals to the last bit.
+// Red for the run just played, and for every entry with exactly the same time.
 void setRowColour(int slot, float runTotal) {
     if (bestTimes.slots[slot].time == runTotal || slot == Game.newBestEntry) {
         font.setColour(1.0F, 0.0F, 0.0F, 1.0F);
@@ -69,6 +75,7 @@ void setRowColour(int slot, float runTotal) {
 
 template <typename DrawCell>
 void drawColumn(float x, float runTotal, DrawCell drawCell) {
+    font.setScale(normalText);
     font.setPosition(x, tableTop);
     for (int slot = 0; slot < bestTimesShown; ++slot) {
         setRowColour(slot, runTotal);

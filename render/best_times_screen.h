@@ -1,5 +1,5 @@
-// The picture of the best times: the run just played on the left, the ten best beside it.
+// The table of best times: the run just played on the left, the ten best runs beside it.
 #pragma once
 
-// Draws it over what is there; called every frame of the best times and of the name entry.
+// Draws the table over the frame; called every frame of the best times and of the name entry.
 void drawBestTimes();

@@ -13,20 +13,20 @@ namespace {
 constexpr int lastCellRow = groundRows - 2;
 constexpr int lastCellColumn = groundColumns - 2;
 
-constexpr double lookAhead = 400.0; // world units from the eye to where the traversal starts
+constexpr double lookAhead = 400.0; // world units ahead of the eye at which the traversal starts
 constexpr int rowsInSight = 60;     // beyond the start row, unless far sight is on
 
-// The focal length of 400 pixels over half the screen's width and height; the latter is meant with
+// The focal length of 400 pixels over half the screen's width and height. focalY is defined with
 // these decimals, not as 5/3.
 constexpr double focalX = 1.25;
 constexpr double focalY = 1.666667;
 
-// Fog is measured in inverse depth, so it starts at a larger value than it ends.
+// Fog is measured in inverse depth, so its start is the larger value.
 constexpr GLfloat fogStart = 0.0025F;                          // depth 400
 constexpr GLfloat fogEnd = static_cast<GLfloat>(1.0 / 1800.0); // depth 1800
 
-// One call of drawGround.
-struct GroundWalk {
+// The state of one call of drawGround.
+struct GroundTraversal {
     Level& ground;
     Vector3 eye;
     Matrix3 rotation;
@@ -37,7 +37,7 @@ struct GroundWalk {
     std::bitset<groundVertices> projected = {};
 };
 
-// Where a scan goes: which way it steps, and how far.
+// The direction of a scan from the start cell.
 struct Quadrant {
     int rowStep;    // +1 ahead, -1 behind
     int columnStep; // +1 right, -1 left
@@ -69,25 +69,25 @@ void setGroundState(const Level& ground, bool fogOn) {
 }
 
 // Projects a vertex on its first use in this call: NDC x and y, and the inverse depth.
-void project(GroundWalk& walk, std::size_t index) {
-    if (walk.projected[index]) { return; }
-    const Vector3 q = walk.rotation * (walk.ground.groundPoints[index] - walk.eye);
-    walk.ground.groundScreen[index].set(static_cast<float>(q.x * focalX / q.z),
-                                        static_cast<float>(q.y * focalY / q.z),
-                                        static_cast<float>(1.0 / q.z));
-    walk.projected[index] = true;
+void project(GroundTraversal& traversal, std::size_t index) {
+    if (traversal.projected[index]) { return; }
+    const Vector3 q = traversal.rotation * (traversal.ground.groundPoints[index] - traversal.eye);
+    traversal.ground.groundScreen[index].set(static_cast<float>(q.x * focalX / q.z),
+                                             static_cast<float>(q.y * focalY / q.z),
+                                             static_cast<float>(1.0 / q.z));
+    traversal.projected[index] = true;
 }
 
-void projectCorners(GroundWalk& walk, int row, int column) {
-    project(walk, indexOf(row, column));
-    project(walk, indexOf(row + 1, column));
-    project(walk, indexOf(row + 1, column + 1));
-    project(walk, indexOf(row, column + 1));
+void projectCorners(GroundTraversal& traversal, int row, int column) {
+    project(traversal, indexOf(row, column));
+    project(traversal, indexOf(row + 1, column));
+    project(traversal, indexOf(row + 1, column + 1));
+    project(traversal, indexOf(row, column + 1));
 }
 
-// Whether the side edge of the cell that the scan moves towards is still on the screen.
-bool columnScanGoesOn(const GroundWalk& walk, Quadrant quadrant, int row, int column) {
-    const Vector3* screen = walk.ground.groundScreen.get();
+// Returns whether the side edge of the cell that the scan moves towards is still on the screen.
+bool columnScanContinues(const GroundTraversal& traversal, Quadrant quadrant, int row, int column) {
+    const Vector3* screen = traversal.ground.groundScreen.get();
     if (quadrant.columnStep > 0) {
         return screen[indexOf(row + 1, column + 1)].x < 1.0F ||
                screen[indexOf(row, column + 1)].x < 1.0F;
@@ -95,9 +95,9 @@ bool columnScanGoesOn(const GroundWalk& walk, Quadrant quadrant, int row, int co
     return screen[indexOf(row, column)].x > -1.0F || screen[indexOf(row + 1, column)].x > -1.0F;
 }
 
-// The same for its upper or lower edge.
-bool rowScanGoesOn(const GroundWalk& walk, Quadrant quadrant, int row, int column) {
-    const Vector3* screen = walk.ground.groundScreen.get();
+// Returns the same for its upper or lower edge.
+bool rowScanContinues(const GroundTraversal& traversal, Quadrant quadrant, int row, int column) {
+    const Vector3* screen = traversal.ground.groundScreen.get();
     if (quadrant.rowStep > 0) {
         return screen[indexOf(row + 1, column)].y < 1.0F ||
                screen[indexOf(row + 1, column + 1)].y < 1.0F;
@@ -112,55 +112,57 @@ void putVertex(const Level& ground, std::size_t index) {
     glVertex3f(screen.x, screen.y, screen.z);
 }
 
-void drawTriangle(GroundWalk& walk, std::size_t first, std::size_t second, std::size_t third) {
+void drawTriangle(GroundTraversal& traversal, std::size_t first, std::size_t second,
+                  std::size_t third) {
     glBegin(GL_TRIANGLES);
-    putVertex(walk.ground, first);
-    putVertex(walk.ground, second);
-    putVertex(walk.ground, third);
+    putVertex(traversal.ground, first);
+    putVertex(traversal.ground, second);
+    putVertex(traversal.ground, third);
     glEnd();
-    ++walk.triangles;
+    ++traversal.triangles;
 }
 
-void drawCell(GroundWalk& walk, int row, int column) {
+void drawCell(GroundTraversal& traversal, int row, int column) {
     const std::size_t corner = indexOf(row, column);
     const std::size_t opposite = indexOf(row + 1, column + 1);
-    drawTriangle(walk, corner, indexOf(row + 1, column), opposite);
-    drawTriangle(walk, corner, opposite, indexOf(row, column + 1));
+    drawTriangle(traversal, corner, indexOf(row + 1, column), opposite);
+    drawTriangle(traversal, corner, opposite, indexOf(row, column + 1));
 }
 
 // Draws the cells of one row from the start column outward, up to and including the first that
-// lies wholly beyond the screen's side. Whether the row scan goes on.
-bool walkRow(GroundWalk& walk, Quadrant quadrant, int row) {
-    int column = quadrant.columnStep > 0 ? walk.startColumn : walk.startColumn - 1;
+// lies completely beyond the screen's side. Returns whether the row scan continues.
+bool traverseRow(GroundTraversal& traversal, Quadrant quadrant, int row) {
+    int column = quadrant.columnStep > 0 ? traversal.startColumn : traversal.startColumn - 1;
     bool nextRow = false;
     bool nextColumn = true;
     while (nextColumn && column >= 0 && column <= lastCellColumn) {
-        projectCorners(walk, row, column);
-        nextColumn = columnScanGoesOn(walk, quadrant, row, column);
-        nextRow = rowScanGoesOn(walk, quadrant, row, column) || nextRow;
-        drawCell(walk, row, column);
+        projectCorners(traversal, row, column);
+        nextColumn = columnScanContinues(traversal, quadrant, row, column);
+        nextRow = rowScanContinues(traversal, quadrant, row, column) || nextRow;
+        drawCell(traversal, row, column);
         column += quadrant.columnStep;
     }
     return nextRow;
 }
 
 // Draws the rows of one quadrant from the start outward, up to and including the first that lies
-// wholly beyond the upper or lower edge.
-void walkQuadrant(GroundWalk& walk, Quadrant quadrant) {
-    int row = quadrant.rowStep > 0 ? walk.startRow : walk.startRow - 1;
-    while (row >= 0 && row <= walk.lastRow && walkRow(walk, quadrant, row)) {
+// completely beyond the upper or lower edge.
+void traverseQuadrant(GroundTraversal& traversal, Quadrant quadrant) {
+    int row = quadrant.rowStep > 0 ? traversal.startRow : traversal.startRow - 1;
+    while (row >= 0 && row <= traversal.lastRow && traverseRow(traversal, quadrant, row)) {
         row += quadrant.rowStep;
     }
 }
 
-// The column under the eye. Beyond the sides of the course the walk starts at its edge.
+// Returns the column under the eye, or the nearest one when the eye is beside the mesh.
 int startColumnFor(const Vector3& eye) {
     const double column = eye.x * spacingsPerUnit + groundCentreColumn;
     if (!(column > 0.0)) { return 0; }
     return column < groundColumns - 1 ? static_cast<int>(column) : groundColumns - 1;
 }
 
-// The row under the point that the eye looks at; with a settled camera the marble's.
+// Returns the row under the point lookAhead in front of the eye: that of the marble when the camera
+// has settled.
 int startRowFor(const Vector3& eye) {
     const double row = (eye.y + lookAhead) * spacingsPerUnit + groundCentreRow;
     if (!(row > 0.0)) { return 0; }
@@ -171,7 +173,7 @@ int startRowFor(const Vector3& eye) {
 
 std::int32_t Level::drawGround(const ViewFrame& view, bool farSight, bool fogOn) {
     setGroundState(*this, fogOn);
-    if (!groundTexCoords) { // a level failed to load, and the program is about to end
+    if (groundTexCoords == nullptr) { // a level failed to load, and the program is about to end
         glFlush();
         return 0;
     }
@@ -179,12 +181,13 @@ std::int32_t Level::drawGround(const ViewFrame& view, bool farSight, bool fogOn)
     const int startRow = startRowFor(eye);
     const bool endInSight = farSight || startRow + rowsInSight > lastCellRow;
     const int lastRow = endInSight ? lastCellRow : startRow + rowsInSight;
-    GroundWalk walk = {*this, eye, view.getRotation(), startRow, startColumnFor(eye), lastRow};
+    GroundTraversal traversal = {*this,  eye, view.getRotation(), startRow, startColumnFor(eye),
+                                 lastRow};
 
-    walkQuadrant(walk, {+1, +1});
-    walkQuadrant(walk, {+1, -1});
-    walkQuadrant(walk, {-1, -1});
-    walkQuadrant(walk, {-1, +1});
+    traverseQuadrant(traversal, {+1, +1});
+    traverseQuadrant(traversal, {+1, -1});
+    traverseQuadrant(traversal, {-1, -1});
+    traverseQuadrant(traversal, {-1, +1});
     glFlush();
-    return walk.triangles;
+    return traversal.triangles;
 }

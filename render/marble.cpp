@@ -6,6 +6,7 @@
 #include "sim/level.h"
 #include "sim/marble.h"
 #include "sim/projection.h"
+#include "state/screen.h"
 
 namespace {
 
@@ -17,8 +18,8 @@ constexpr float rimPerColour = 0.0003921568568330258F;   // the rim is a tenth a
 constexpr float solid = 1.0F;
 constexpr float ghostly = 0.3F;
 
-// The disc as it lies on the screen: NDC, with the inverse depth as third coordinate. Its centre
-// is a radius nearer to the eye than its rim.
+// The disc on the screen: NDC, with the inverse depth as third coordinate. Its centre is a radius
+// closer to the eye than its rim.
 struct Disc {
     Vector3 centre;
     float radius;   // in NDC x
@@ -42,9 +43,9 @@ Disc discOf(const Marble& rolling, const ViewFrame& view, const Level& ground) {
     return disc;
 }
 
-Vector3 rimPoint(const Disc& disc, float angle, double tallness) {
+Vector3 rimPoint(const Disc& disc, float angle, double heightScale) {
     const double x = std::cos(static_cast<double>(angle)) * disc.radius;
-    const double y = std::sin(static_cast<double>(angle)) * disc.radius * tallness;
+    const double y = std::sin(static_cast<double>(angle)) * disc.radius * heightScale;
     return {static_cast<float>(disc.centre.x + x), static_cast<float>(disc.centre.y + y),
             disc.rimDepth};
 }
@@ -59,10 +60,10 @@ void putPoint(const Vector3& p) {
 
 // Calls draw with both rim points of each of the 16 segments.
 template <typename Draw>
-void forEachSegment(const Disc& disc, double tallness, Draw draw) {
+void forEachSegment(const Disc& disc, double heightScale, Draw draw) {
     for (float angle = 0.0F; angle < fullTurn;) {
         const float next = angle + segmentAngle;
-        draw(rimPoint(disc, angle, tallness), rimPoint(disc, next, tallness));
+        draw(rimPoint(disc, angle, heightScale), rimPoint(disc, next, heightScale));
         angle = next;
     }
 }
@@ -80,8 +81,8 @@ void drawDisc(const Disc& disc, float alpha) {
     });
 }
 
-// Each segment is drawn three times over itself, which makes the outline denser. Its height is
-// worked out with the aspect rounded to a float, unlike the disc's.
+// Each segment is drawn three times, which makes the outline denser. Its height is computed with
+// the aspect rounded to a float, unlike the disc's.
 void drawOutline(const Disc& disc) {
     forEachSegment(disc, static_cast<float>(aspect), [&](const Vector3& a, const Vector3& b) {
         glBegin(GL_LINES);
@@ -102,7 +103,7 @@ void setSolidState() {
     glDisable(GL_BLEND);
 }
 
-// Without the depth test what follows is seen through hills.
+// Without the depth test the disc shows through hills.
 void setGhostState() {
     glDisable(GL_DEPTH_TEST);
     glEnable(GL_BLEND);
@@ -119,7 +120,7 @@ void setOutlineState() {
 
 constexpr float arrowLength = 100.0F; // world units
 
-// x and y in pixels from the bottom left, z the depth.
+// Returns x and y in pixels from the bottom left, and the depth as z.
 Vector3 onScreen(const ViewFrame& view, const Vector3& point) {
     const Vector3 q = toView(view, point);
     return {static_cast<float>(q.x * focalLength / q.z + screenCentreX),

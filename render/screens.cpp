@@ -15,7 +15,7 @@ constexpr float statisticsScale = smallText;
 constexpr float turboTextScale = 0.5F;
 
 constexpr float bannerStartScale = 3.0F;
-constexpr float bannerEndScale = 0.1F;  // no longer drawn below it
+constexpr float bannerEndScale = 0.1F;  // a smaller banner is not drawn
 constexpr float bannerShrinking = 4.0F; // share of the scale lost in a second
 
 struct Colour {
@@ -68,7 +68,7 @@ void drawStatistics() {
     font.drawNumber(static_cast<float>(Game.pps), 0);
 }
 
-// At the goal the clock stops for the eye, while it runs on towards the next level.
+// After the goal the clock on the screen stops, while Game.clock runs until the next level starts.
 float shownClock() {
     if (Game.levelDone) { return levelTime - Game.timeOfLevel(); }
     return std::clamp(Game.clock, 0.0F, levelTime);
@@ -78,7 +78,7 @@ void drawClock() {
     font.setScale(normalText);
     font.setPosition(clockX, 0.0F);
     const float v = shownClock();
-    const auto f = static_cast<float>(v * 0.022222222222222223); // share of the time left
+    const auto f = static_cast<float>(v * (1.0 / levelTime)); // share of the time left
     font.setColour(1.0F - f, f, 0.0F, 1.0F);
     font.drawNumber(v, 2);
 }

@@ -1,22 +1,24 @@
-// The 2-D pieces of a frame, each drawn over what is there. Called by drawFrame only.
+// The 2-D parts of a frame, each drawn over the frame so far. Only drawFrame calls them.
 #pragma once
 
 #include <cstdint>
 
-// A picture of the whole screen: red, green, blue, bottom row first.
+// Draws a picture of the whole screen: bytes of red, green, blue, bottom row first.
 void drawPicture(const std::uint8_t* pixels);
 
-// Darkens everything drawn so far to half.
+// Darkens everything drawn so far to half its brightness.
 void drawShade();
 
-// The seconds of turbo left, as a bar that shrinks to the right and turns from green to red.
+// Draws the turbo left as a bar that shrinks to the right and turns from green to red.
 void drawTurboGauge();
 
-// The level clock and, when the option is on, frames and ground triangles per second.
+inline constexpr float clockX = 280.0F; // screen pixels: the left edge of the clock, at the top
+
+// Draws the level clock and, when the option is on, frames and ground triangles per second.
 void drawStatsAndClock();
 
-// "Level n", which starts large at each new level and shrinks away.
+// Draws "Level n", which starts large at each new level and shrinks until it disappears.
 void drawBanner();
 
-// The page of the menu that the selected item is on.
+// Draws the menu page of the selected item.
 void drawMenu();

@@ -10,18 +10,18 @@
 
 namespace {
 
-// The glyph coordinates are those of a picture whose last pixel column is 1.0.
-constexpr double texturePerPixel = 255.0;
+// Glyph pixels for each unit of texture coordinates: the last pixel column is at 1.0.
+constexpr double pixelsPerTexture = fontSize - 1;
 
-// Towards zero; what no 32-bit integer holds becomes the nearest one that it does, nonsense 0.
+// Truncates towards zero. Values out of range become the nearest 32-bit integer, and NaN 0.
 std::int32_t truncate(double value) {
     if (std::isnan(value)) { return 0; }
     return static_cast<std::int32_t>(std::clamp(value, -2147483648.0, 2147483647.0));
 }
 
 void putCorner(float textureX, float textureY, float x, float y) {
-    glTexCoord2f(static_cast<GLfloat>(textureX / texturePerPixel),
-                 static_cast<GLfloat>(1.0 - textureY / texturePerPixel));
+    glTexCoord2f(static_cast<GLfloat>(textureX / pixelsPerTexture),
+                 static_cast<GLfloat>(1.0 - textureY / pixelsPerTexture));
     glVertex2f(static_cast<GLfloat>(x * ndcPerPixelX - 1.0),
                static_cast<GLfloat>(1.0 - y * ndcPerPixelY));
 }

@@ -6,10 +6,10 @@
 
 namespace {
 
-// What OpenGL is told about a texture.
+// The OpenGL parameters of a texture.
 struct TextureParameters {
     GLuint name;
-    GLint internalFormat; // what OpenGL keeps of the pixels
+    GLint internalFormat; // format in which OpenGL stores the pixels
     GLint wrap;           // in both directions
     GLint magnification;
     GLint minification;

@@ -7,7 +7,7 @@
 inline constexpr unsigned groundTexture = 1;
 inline constexpr unsigned fontTexture = 10;
 
-// Each makes its texture from the pixels of all mip levels and leaves it current as GL_TEXTURE_2D.
-// A ground texture that is there already is deleted first.
+// Each uploads its texture with all mip levels and leaves it bound to GL_TEXTURE_2D. A resident
+// ground texture is deleted first.
 void uploadGroundTexture(const Level& ground);
 void uploadFontTexture(const Font& from);

@@ -9,15 +9,16 @@
 
 namespace {
 
-constexpr Vector3 behindAndAbove(0.0F, -400.0F, -350.0F);
-constexpr float clearance = 270.0F; // world units from the ground up to the camera's goal
-constexpr float longestStep = 0.1F; // seconds
+constexpr Vector3 goalOffset(0.0F, -400.0F, -350.0F); // world units, from the marble
+constexpr float clearance = 270.0F; // world units that the goal stays above the ground
+constexpr float maxStep = 0.1F;     // seconds; longer frames count as this long
 
-// Where the ground under the goal is looked at: below it, ahead, right and left.
+// Where the ground is sampled, as x and y offsets from the goal in world units: below it, ahead,
+// right and left.
 constexpr float probes[][2] = {{0.0F, 0.0F}, {0.0F, 150.0F}, {75.0F, 0.0F}, {-75.0F, 0.0F}};
 
 Vector3 cameraGoal() {
-    Vector3 goal = marble.getPosition() + behindAndAbove;
+    Vector3 goal = marble.getPosition() + goalOffset;
     for (const auto& probe : probes) {
         const float highest = level.heightAt(goal.x + probe[0], goal.y + probe[1]) - clearance;
         if (highest < goal.z) { goal.z = highest; }
@@ -38,7 +39,7 @@ void updateCamera() {
     const float pitchGoal = -std::atan(d.y / d.z);
     const float sideGoal = -std::atan(d.x / d.z);
 
-    const float dt = Game.frameTime <= longestStep ? Game.frameTime : longestStep;
+    const float dt = Game.frameTime <= maxStep ? Game.frameTime : maxStep;
     const float share = (10.0F - Game.cameraLag) * dt;
 
     cameraPosition += (goal - cameraPosition) * share;

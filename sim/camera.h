@@ -3,7 +3,7 @@
 
 #include "sim/vector.h"
 
-// The eye in world units; each level start puts it far behind the marble, from where it glides in.
+// The eye in world units; each level start puts it far behind the marble.
 extern Vector3 cameraPosition;
 
 // The view's angles in radians; never reset.
@@ -11,6 +11,6 @@ extern float cameraAngleX;
 extern float cameraAngleY;
 extern float cameraAngleZ;
 
-// Moves the camera towards its goal by the share of the gap that Game.cameraLag and Game.frameTime
-// allow, and writes viewFrame. Called once a tick, after updateSimulation.
+// Moves the camera towards its goal, by a share of the gap that depends on Game.cameraLag and
+// Game.frameTime, and writes viewFrame. Called once a tick, after updateSimulation.
 void updateCamera();

@@ -4,10 +4,8 @@
 
 namespace {
 
-// Lengths go into the formulas in spacings of the ground mesh and come back in world units.
+// The formulas measure lengths in spacings of the ground mesh; results are in world units again.
 constexpr double unitsPerSpacing = groundSpacing;
-
-constexpr float nearHole = 250.0F; // world units from a hole's centre
 
 constexpr Vector3 straightDown(0.0F, 0.0F, 1.0F);
 
@@ -15,7 +13,7 @@ float spacings(float units) {
     return static_cast<float>(units * spacingsPerUnit);
 }
 
-// From a point to a hole's centre, all in spacings.
+// Returns the squared distance of a point, in spacings, from a hole's centre, in spacings squared.
 double squaredDistance(const Hole& hole, float xs, float ys) {
     const double dx = xs - hole.x * spacingsPerUnit;
     const float dy = static_cast<float>(ys - hole.y * spacingsPerUnit);

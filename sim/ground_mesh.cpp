@@ -41,7 +41,7 @@ void Level::clearGround() {
 bool Level::makeHoles(std::int32_t count) {
     holeCount = 0;
     holes.reset(new (std::nothrow) Hole[static_cast<std::size_t>(count)]);
-    if (!holes) { return false; }
+    if (holes == nullptr) { return false; }
     holeCount = count;
     return true;
 }

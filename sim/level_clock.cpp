@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr float clockAtStart = 46.5F; // seconds: the level's time and a count-down
-constexpr Vector3 cameraAtStart(0.0F, -3000.0F, -6000.0F); // from the marble, world units
+constexpr float clockAtStart = levelTime + 1.5F;           // seconds, with the count-down
+constexpr Vector3 cameraAtStart(0.0F, -3000.0F, -6000.0F); // world units, from the marble
 
 bool levelIsOver() {
     if (Game.clock >= Game.levelEndAt) { return false; }

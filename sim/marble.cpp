@@ -4,11 +4,11 @@
 
 namespace {
 
-constexpr Vector3 gravity(0.0F, 0.0F, 11.76F * 10.0F);
-constexpr float accelerationPerForce = 0.1F;
+constexpr Vector3 weight(0.0F, 0.0F, static_cast<float>(gravity) * marbleMass);
+constexpr float accelerationPerForce = 1.0F / marbleMass;
 
 Vector3 limitSpeed(const Vector3& velocity, double topSpeed) {
-    // Written so that a step of no time, which leaves z undefined, is mended by the next one.
+    // After a step of 0 s velocity.z is undefined, and so is the length: x and y must then stay.
     if (!(velocity.length() > topSpeed)) { return velocity; }
     return velocity.unit() * static_cast<float>(topSpeed);
 }
@@ -17,7 +17,7 @@ Vector3 limitSpeed(const Vector3& velocity, double topSpeed) {
 
 void Marble::step(const Level& ground, const Vector3& force, float dt) {
     const Vector3 downhill = ground.downhillAt(position.x, position.y);
-    const Vector3 alongSlope = downhill * dot(gravity, downhill);
+    const Vector3 alongSlope = downhill * dot(weight, downhill);
     const Vector3 dragForce = velocity * drag;
     const Vector3 acceleration = (force + alongSlope + dragForce) * accelerationPerForce;
     velocity += acceleration * dt;
@@ -27,7 +27,7 @@ void Marble::step(const Level& ground, const Vector3& force, float dt) {
     const Vector3 old = position;
     position += velocity * static_cast<float>(reach);
     position.z = ground.heightAt(position.x, position.y);
-    // Never moves the marble, which stays on the ground; it counts in the next drag and top speed.
+    // Does not move the marble, which stays on the ground, but counts for drag and top speed.
     velocity.z = static_cast<float>((old.z - position.z) / reach);
 }
 

@@ -6,12 +6,12 @@
 struct Level;
 struct ViewFrame;
 
-// The one marble. Its constructor sets nothing; as a global it starts at zero, and each level start
-// places it and gives it its colour.
+// There is one marble. It has no constructor: as a global it starts at zero, and each level start
+// places it and sets its colour.
 struct Marble {
-    Vector3 velocity; // the position advances by velocity * unitsPerVelocity a second
-    Vector3 position; // its point of contact: z is always the ground's height
-    float power;      // drive: scales the steering force and sets the top speed
+    Vector3 velocity; // in units of unitsPerVelocity world units a second
+    Vector3 position; // the point of contact, world: z is the ground's height
+    float power;      // scales the steering force and sets the top speed
     float colour[3];  // red, green, blue, each 0..255
 
     void setVelocity(const Vector3& v) { velocity = v; }
@@ -38,17 +38,19 @@ struct Marble {
 
 inline constexpr float normalPower = 40.0F;
 inline constexpr float turboPower = 65.0F;
-inline constexpr double topSpeedPerPower = 0.1; // the velocity's limit
+inline constexpr double topSpeedPerPower = 0.1; // limit of the velocity's length
 inline constexpr float drag = -9.5F;            // force per velocity
+inline constexpr double gravity = 11.76;        // acceleration
+inline constexpr float marbleMass = 10.0F;
 
-// World units that the position advances a second per unit of velocity.
+// World units that the position advances in a second for each unit of velocity.
 inline constexpr double unitsPerVelocity = 210.0;
 
 // World units from the ground to the marble's centre, along the normal: its radius.
 inline constexpr float marbleRadius = 20.0F;
 
-// The world point that is the marble's centre when it touches the ground at `contact`, worked out
-// in double precision.
+// Returns the world point that is the marble's centre when it touches the ground at `contact`,
+// computed in double precision.
 Vector3 marbleCentre(const Level& ground, const Vector3& contact);
 
 extern Marble marble;

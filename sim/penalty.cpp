@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr float secondsTaken = 4.0F;
+constexpr float clockPenalty = 4.0F; // seconds
 
 } // namespace
 
@@ -12,7 +12,7 @@ void agePenalty() {
     if (!Game.penaltyPending) { return; }
     Game.penaltyFade -= Game.frameTime;
     if (Game.penaltyFade > 0.0F) { return; }
-    Game.clock -= secondsTaken;
+    Game.clock -= clockPenalty;
     Game.penaltyFade = fullPenaltyFade;
     Game.penaltyPending = 0;
 }

@@ -2,6 +2,6 @@
 // other four when the label that shows the penalty has reached it.
 #pragma once
 
-// Lets Game.frameTime seconds of a pending penalty pass, also in a pause. When its time is over the
-// clock loses 4 seconds. Called once a frame of a level, after the label is drawn.
+// Advances a pending penalty by Game.frameTime seconds. When its time is over the clock loses its
+// seconds. Called once a frame of a level, also in a pause, after the label is drawn.
 void agePenalty();

@@ -1,13 +1,12 @@
-// From the world to the screen, for what is not ground: the marble, its arrows, the penalty label,
-// the text. (The ground has factors of its own, render/ground.cpp.)
+// From the world to the screen, for the marble, its arrows and the penalty label. The ground has
+// factors of its own (render/ground.cpp).
 #pragma once
 
 #include "sim/view_frame.h"
-#include "state/screen.h"
 
 inline constexpr double focalLength = 400.0; // pixels
 
-// A world point in view coordinates, computed in double precision.
+// Returns a world point in view coordinates (sim/view_frame.h), computed in double precision.
 inline Vector3 toView(const ViewFrame& view, const Vector3& point) {
     const Matrix3 rotation = view.getRotation();
     const Vector3 eye = view.getPosition();

@@ -12,7 +12,8 @@ constexpr float stepBackInHoleWidths = 4.0F;   // from where a hole caught the m
 constexpr float stepBackPerTry = 30.0F;        // world units
 constexpr float placeAfterBackExit = -5700.0F; // y, world units
 
-// The marble moves, and turbo is spent, between the start signal and the end of the time.
+// Returns whether the marble moves and turbo is spent: it is not held, the count-down is over and
+// time is left.
 bool marbleIsFree() {
     return Game.holdTime <= 0.0F && Game.clock >= 0.0F && Game.clock <= levelTime;
 }
@@ -44,8 +45,8 @@ void penalise(StepEvents& events) {
     events.resetMarble = true;
 }
 
-// Looks for a spot clear of all holes before the hole, in the middle of the course. Where there is
-// none down to the back of the course, the marble stays caught.
+// Moves the marble back towards the start, to the nearest spot in the middle of the course that is
+// clear of all holes. If there is none, the marble stays caught.
 void putBackFromHole(float holeWidth) {
     float y = marble.getPosition().y - stepBackInHoleWidths * holeWidth;
     while (y >= courseBack && level.holeAt(0.0F, y) != 0.0F) {

@@ -1,4 +1,4 @@
-// The world's share of a tick: turbo, one step of the marble, and what becomes of it.
+// The world's part of a tick: steering, turbo, one step of the marble, then holes, edges and goal.
 //
 // Works on the global marble and level and on Game; never fails.
 #pragma once
@@ -9,7 +9,7 @@
 // The force of the arrow keys along the ground, rebuilt at every stepWorld.
 extern Vector3 steeringForce;
 
-// What happened in a step that somebody else answers for.
+// What happened in a step, for the caller to handle.
 struct StepEvents {
     bool resetMarble = false; // a hole caught the marble, or it left the course
     bool reachedGoal = false; // the marble crossed the goal line: the level is done

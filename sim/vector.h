@@ -7,7 +7,7 @@
 #include <cfloat>
 #include <cmath>
 
-// With x87 arithmetic, for one, recorded drives would not end at the same time as elsewhere.
+// With x87 arithmetic, for example, a recorded drive ends at another time.
 static_assert(
     FLT_EVAL_METHOD == 0,
     "float and double expressions must be evaluated in their own precision, or the marble "
@@ -37,7 +37,7 @@ struct Vector3 {
             static_cast<double>(x) * x + static_cast<double>(y) * y + static_cast<double>(z) * z));
     }
 
-    // This vector with length 1; (0, 0, 0) when the length is exactly 0, with no tolerance.
+    // Returns this vector with length 1; (0, 0, 0) when the length is exactly 0, with no tolerance.
     Vector3 unit() const {
         const float l = length();
         if (l == 0.0F) { return {0.0F, 0.0F, 0.0F}; }

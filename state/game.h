@@ -1,7 +1,7 @@
 // The game-wide state, in one record that every part of the game reads and writes directly.
 //
-// The values beside the fields are those at program start. The record is about 2 MB (two pictures)
-// and could overflow a stack, so there is only the global one, which is never copied or moved.
+// The values beside the fields are those at program start. The record is about 2 MB (two pictures),
+// too large for a stack: there is only the global one, which can be neither copied nor moved.
 #pragma once
 
 #include <cstddef>
@@ -24,34 +24,33 @@ enum class Screen : std::int32_t {
 inline constexpr UINT WM_GAME_TICK = WM_USER + 1;        // one tick: time, world, frame
 inline constexpr UINT WM_GAME_START_LEVEL = WM_USER + 2; // start the next level of the run
 
-inline constexpr int LEVEL_NAME_CAPACITY = 256; // bytes of a level file's name, with its zero
+inline constexpr int LEVEL_NAME_CAPACITY = 256; // bytes of a level file's name, with the final zero
 
-// A level's full time in seconds, and the time that stands for a level not finished.
+// The time of a level in seconds. It is also the result of a level that was not finished.
 inline constexpr float levelTime = 45.0F;
 
-// Captions of the message boxes: of the program, and of levels and their files.
+// Captions of the message boxes: errors of the program, and of the files that it reads.
 inline constexpr const char* errorCaption = "Error";
 inline constexpr const char* fileErrorCaption = "error";
 
 inline constexpr float levelNotFinished = -4.0F; // levelEndAt while the goal has not been reached
 inline constexpr float fullTurbo = 5.0F;         // seconds of turbo that each level starts with
-inline constexpr float fullPenaltyFade = 0.7F;   // seconds that a penalty label lives
-
-inline constexpr float clockX = 280.0F; // pixels: where the clock is drawn, at the top
+inline constexpr float fullPenaltyFade = 0.7F;   // seconds for which a penalty label is shown
 
 struct GameRecord {
-    // Defined in state/game.cpp, or the program file would carry two empty pictures.
+    // Defined in state/game.cpp: the compiler would evaluate an inline constructor and put two
+    // empty pictures into the program file.
     GameRecord();
     GameRecord(const GameRecord&) = delete;
     GameRecord& operator=(const GameRecord&) = delete;
 
-    // No level runs any more: ticks only draw.
+    // Stops the level: from now on ticks only draw.
     void endLevel();
 
-    // No level of the run is finished.
+    // Marks all levels of the run as not finished.
     void clearLevelTimes();
 
-    // The times of all levels of the run, and that of the level being played.
+    // Return the times of all levels of the run, and that of the level being played.
     std::span<float> allLevelTimes() const {
         return {levelTimes.get(), static_cast<std::size_t>(levelCount)};
     }
@@ -75,13 +74,13 @@ struct GameRecord {
     float cameraLag = 6.0F;          // 0..9, whole: how slowly the camera follows
 
     // The run: all levels of the list in order
-    std::int32_t levelNumber = -1; // from 1; 0 asks for a new run, levelCount + 1 ends it
-    std::int32_t levelCount = 0;   // set, with the two arrays, by loadLevelList
-    std::unique_ptr<std::unique_ptr<char[]>[]> levelFiles; // a name of a level file each
+    std::int32_t levelNumber = -1; // counts from 1; 0: a new run is to start; -1: none yet
+    std::int32_t levelCount = 0;   // levels of the list; set by loadLevelList with both arrays
+    std::unique_ptr<std::unique_ptr<char[]>[]> levelFiles; // one file name for each level
     std::unique_ptr<float[]> levelTimes; // seconds each level took in this run, or levelTime
 
     // The level being played
-    float clock = 0.0F;                  // seconds left; above 45 the count-down
+    float clock = 0.0F;                  // seconds left; above levelTime: the count-down
     float levelEndAt = levelNotFinished; // the next level starts when the clock is below this
     float holdTime = 0.0F;               // seconds the marble is still held after a reset
     float turbo = fullTurbo;             // seconds of turbo left
@@ -95,11 +94,11 @@ struct GameRecord {
     std::int32_t nameCursor = 0;    // letters typed so far into that entry's name
 
     // The penalty label
-    std::uint8_t penaltyPending = 0;     // flag: the marble was reset and its label flies
+    std::uint8_t penaltyPending = 0;     // flag: the marble was reset and its label is shown
     float penaltyFade = fullPenaltyFade; // seconds the label has left
 
     // Time and statistics
-    std::int64_t lastCounter = 0;         // the clock's count at the last tick or level start
+    std::int64_t lastCounter = 0;         // performance counter at the last tick or level start
     float frameTime = 0.0F;               // seconds between the last two ticks
     std::int32_t framesThisSecond = 0;    // level frames drawn since the last latch
     std::int32_t trianglesThisSecond = 0; // ground triangles drawn since the last latch
@@ -109,11 +108,11 @@ struct GameRecord {
     // Music
     std::uint8_t musicPlaying = 0; // flag: a piece is open and meant to be playing
     MCIDEVICEID musicDevice = 0;   // the sequencer opened last
-    std::int32_t nextTrack = 1;    // 0..2: the piece that follows (app/audio.h)
+    std::int32_t nextTrack = 1;    // 0..2: the piece to play next (app/audio.h)
 
     // Pictures: 640 x 480 pixels of red, green, blue; bottom row first
-    std::uint8_t titlePending = 1; // flag: the title picture is not there yet
-    std::uint8_t backPending = 1;  // flag: the background picture is not there yet
+    std::uint8_t titlePending = 1; // flag: the title picture has not been read yet
+    std::uint8_t backPending = 1;  // flag: the background picture has not been read yet
     std::uint8_t titlePicture[screenWidth * screenHeight * 3] = {};
     std::uint8_t backPicture[screenWidth * screenHeight * 3] = {};
 
@@ -121,7 +120,7 @@ struct GameRecord {
     std::int32_t bannerLevel = -1; // the level whose banner was started last
     float bannerScale = 0.0F;      // its text scale now
 
-    // The machine
+    // Window and OpenGL
     HWND window = nullptr;
     HDC deviceContext = nullptr;
     HGLRC glContext = nullptr;

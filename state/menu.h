@@ -10,8 +10,8 @@
 // The lines of the menu; values of Game.menuItem.
 namespace MenuItem {
 inline constexpr std::int32_t NewGame = 1;   // begins a run
-inline constexpr std::int32_t HighScore = 2; // shows the best times and gives up the run
-inline constexpr std::int32_t Options = 3;   // leads to the other page
+inline constexpr std::int32_t HighScore = 2; // abandons the run and shows the best times
+inline constexpr std::int32_t Options = 3;   // opens the options page
 inline constexpr std::int32_t Quit = 4;      // saves the best times and ends the game
 inline constexpr std::int32_t Statistics = 5;
 inline constexpr std::int32_t Fog = 6;
@@ -19,7 +19,7 @@ inline constexpr std::int32_t FarSight = 7; // cannot be reached by the arrows w
 inline constexpr std::int32_t Normal = 8;
 inline constexpr std::int32_t CameraLag = 9; // the only line with a value, 0..9
 inline constexpr std::int32_t Midi = 10;
-inline constexpr std::int32_t Done = 11; // leads back to the main page
+inline constexpr std::int32_t Done = 11; // returns to the main page
 } // namespace MenuItem
 
 // What Enter does on a line.
@@ -28,7 +28,7 @@ enum class MenuAction {
     ShowBestTimes,
     GoTo, // selects the item `target`
     Quit,
-    PostKey, // posts the key `target`, whose command does the rest
+    PostKey, // posts the key `target` to the window
     RaiseCameraLag,
 };
 
@@ -37,9 +37,9 @@ using MenuSwitch = std::uint8_t(GameRecord::*);
 
 struct MenuLine {
     const char* text;
-    MenuSwitch option; // the switch shown as "ON" or "OFF" after the text; or null
+    MenuSwitch option; // shown as "ON" or "OFF" after the text; nullptr: none
     MenuAction action;
-    int target;
+    int target; // of GoTo and PostKey; otherwise 0
 };
 
 // In the order of MenuItem, which starts at 1.
@@ -61,7 +61,7 @@ inline const MenuLine& menuLine(std::int32_t item) {
     return menuLines[static_cast<std::size_t>(item - 1)];
 }
 
-// A page: its first and last item, and the screen pixel at which its first line begins.
+// A page: its first and last item, and the top left corner of its text in screen pixels.
 struct MenuPage {
     std::int32_t first;
     std::int32_t last;

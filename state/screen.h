@@ -1,4 +1,5 @@
-// The screen in pixels and in normalised device coordinates (NDC), which run from -1 to 1 over it.
+// The screen in pixels and in normalised device coordinates (NDC), which run from -1 to 1, x to the
+// right and y upwards.
 #pragma once
 
 #include "platform/display_mode.h"

@@ -36,7 +36,7 @@ struct Course : testing::TestWithParam<std::string> {
     void SetUp() override {
         std::filesystem::current_path(GLORBIX_GAME_DIR);
         LevelFileReport report;
-        ASSERT_TRUE(startRun(GetParam().c_str(), report)) << explainFault(report.fault);
+        ASSERT_TRUE(startRun(GetParam().c_str(), report)) << faultMessage(report.fault);
     }
 
     std::string keyFile() const {
@@ -73,10 +73,10 @@ TEST_P(Course, EndsARecordedDriveToTheLastBit) {
 }
 
 TEST_P(Course, GivesEveryMarbleBackAndIsGood) {
-    for (const Return& back : findReturns()) {
+    for (const ReturnSpot& back : findReturnSpots()) {
         EXPECT_TRUE(back.found) << "hole " << back.hole + 1;
     }
-    EXPECT_EQ(checkLevels({{GetParam()}}), allWell);
+    EXPECT_EQ(checkLevels({{GetParam()}}), exitOk);
 }
 
 TEST(FirstCourse, IsFinishedByHoldingUpAlone) {
@@ -124,7 +124,7 @@ TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
         file.write(fault.text);
         LevelFileReport report;
         EXPECT_FALSE(startRun(file.name.c_str(), report)) << fault.text;
-        const std::string told = explainFault(report.fault);
+        const std::string told = faultMessage(report.fault);
         EXPECT_TRUE(told.starts_with(fault.told)) << told;
     }
 }
@@ -151,7 +151,7 @@ TEST(Drives, AreRefusedWithTheLineAndTheReason) {
         EXPECT_TRUE(error.starts_with(fault.told.empty() ? "" : file.name + fault.told)) << error;
     }
     EXPECT_FALSE(readKeyFile("/", keys, error));
-    EXPECT_EQ(driveLevel({{"any.lev", "--tick", "60junk"}}), cannotDo);
+    EXPECT_EQ(driveLevel({{"any.lev", "--tick", "60junk"}}), exitUsage);
 }
 
 TEST(Drives, EndForAMarbleThatIsCaughtForEver) {

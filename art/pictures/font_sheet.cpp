@@ -10,8 +10,7 @@
 namespace {
 
 constexpr int usableSize = fontSize - 1; // the game's texture coordinates end at 255
-constexpr int glyphHeight = 33;          // of every glyph; the line spacing of the game
-constexpr double baselineRow = 24.0;     // of a glyph, down from its top
+constexpr double baselineRow = 24.0;     // rows from the top of a glyph
 
 std::vector<char> widestFirst() {
     std::vector<char> order;
@@ -23,7 +22,7 @@ std::vector<char> widestFirst() {
     return order;
 }
 
-// Returns the middle of the sheet pixel that a texel of level 0 shows.
+// Returns the centre of the sheet pixel that a texel of level 0 shows.
 double pixelOfTexel(int texel) {
     return (texel < fontSize / 2 ? texel : texel - 1) + 0.5;
 }
@@ -33,7 +32,7 @@ double inkAt(const GlyphCell& cell, const Skeleton& skeleton, double column, dou
     return clamp01(0.5 - signedDistance(skeleton, point));
 }
 
-// Returns the mean ink over a square of sheet pixels around a point, a little bolder than it is.
+// Returns the mean ink over a square around a point, in sheet pixels, slightly emboldened.
 double meanInk(const GlyphCell& cell, const Skeleton& skeleton, double column, double row,
                double side) {
     constexpr int samples = 6;
@@ -72,7 +71,7 @@ void drawGlyph(Image8& sheet, const GlyphCell& cell, int level) {
 
 } // namespace
 
-// The widest glyphs come first, each into the first row with room: narrow ones fill the gaps.
+// The widest glyphs come first, each in the first row with room; narrow ones fill the gaps.
 std::vector<GlyphCell> layOutGlyphs() {
     constexpr int columnGap = 1;
     constexpr int rowGap = 3;

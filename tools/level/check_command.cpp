@@ -1,5 +1,6 @@
-// glorbix-level check: why the game would refuse a level, and what its author did not mean.
+// glorbix-level check: reports why the game would refuse a level, and probable mistakes.
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -16,7 +17,7 @@
 
 namespace {
 
-constexpr double alikeColours = 90.0; // distance of two colours that are hard to tell apart
+constexpr double minColourDistance = 90.0; // closer colours are hard to tell apart
 
 struct Findings {
     const std::string& file;
@@ -51,7 +52,7 @@ void checkHole(int index, Findings& findings) {
     if (!(hole.depth > 0.0F)) { return; }
     const bool onCourse = hole.x >= courseLeft && hole.x <= courseRight && hole.y >= courseBack &&
                           hole.y <= -courseBack;
-    if (!onCourse) { findings.add(holeName(index) + " is a well beside the course"); }
+    if (!onCourse) { findings.add(holeName(index) + " is a well outside the course"); }
     if (std::abs(static_cast<double>(hole.y) - goalLine) <= catchRadiusInWidths * hole.width) {
         findings.add(holeName(index) + " catches on the goal line");
     }
@@ -59,33 +60,33 @@ void checkHole(int index, Findings& findings) {
 
 void checkReturns(Findings& findings) {
     int reported = -1;
-    const std::vector<Return> returns = findReturns();
-    if (wellsTried() < level.holeCount) {
-        std::printf("%s: so many holes that the marble was dropped into the first %d alone\n",
-                    findings.file.c_str(), wellsTried());
+    const std::vector<ReturnSpot> returns = findReturnSpots();
+    if (testedHoleCount() < level.holeCount) {
+        std::printf("%s: too many holes: the marble was dropped only into the first %d\n",
+                    findings.file.c_str(), testedHoleCount());
     }
-    for (const Return& back : returns) {
+    for (const ReturnSpot& back : returns) {
         if (back.found || back.hole == reported) { continue; }
         reported = back.hole;
-        findings.add(holeName(back.hole) +
-                     " keeps the marble for ever: along x = 0 behind it there is no spot 250 units "
-                     "from all wells");
+        findings.add(holeName(back.hole) + " keeps the marble forever: between it and the start, " +
+                     "no spot at x = 0 is " + std::to_string(static_cast<int>(nearHole)) +
+                     " units from all wells");
     }
 }
 
-// What the game takes, but the author surely did not mean.
+// Reports what the game accepts but is probably a mistake.
 void checkCourse(Findings& findings) {
     for (int i = 0; i < level.holeCount; ++i) {
         checkHole(i, findings);
     }
-    if (level.holeCount == 0) { findings.add("there is not a single hole: the ground is flat"); }
-    if (level.holeAt(0.0F, startLine) > 0.0F) { findings.add("the start lies in a catch circle"); }
-    if (colourDistance(level.fogColourCode, level.marbleColourCode) < alikeColours) {
-        findings.add("fogcolor= and marblecolor= are so alike that the marble will be lost in fog");
+    if (level.holeCount == 0) { findings.add("there are no holes: the ground is flat"); }
+    if (level.holeAt(0.0F, startLine) > 0.0F) { findings.add("the start is in a catch circle"); }
+    if (colourDistance(level.fogColourCode, level.marbleColourCode) < minColourDistance) {
+        findings.add("fogcolor= and marblecolor= are too similar to see the marble in fog");
     }
     checkReturns(findings);
     if (!Guide(level).reachesGoal()) {
-        findings.add("no way leads from the start to the goal past all wells");
+        findings.add("no way from the start to the goal avoids all wells");
     }
 }
 
@@ -95,29 +96,30 @@ int checkLevel(const std::string& file) {
     LevelFileReport report;
     if (!startRun(file.c_str(), report)) {
         if (report.fault.cause == LevelFault::Cause::FileUnreadable) {
-            return refuseFile(file + ": cannot be read: " + report.fault.token);
+            return failure(file + ": cannot be read: " + report.fault.token);
         }
-        findings.add(explainFault(report.fault));
-        return levelHasFaults;
+        findings.add(faultMessage(report.fault));
+        return exitFault;
     }
-    for (const std::string& odd : findOddDirectives(report)) {
-        findings.add(odd);
+    for (const std::string& warning : directiveWarnings(report)) {
+        findings.add(warning);
     }
     checkCourse(findings);
     if (findings.count == 0) { std::printf("%s: good\n", file.c_str()); }
-    return findings.count == 0 ? allWell : levelHasFaults;
+    return findings.count == 0 ? exitOk : exitFault;
 }
 
-int explainList() {
-    std::printf("%s: the game refuses it: it takes a number of levels, then that many file names, "
-                "and nothing behind the last name, not even a line break\n",
-                levelListFile);
-    return levelHasFaults;
+int reportBadList() {
+    std::printf(
+        "%s: the game refuses it: expected the number of levels, then that many file names, "
+        "and nothing after the last name, not even a line break\n",
+        levelListFile);
+    return exitFault;
 }
 
-// The list and all its levels.
+// Checks the list and all its levels.
 int checkList() {
-    if (!loadLevelList()) { return explainList(); }
+    if (!loadLevelList()) { return reportBadList(); }
     std::vector<std::string> files;
     const auto count = static_cast<std::size_t>(Game.levelCount);
     files.reserve(count);
@@ -125,7 +127,7 @@ int checkList() {
         files.emplace_back(Game.levelFiles[i].get());
     }
     std::printf("%s: good, %zu levels\n", levelListFile, files.size());
-    int worst = allWell;
+    int worst = exitOk;
     for (const std::string& file : files) {
         worst = std::max(worst, checkLevel(file));
     }
@@ -134,17 +136,17 @@ int checkList() {
 
 } // namespace
 
-int checkLevels(Words words) {
-    if (const std::string option = words.unknownOption(); !option.empty()) {
-        return refuseWords("check", "unknown option " + option);
+int checkLevels(Arguments arguments) {
+    if (const std::string option = arguments.unknownOption(); !option.empty()) {
+        return usageError("check", "unknown option " + option);
     }
-    if (words.words.empty()) {
-        return refuseWords("check", "takes level files or maps/maplist.dat");
+    if (arguments.values.empty()) {
+        return usageError("check", std::string("expected level files or ") + levelListFile);
     }
     std::error_code error;
     const std::filesystem::path home = std::filesystem::current_path(error);
-    int worst = allWell;
-    for (std::string file : words.words) {
+    int worst = exitOk;
+    for (std::string file : arguments.values) {
         std::filesystem::current_path(home, error);
         enterGameFolder(file);
         worst = std::max(worst, file == levelListFile ? checkList() : checkLevel(file));

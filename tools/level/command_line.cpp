@@ -3,32 +3,32 @@
 #include <algorithm>
 #include <cstdio>
 
-bool Words::takeFlag(const std::string& flag) {
-    return std::erase(words, flag) > 0;
+bool Arguments::takeFlag(const std::string& flag) {
+    return std::erase(values, flag) > 0;
 }
 
-std::optional<std::string> Words::takeOption(const std::string& option) {
-    const auto found = std::find(words.begin(), words.end(), option);
-    if (found == words.end() || found + 1 == words.end()) { return {}; }
+std::optional<std::string> Arguments::takeOption(const std::string& option) {
+    const auto found = std::find(values.begin(), values.end(), option);
+    if (found == values.end() || found + 1 == values.end()) { return {}; }
     std::string value = *(found + 1);
-    words.erase(found, found + 2);
+    values.erase(found, found + 2);
     return value;
 }
 
-std::string Words::unknownOption() const {
-    const auto found = std::find_if(words.begin(), words.end(), [](const std::string& word) {
-        return word.size() > 1 && word[0] == '-';
+std::string Arguments::unknownOption() const {
+    const auto found = std::find_if(values.begin(), values.end(), [](const std::string& value) {
+        return value.size() > 1 && value[0] == '-';
     });
-    return found == words.end() ? std::string() : *found;
+    return found == values.end() ? std::string() : *found;
 }
 
-int refuseWords(const std::string& verb, const std::string& why) {
-    std::fprintf(stderr, "glorbix-level %s: %s (see glorbix-level %s --help)\n", verb.c_str(),
-                 why.c_str(), verb.c_str());
-    return cannotDo;
+int usageError(const std::string& command, const std::string& why) {
+    std::fprintf(stderr, "glorbix-level %s: %s (see glorbix-level %s --help)\n", command.c_str(),
+                 why.c_str(), command.c_str());
+    return exitUsage;
 }
 
-int refuseFile(const std::string& why) {
+int failure(const std::string& why) {
     std::fprintf(stderr, "glorbix-level: %s\n", why.c_str());
-    return cannotDo;
+    return exitUsage;
 }

@@ -1,38 +1,38 @@
-// What the verbs have in common: their words, their help, their ends.
+// What the commands of glorbix-level share: arguments, error messages, exit codes.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
-// Exit codes.
-inline constexpr int allWell = 0;
-inline constexpr int levelHasFaults = 1; // or a drive that did not reach the goal
-inline constexpr int cannotDo = 2;       // wrong words, or a file that cannot be read or written
+inline constexpr int exitOk = 0;
+inline constexpr int exitFault = 1; // a level has faults, or a drive did not reach the goal
+inline constexpr int exitUsage = 2; // wrong arguments, or a file that cannot be read or written
 
-// The words behind a verb. Each verb takes what it knows; what is left are files, or wrong.
-struct Words {
-    std::vector<std::string> words;
+// The arguments after the command. Each command takes out its options; what is left are files, or
+// unknown options.
+struct Arguments {
+    std::vector<std::string> values;
 
-    // Whether the flag is there; it is taken out.
+    // Takes out a flag. Returns whether it was there.
     bool takeFlag(const std::string& flag);
 
-    // The word behind an option, both taken out; nothing when the option is not there. An option
-    // without a word behind it stays, and is reported as unknown.
+    // Takes out an option and the argument after it. Returns that argument, or nothing when the
+    // option is not there. An option at the very end stays, and is reported as unknown.
     std::optional<std::string> takeOption(const std::string& option);
 
-    // The first word that looks like an option but was not taken; empty when there is none.
+    // Returns the first argument left that looks like an option, or an empty text.
     std::string unknownOption() const;
 };
 
-// Reports wrong use in one line, with where to find help; `cannotDo`.
-int refuseWords(const std::string& verb, const std::string& why);
+// Reports wrong arguments in one line that also names the help. Returns exitUsage.
+int usageError(const std::string& command, const std::string& why);
 
-// Reports a failure in one line; `cannotDo`.
-int refuseFile(const std::string& why);
+// Reports a failure in one line. Returns exitUsage.
+int failure(const std::string& why);
 
-// The verbs of glorbix-level (tools/level/main.cpp has their help). Each gives an exit code.
-int checkLevels(Words words);
-int drawMap(Words words);
-int driveLevel(Words words);
-int newLevel(Words words);
+// The commands of glorbix-level (tools/level/main.cpp has their help). Each returns an exit code.
+int checkLevels(Arguments arguments);
+int drawMap(Arguments arguments);
+int driveLevel(Arguments arguments);
+int newLevel(Arguments arguments);

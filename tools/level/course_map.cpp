@@ -15,9 +15,9 @@ constexpr int stripPixels = static_cast<int>(stripLength / unitsPerPixel);
 constexpr int stripHeight = static_cast<int>((courseRight - courseLeft) / unitsPerPixel);
 constexpr int pictureWidth = stripPixels + 2 * border;
 constexpr int pictureHeight = strips * (stripHeight + border) + border;
-constexpr float mostHeight = 1.0e6F;
-constexpr double mostRadius = 2.0 * pictureWidth; // pixels: that covers the picture
-constexpr double farAway = 4.0 * pictureWidth;    // pixels: nothing there reaches the picture
+constexpr float maxHeight = 1.0e6F;
+constexpr double maxRadius = 2.0 * pictureWidth; // pixels; this covers the picture
+constexpr double farAway = 4.0 * pictureWidth;   // pixels; nothing beyond reaches the picture
 constexpr int tickUnits = 1000;
 
 constexpr PaletteColour paper = {24, 26, 30};
@@ -25,7 +25,7 @@ constexpr PaletteColour low = {34, 70, 62};
 constexpr PaletteColour middle = {176, 160, 104};
 constexpr PaletteColour high = {246, 244, 240};
 constexpr int heightBands = 16;
-constexpr int lightSteps = 12; // the darkest is kept for contours
+constexpr int lightSteps = 12; // the darkest is for contours only
 constexpr double contourShare = 0.72;
 
 PaletteColour blend(PaletteColour a, PaletteColour b, double share) {
@@ -42,7 +42,7 @@ PaletteColour bandColour(int band, int light) {
     return blend({0, 0, 0}, flat, 0.35 + 0.65 * light / (lightSteps - 1));
 }
 
-// Where a world place lies in the picture, and back.
+// Return where a point of the world is in the picture, in pixels.
 double pictureX(float y) {
     const float strip = y < 0.0F ? -stripLength : 0.0F;
     return border + (y - strip) / unitsPerPixel;
@@ -84,13 +84,13 @@ struct Mapper {
         turboColour = picture.addColour({255, 90, 255});
     }
 
-    // Within bounds also where the numbers of a hole give none.
+    // Returns the height, limited, and 0 where the numbers of a hole give no finite height.
     float heightUpwards(float x, float y) const {
         const float height = -course.heightAt(x, y);
-        return std::isfinite(height) ? std::clamp(height, -mostHeight, mostHeight) : 0.0F;
+        return std::isfinite(height) ? std::clamp(height, -maxHeight, maxHeight) : 0.0F;
     }
 
-    // Heights upwards, of one strip with a further row and column for the differences.
+    // Returns the heights of one strip, with one more row and column for the differences.
     std::vector<float> stripHeights(int strip) const {
         std::vector<float> heights;
         for (int row = 0; row <= stripHeight; ++row) {
@@ -106,24 +106,24 @@ struct Mapper {
 
     void drawRelief() {
         std::vector<float> heights[strips];
-        float least = 1.0e9F;
-        float most = -1.0e9F;
+        float lowest = 1.0e9F;
+        float highest = -1.0e9F;
         for (int strip = 0; strip < strips; ++strip) {
             heights[strip] = stripHeights(strip);
             for (const float h : heights[strip]) {
-                least = std::min(least, h);
-                most = std::max(most, h);
+                lowest = std::min(lowest, h);
+                highest = std::max(highest, h);
             }
         }
-        const float bandHeight = std::max((most - least) / heightBands, 1.0F);
+        const float bandHeight = std::max((highest - lowest) / heightBands, 1.0F);
         for (int strip = 0; strip < strips; ++strip) {
-            drawStrip(strip, heights[strip], least, bandHeight);
+            drawStrip(strip, heights[strip], lowest, bandHeight);
         }
     }
 
-    void drawStrip(int strip, const std::vector<float>& heights, float least, float bandHeight) {
+    void drawStrip(int strip, const std::vector<float>& heights, float lowest, float bandHeight) {
         const auto bandOf = [&](float height) {
-            return std::clamp(static_cast<int>((height - least) / bandHeight), 0, heightBands - 1);
+            return std::clamp(static_cast<int>((height - lowest) / bandHeight), 0, heightBands - 1);
         };
         for (int row = 0; row < stripHeight; ++row) {
             const int top = border + strip * (stripHeight + border) + row;
@@ -133,7 +133,8 @@ struct Mapper {
                 const float right = here[1];
                 const float below = here[stripPixels + 1];
                 const int band = bandOf(*here);
-                // Lit from the upper left: a rise to the right or downwards lies in the light.
+                // The light comes from the upper left: it falls on a rise to the right or
+                // downwards.
                 const double slope = (right - *here + below - *here) / unitsPerPixel;
                 const double light = 0.62 + 0.45 * slope / std::sqrt(1.0 + slope * slope);
                 int step = std::clamp(static_cast<int>(light * lightSteps), 0, lightSteps - 1);
@@ -150,7 +151,7 @@ struct Mapper {
     void drawHole(const Hole& hole) {
         if (hole.depth <= 0.0F) { return; }
         const double radius =
-            std::min<double>(catchRadiusInWidths * hole.width / unitsPerPixel, mostRadius);
+            std::min<double>(catchRadiusInWidths * hole.width / unitsPerPixel, maxRadius);
         const double x = pictureX(hole.y);
         const double y = pictureY(hole.x, hole.y);
         if (std::abs(x) > farAway || std::abs(y) > farAway) { return; }

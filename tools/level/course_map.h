@@ -2,10 +2,10 @@
 // right, the first half in the upper strip, the second half in the lower one; the player's left is
 // up. One pixel is 6 world units.
 //
-// Colours tell the height (dark green low, white high) and light falls from the upper left; a
-// contour stands every few units, evenly spaced. Red discs are wells within their catch radius,
-// small rings the spots to which wells put the marble back, the green bar is the start, the
-// chequered bar the goal. Ticks at the edge stand 1000 units apart.
+// Colours show the height (dark green is low, white is high), with light from the upper left and
+// contour lines at equal steps of height. Red discs are the catch circles of wells, small rings the
+// spots to which wells put the marble back, the green bar is the start, the chequered bar the goal.
+// Ticks at the edge are 1000 units apart.
 #pragma once
 
 #include <vector>
@@ -14,12 +14,12 @@
 #include "sim/vector.h"
 #include "tools/level/picture.h"
 
-// A place of a driven line.
+// A point of a driven line, in world units.
 struct LinePoint {
     float x;
     float y;
-    bool turbo;  // turbo was held there
-    bool caught; // the marble was put back from there
+    bool turbo;  // turbo was held
+    bool caught; // the marble was put back from here
 };
 
 // Draws the map; the line may be empty.

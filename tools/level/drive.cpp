@@ -2,7 +2,7 @@
 
 namespace {
 
-void notePlace(Drive& drive, Keys held, int catchesBefore) {
+void recordPoint(Drive& drive, Keys held, int catchesBefore) {
     const RunState now = runState();
     const Vector3& p = now.rolling.position;
     if (now.catches > catchesBefore && !drive.line.empty()) { drive.line.back().caught = true; }
@@ -11,17 +11,17 @@ void notePlace(Drive& drive, Keys held, int catchesBefore) {
 
 } // namespace
 
-Drive driveToEnd(int ticksPerSecond, const KeyHolder& holder) {
+Drive driveToEnd(int ticksPerSecond, const KeySource& nextKeys) {
     Drive drive;
     drive.keys.ticksPerSecond = ticksPerSecond;
     const float dt = 1.0F / static_cast<float>(ticksPerSecond);
-    const auto mostTicks = static_cast<std::size_t>(longestDrive * ticksPerSecond);
-    while (!runIsOver() && drive.keys.ticks.size() < mostTicks) {
-        const Keys held = holder(dt);
+    const auto maxTicks = static_cast<std::size_t>(maxDriveSeconds * ticksPerSecond);
+    while (!runIsOver() && drive.keys.ticks.size() < maxTicks) {
+        const Keys held = nextKeys(dt);
         const int catchesBefore = runState().catches;
         tickRun(held, dt);
         drive.keys.ticks.push_back(held);
-        notePlace(drive, held, catchesBefore);
+        recordPoint(drive, held, catchesBefore);
     }
     drive.end = runState();
     drive.keys.time = drive.end.done ? drive.end.result : 0.0F;

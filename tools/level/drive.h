@@ -1,4 +1,4 @@
-// A whole drive of one level, by whoever holds the keys.
+// A whole drive of one level.
 #pragma once
 
 #include <functional>
@@ -9,16 +9,16 @@
 
 struct Drive {
     KeyFile keys;
-    RunState end;                // how it ended
-    std::vector<LinePoint> line; // where it went
+    RunState end;                // the state at its end
+    std::vector<LinePoint> line; // the marble's path, one point for each tick
 };
 
-// The keys to hold in the next tick of `dt` seconds.
-using KeyHolder = std::function<Keys(float dt)>;
+// Returns the keys to hold in the next tick of `dt` seconds.
+using KeySource = std::function<Keys(float dt)>;
 
-// Drives a started run (startRun) to its end, or for `longestDrive` seconds: a marble that is caught
-// for ever also keeps the clock from running out.
-Drive driveToEnd(int ticksPerSecond, const KeyHolder& holder);
+// Drives a started run (startRun) to its end, or for maxDriveSeconds: the clock of a marble that is
+// caught forever never runs out.
+Drive driveToEnd(int ticksPerSecond, const KeySource& nextKeys);
 
 // Drives a started run by the keys of a file; after its last key none is held.
 Drive replay(const KeyFile& keys);

@@ -1,6 +1,5 @@
-// glorbix-level drive: plays a level and tells how it went.
+// glorbix-level drive: plays a level and reports the result.
 #include <cstdio>
-#include <filesystem>
 
 #include <unistd.h>
 
@@ -13,40 +12,37 @@
 
 namespace {
 
-struct Order {
+struct Options {
     std::string level;
     int ticksPerSecond = 60;
-    std::string keysOut; // empty: not wanted
-    std::string keysIn;  // empty: drive by oneself
+    std::string keysOut; // empty: do not write them
+    std::string keysIn;  // empty: the automatic driver plays
     bool holdUp = false;
 };
 
-std::string wholePath(const std::string& file) {
-    std::error_code ignored;
-    return std::filesystem::absolute(file, ignored).string();
-}
-
-// Understands the words; the reason when they are wrong.
-std::string readOrder(Words& words, Order& order) {
-    if (const auto tick = words.takeOption("--tick")) {
-        if (!readTicksPerSecond(*tick, order.ticksPerSecond)) {
-            return "--tick takes " + std::to_string(fewestTicksPerSecond) + " to " +
-                   std::to_string(mostTicksPerSecond) + " ticks a second, a whole number";
+// Parses the arguments. Returns what is wrong with them, or an empty text.
+std::string parseOptions(Arguments& arguments, Options& options) {
+    if (const auto tick = arguments.takeOption("--tick")) {
+        if (!readTicksPerSecond(*tick, options.ticksPerSecond)) {
+            return "expected --tick " + std::to_string(minTicksPerSecond) + " to " +
+                   std::to_string(maxTicksPerSecond) + ", a whole number of ticks a second";
         }
     }
-    if (const auto keys = words.takeOption("--keys")) { order.keysOut = wholePath(*keys); }
-    if (const auto play = words.takeOption("--play")) { order.keysIn = wholePath(*play); }
-    order.holdUp = words.takeFlag("--hold-up");
-    if (const std::string option = words.unknownOption(); !option.empty()) {
-        return "unknown option " + option + ", or nothing behind it";
+    if (const auto keys = arguments.takeOption("--keys")) { options.keysOut = absolutePath(*keys); }
+    if (const auto play = arguments.takeOption("--play")) { options.keysIn = absolutePath(*play); }
+    options.holdUp = arguments.takeFlag("--hold-up");
+    if (const std::string option = arguments.unknownOption(); !option.empty()) {
+        return "unknown option " + option + ", or no value after it";
     }
-    if (words.words.size() != 1) { return "takes one level file"; }
-    if (order.holdUp && !order.keysIn.empty()) { return "either --hold-up or --play"; }
-    order.level = words.words[0];
+    if (arguments.values.size() != 1) { return "expected one level file"; }
+    if (options.holdUp && !options.keysIn.empty()) {
+        return "expected --hold-up or --play, not both";
+    }
+    options.level = arguments.values[0];
     return {};
 }
 
-// On a terminal: how far along the course the drive is.
+// Shows, on a terminal, how far along the course the drive is.
 void showProgress(float y) {
     static int shown = -1;
     const int percent = static_cast<int>(100.0F * (y - startLine) / (goalLine - startLine));
@@ -55,50 +51,50 @@ void showProgress(float y) {
     std::fprintf(stderr, "\r%3d %%", percent);
 }
 
-Drive driveAlone(const Order& order) {
+Drive runDriver(const Options& options) {
     Driver driver(level);
-    Drive drive = driveToEnd(order.ticksPerSecond, [&](float dt) {
+    Drive drive = driveToEnd(options.ticksPerSecond, [&](float dt) {
         showProgress(marble.position.y);
-        return order.holdUp ? upKey : driver.keysFor(dt);
+        return options.holdUp ? upKey : driver.keysFor(dt);
     });
     if (isatty(STDERR_FILENO) != 0) { std::fputs("\r     \r", stderr); }
     return drive;
 }
 
-int printResult(const Order& order, const Drive& drive) {
+int printResult(const Options& options, const Drive& drive) {
     const char* many = drive.end.catches == 1 ? "catch" : "catches";
     const double turbo = drive.end.turbo > 0.0F ? drive.end.turbo : 0.0;
     if (drive.end.done) {
-        std::printf("%s: goal in %.2f s, %d %s, %.1f s of turbo left\n", order.level.c_str(),
+        std::printf("%s: goal in %.2f s, %d %s, %.1f s of turbo left\n", options.level.c_str(),
                     static_cast<double>(drive.end.result), drive.end.catches, many, turbo);
-        return allWell;
+        return exitOk;
     }
-    const char* what = drive.end.clock < 0.0F ? "time is up" : "caught for ever";
-    std::printf("%s: %s at y = %.0f, %d %s, %.1f s of turbo left\n", order.level.c_str(), what,
+    const char* what = drive.end.clock < 0.0F ? "time is up" : "caught forever";
+    std::printf("%s: %s at y = %.0f, %d %s, %.1f s of turbo left\n", options.level.c_str(), what,
                 static_cast<double>(drive.end.rolling.position.y), drive.end.catches, many, turbo);
-    return levelHasFaults;
+    return exitFault;
 }
 
 } // namespace
 
-int driveLevel(Words words) {
-    Order order;
-    if (const std::string why = readOrder(words, order); !why.empty()) {
-        return refuseWords("drive", why);
+int driveLevel(Arguments arguments) {
+    Options options;
+    if (const std::string why = parseOptions(arguments, options); !why.empty()) {
+        return usageError("drive", why);
     }
     KeyFile keys;
     std::string error;
-    if (!order.keysIn.empty() && !readKeyFile(order.keysIn, keys, error)) {
-        return refuseFile(error);
+    if (!options.keysIn.empty() && !readKeyFile(options.keysIn, keys, error)) {
+        return failure(error);
     }
-    enterGameFolder(order.level);
+    enterGameFolder(options.level);
     LevelFileReport report;
-    if (!startRun(order.level.c_str(), report)) {
-        return refuseFile(order.level + ":" + explainFault(report.fault));
+    if (!startRun(options.level.c_str(), report)) {
+        return failure(options.level + ":" + faultMessage(report.fault));
     }
-    const Drive drive = order.keysIn.empty() ? driveAlone(order) : replay(keys);
-    if (!order.keysOut.empty() && !writeKeyFile(order.keysOut, drive.keys, error)) {
-        return refuseFile(error);
+    const Drive drive = options.keysIn.empty() ? runDriver(options) : replay(keys);
+    if (!options.keysOut.empty() && !writeKeyFile(options.keysOut, drive.keys, error)) {
+        return failure(error);
     }
-    return printResult(order, drive);
+    return printResult(options, drive);
 }

@@ -1,8 +1,8 @@
 // The automatic driver: plays the running level through held keys, as a player does.
 //
-// It sees the ground and the holes, has a line in mind (tools/level/guide.h), and ten times a
-// second compares what the keys would do over the next second, by letting the game play on and
-// taking it back. It neither looks at the clock nor knows the future beyond that second.
+// It knows the ground and the holes, and a line to the goal (tools/level/guide.h). Ten times a
+// second it compares what the keys would do over the next second: it lets the game run on and
+// restores its state.
 #pragma once
 
 #include "tools/level/guide.h"
@@ -15,6 +15,6 @@ struct Driver {
 
     explicit Driver(const Level& course) : guide(course) {}
 
-    // The keys to hold in the coming tick of `dt` seconds of the run.
+    // Returns the keys to hold in the coming tick of `dt` seconds of the run.
     Keys keysFor(float dt);
 };

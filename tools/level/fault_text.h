@@ -1,4 +1,4 @@
-// What is wrong with a level file, in words for its author.
+// Messages about the faults of a level file, for its author.
 #pragma once
 
 #include <string>
@@ -6,8 +6,9 @@
 
 #include "data/level_file.h"
 
-// The fault as "line:column: what is wrong".
-std::string explainFault(const LevelFault& fault);
+// Returns the fault as "LINE:COLUMN: REASON".
+std::string faultMessage(const LevelFault& fault);
 
-// Directives that are missing, and so stay as the level before set them, or that occur twice.
-std::vector<std::string> findOddDirectives(const LevelFileReport& report);
+// Returns a message for each directive that is missing, which leaves it as the level before set it,
+// or that occurs more than once.
+std::vector<std::string> directiveWarnings(const LevelFileReport& report);

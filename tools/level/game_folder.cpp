@@ -42,3 +42,8 @@ void enterGameFolder(std::string& file) {
     const path near = whole.lexically_relative(std::filesystem::current_path(error));
     if (!error && !near.empty() && *near.begin() != "..") { file = near.string(); }
 }
+
+std::string absolutePath(const std::string& file) {
+    std::error_code ignored;
+    return std::filesystem::absolute(file, ignored).string();
+}

@@ -1,9 +1,12 @@
-// The game's folder: the one whose maps, graphics and sounds the game works in.
+// Finds the game's folder, which holds maps, graphics and sounds.
 #pragma once
 
 #include <string>
 
-// Makes the folder that a level file belongs to the current one: the nearest folder above the file
-// that holds "graphics"; where there is none, the current folder if it holds "graphics" or "game",
-// and else the installed data. `file` becomes a path that is right from there.
+// Changes the current folder to the game folder of a level file: the nearest folder above the file
+// that holds "graphics"; otherwise the current folder if it holds "graphics", or its folder "game",
+// or the installed data. `file` becomes a path that is valid from there.
 void enterGameFolder(std::string& file);
+
+// Returns a path that is still valid after that.
+std::string absolutePath(const std::string& file);

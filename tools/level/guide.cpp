@@ -14,16 +14,18 @@ namespace {
 constexpr float margin = 30.0F; // world units kept from catch circles and sides
 constexpr auto speedUnits = static_cast<float>(unitsPerVelocity);
 constexpr auto topSpeed = static_cast<float>(normalPower * topSpeedPerPower);
-constexpr float slopePull = 58.8F;    // force on a vertical slope, see Level::downhillAt
-constexpr float crawlSpeed = 0.35F;   // assumed where a marble from rest could not climb
-constexpr float closedFactor = 40.0F; // how much longer a way through a closed place counts
+// Downward force on a marble on a vertical slope, see Level::downhillAt.
+constexpr auto slopePull = static_cast<float>(gravity * marbleMass / 2.0);
+
+constexpr float minSpeed = 0.35F;     // assumed where a marble from rest could not climb
+constexpr float closedFactor = 40.0F; // by which the time through a closed place is multiplied
 
 struct Neighbour {
     int columns;
     int rows;
 };
 
-// All directions, with the knight's moves between the diagonals and the straights.
+// All directions: straight, diagonal (the first eight), and the knight's moves between them.
 constexpr Neighbour neighbours[] = {{0, 1},   {1, 1},   {1, 0},  {1, -1}, {0, -1}, {-1, -1},
                                     {-1, 0},  {-1, 1},  {1, 2},  {2, 1},  {2, -1}, {1, -2},
                                     {-1, -2}, {-2, -1}, {-2, 1}, {-1, 2}};
@@ -48,13 +50,13 @@ bool isOpen(const Level& course, const Vector3& at) {
     return course.holeAt(at.x, at.y) <= 0.0F;
 }
 
-// How long a marble takes from one place to another near by, at the speed at which the keys, the
-// slope and the drag are in balance.
+// Returns the seconds from one place to another nearby, at the speed at which the keys, the slope
+// and the drag are in balance.
 float secondsBetween(const Vector3& from, const Vector3& to) {
     const float length = (to - from).length();
     const float sinDown = (to.z - from.z) / length; // above 0 downhill, z being a depth
     const float balance = (normalPower + slopePull * sinDown) / -drag;
-    return length / (std::clamp(balance, crawlSpeed, topSpeed) * speedUnits);
+    return length / (std::clamp(balance, minSpeed, topSpeed) * speedUnits);
 }
 
 // Dijkstra's search, backwards from the goal line over the mesh.
@@ -72,9 +74,7 @@ struct Search {
     }
 
     void offer(std::size_t index, float seconds) {
-        if (!(seconds < guide.seconds[index])) {
-            return; // nor one that is no number
-        }
+        if (!(seconds < guide.seconds[index])) { return; } // also for NaN
         guide.seconds[index] = seconds;
         next.emplace(seconds, index);
     }

@@ -1,7 +1,6 @@
-// The way to the goal, as a field: from every place of the loaded level the seconds that a marble
-// would need by the best line, judged from the slopes and the holes on the ground mesh.
-//
-// An estimate: it knows no momentum. It never uses turbo.
+// The way to the goal as a field: for every place of the loaded level, the seconds that a marble
+// needs on the best line, estimated from slopes and holes on the ground mesh. The estimate leaves
+// out momentum and turbo.
 #pragma once
 
 #include <vector>
@@ -10,18 +9,17 @@
 
 struct Guide {
     std::vector<float> seconds; // to the goal, for every vertex of the ground mesh
-    std::vector<bool> open;     // whether the marble may be there: no catch radius, no edge near
+    std::vector<bool> open;     // whether the vertex is clear of catch circles and sides
 
-    // Works the field out for a level. Costs one height of the mesh per vertex and a search over
-    // all of them: some 20 ms.
+    // Computes the field for a level, which needs its mesh: a search over all vertices.
     explicit Guide(const Level& course);
 
-    // Seconds to the goal from a world place; places off the course count as its edge.
+    // Returns the seconds to the goal from a world x and y. Places off the mesh count as its edge.
     float secondsAt(float x, float y) const;
 
-    // The direction of the best line there, a unit vector in the plane (z is 0).
+    // Returns the direction of the best line there, a unit vector with z = 0.
     Vector3 directionAt(float x, float y) const;
 
-    // Whether some line from the start reaches the goal past all holes.
+    // Returns whether a line from the start to the goal avoids all holes.
     bool reachesGoal() const;
 };

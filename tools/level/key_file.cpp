@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int mostTicks = longestDrive * mostTicksPerSecond;
+constexpr int maxTicks = maxDriveSeconds * maxTicksPerSecond;
 
-// All of the word as a number; false when something else stands in it or it does not fit.
+// Reads the whole word as a number. Returns false when it is anything else or does not fit.
 bool readNumber(const std::string& word, int& value) {
     const char* end = word.data() + word.size();
     const auto [stop, error] = std::from_chars(word.data(), end, value);
@@ -27,16 +27,16 @@ bool readTime(const std::string& word, float& time) {
     return text >> time && text.eof() && std::isfinite(time);
 }
 
-std::vector<std::string> wordsOf(const std::string& line) {
+std::vector<std::string> splitWords(const std::string& line) {
     std::istringstream text(line);
     return {std::istream_iterator<std::string>(text), {}};
 }
 
-// What is wrong with a line; empty when it is taken.
+// Each reads one kind of line. Returns what is wrong with it, or an empty text.
 std::string takeTicks(const std::vector<std::string>& words, KeyFile& into) {
     if (words.size() == 2 && readTicksPerSecond(words[1], into.ticksPerSecond)) { return {}; }
-    return "\"ticks\" takes one whole number, " + std::to_string(fewestTicksPerSecond) + " to " +
-           std::to_string(mostTicksPerSecond);
+    return "\"ticks\" takes one whole number, " + std::to_string(minTicksPerSecond) + " to " +
+           std::to_string(maxTicksPerSecond);
 }
 
 std::string takeTime(const std::vector<std::string>& words, KeyFile& into) {
@@ -49,8 +49,8 @@ std::string takeKeys(const std::vector<std::string>& words, KeyFile& into) {
     if (!readNumber(words[0], count) || count < 1 || words.size() < 2) {
         return "expected \"ticks N\", \"time T\", or a number of ticks and the keys held";
     }
-    if (count > mostTicks - static_cast<int>(into.ticks.size())) {
-        return "more than " + std::to_string(mostTicks) + " ticks in all";
+    if (count > maxTicks - static_cast<int>(into.ticks.size())) {
+        return "more than " + std::to_string(maxTicks) + " ticks in all";
     }
     Keys keys = noKey;
     for (std::size_t i = 1; i < words.size(); ++i) {
@@ -63,7 +63,7 @@ std::string takeKeys(const std::vector<std::string>& words, KeyFile& into) {
 }
 
 std::string takeLine(const std::string& line, KeyFile& into) {
-    const std::vector<std::string> words = wordsOf(line);
+    const std::vector<std::string> words = splitWords(line);
     if (words.empty()) { return {}; }
     if (words[0] == "ticks") { return takeTicks(words, into); }
     return words[0] == "time" ? takeTime(words, into) : takeKeys(words, into);
@@ -73,7 +73,7 @@ std::string takeLine(const std::string& line, KeyFile& into) {
 
 bool readTicksPerSecond(const std::string& word, int& ticksPerSecond) {
     int number = 0;
-    if (!readNumber(word, number) || number < fewestTicksPerSecond || number > mostTicksPerSecond) {
+    if (!readNumber(word, number) || number < minTicksPerSecond || number > maxTicksPerSecond) {
         return false;
     }
     ticksPerSecond = number;

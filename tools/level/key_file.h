@@ -1,8 +1,8 @@
-// Drives kept in files: which keys were held at each tick of a level, and the time that came out.
+// Files of drives: the keys that were held at each tick of a level, and the resulting time.
 //
-// A text of lines: "ticks N" (a second), "time T" (seconds, with all its digits; 0 when the goal
-// was not reached), then "COUNT KEYS" for so many ticks: "12 up left shift", "-" for no key. At
-// most 1,000,000 ticks in all.
+// A file is lines of text: "ticks N" (a second), "time T" (seconds, with all digits; 0 when the
+// goal was not reached), then "COUNT KEYS", the keys held for that many ticks: "12 up left shift",
+// or "-" for no key. A file has at most maxDriveSeconds * maxTicksPerSecond ticks.
 #pragma once
 
 #include <string>
@@ -10,13 +10,13 @@
 
 #include "tools/level/keys.h"
 
-// Ticks a second that a drive may have. With far more of them a tick would be too short to change
-// the clock, a float, and the drive would never end.
-inline constexpr int fewestTicksPerSecond = 10;
-inline constexpr int mostTicksPerSecond = 10'000;
+// Ticks a second that a drive may have. With many more, a tick would be too short to change the
+// clock, a float, and the drive would never end.
+inline constexpr int minTicksPerSecond = 10;
+inline constexpr int maxTicksPerSecond = 10'000;
 
-// The longest drive: a level gives less than half of it, and at most 4 s after its end.
-inline constexpr int longestDrive = 100; // seconds
+// The longest drive; a level ends within half of that unless the marble is caught forever.
+inline constexpr int maxDriveSeconds = 100;
 
 struct KeyFile {
     int ticksPerSecond = 60;
@@ -24,9 +24,9 @@ struct KeyFile {
     std::vector<Keys> ticks;
 };
 
-// Understands a whole number within the bounds above; false for anything else.
+// Reads a whole number within these bounds. Returns false for anything else.
 bool readTicksPerSecond(const std::string& word, int& ticksPerSecond);
 
-// False with the reason, and the line for a malformed file, in `error`.
+// Return false, with the reason and the line of a malformed file in `error`.
 bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error);
 bool writeKeyFile(const std::string& fileName, const KeyFile& drive, std::string& error);

@@ -1,4 +1,4 @@
-// The five keys that drive the marble, as a set, and their names in files and on the screen.
+// The five keys that drive the marble, as a set of bits, and their names in files of keys.
 #pragma once
 
 #include <string>
@@ -13,8 +13,8 @@ inline constexpr Keys upKey = 4;
 inline constexpr Keys downKey = 8;
 inline constexpr Keys turboKey = 16;
 
-// "up left shift", in a fixed order; "-" where none is held.
+// Returns the names in a fixed order, such as "up left shift", or "-" for no key.
 std::string keysText(Keys keys);
 
-// Adds the key of that name ("-" adds none). False when there is no such key.
+// Adds the key of that name ("-" adds none). Returns false when there is no such key.
 bool addKey(const std::string& name, Keys& keys);

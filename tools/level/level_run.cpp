@@ -12,7 +12,7 @@
 
 namespace {
 
-// The level is played as the second of two: the game counts down longer before a run's first.
+// The level is played as the second of two: the first of a run has a longer count-down.
 constexpr int levelsInRun = 2;
 
 int catches = 0;
@@ -22,14 +22,14 @@ bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_
     std::string why;
     if (!readWholeFile(fileName, file, why)) { return false; }
     constexpr std::size_t headers = bitmapFileHeaderSize + bitmapInfoHeaderSize;
-    file.resize(std::max(file.size(), headers)); // what the headers lack counts as 0
+    file.resize(std::max(file.size(), headers)); // missing bytes of the headers count as 0
     std::uint8_t infoHeader[bitmapInfoHeaderSize];
     std::memcpy(infoHeader, file.data() + bitmapFileHeaderSize, sizeof infoHeader);
     const std::int64_t bytes = pixelBytes(parseBitmapInfo(infoHeader));
     if (bytes < 0 || bytes > capacity) { return false; }
     const std::size_t there = std::min(file.size() - headers, static_cast<std::size_t>(bytes));
     std::memcpy(pixels, file.data() + headers, there);
-    exchangeRedAndBlue(pixels, bytes);
+    swapRedAndBlue(pixels, bytes);
     return true;
 }
 

@@ -1,4 +1,4 @@
-// glorbix-level: for people who make levels. One program, a verb for each task.
+// glorbix-level, the tool for making levels: one program with a command for each task.
 #include <cstdio>
 #include <string>
 
@@ -6,18 +6,18 @@
 
 namespace {
 
-struct Verb {
+struct Command {
     const char* name;
-    int (*run)(Words words);
+    int (*run)(Arguments arguments);
     const char* help;
 };
 
-constexpr Verb verbs[] = {
+constexpr Command commands[] = {
     {"check", checkLevels,
      "glorbix-level check FILE...\n"
-     "  Reads level files, or maps/maplist.dat with all its levels, as the game does. Tells why\n"
-     "  the game would refuse one, and what it would take but the author surely did not mean.\n"
-     "  Ends with 0 when all is well, 1 when a level has faults, 2 when a file cannot be read.\n"},
+     "  Reads level files, or maps/maplist.dat with all its levels, as the game does. Reports\n"
+     "  why the game would refuse one, and what it accepts but is probably a mistake.\n"
+     "  Exits with 0 when all is good, 1 when a level has faults, 2 when a file cannot be read.\n"},
     {"map", drawMap,
      "glorbix-level map FILE -o PNG [--keys KEYS]\n"
      "  Draws the course from above: heights with light and contour lines, wells with their catch\n"
@@ -26,10 +26,9 @@ constexpr Verb verbs[] = {
     {"drive", driveLevel,
      "glorbix-level drive FILE [--tick N] [--keys KEYS] [--hold-up]\n"
      "glorbix-level drive FILE --play KEYS\n"
-     "  Plays the level by the game's own rules, through held keys alone, and prints the time, "
-     "the\n"
-     "  catches and the turbo left. Ends with 0 when the goal was reached, 1 when not.\n"
-     "    --tick N     ticks a second, 10 to 10000; 60 unless told\n"
+     "  Plays the level by the game's own rules, only through held keys, and prints time, catches\n"
+     "  and turbo left. Exits with 0 when the goal was reached, 1 when not.\n"
+     "    --tick N     ticks a second, 10 to 10000 (default: 60)\n"
      "    --keys KEYS  writes the keys that were held to this file\n"
      "    --hold-up    holds Up and nothing else, as a beginner does\n"
      "    --play KEYS  plays the keys of such a file again, to the same result\n"},
@@ -39,33 +38,35 @@ constexpr Verb verbs[] = {
 };
 
 void printAllHelp(std::FILE* out) {
-    std::fputs("Makes and tests levels of Glorbix. docs/levels.md tells how they are written.\n\n",
+    std::fputs("Makes and tests levels of Glorbix. docs/levels.md describes their format.\n\n",
                out);
-    for (const Verb& verb : verbs) {
-        std::fprintf(out, "%s\n", verb.help);
+    for (const Command& command : commands) {
+        std::fprintf(out, "%s\n", command.help);
     }
 }
 
-int runVerb(const Verb& verb, Words words) {
-    if (words.takeFlag("--help")) {
-        std::fputs(verb.help, stdout);
-        return allWell;
+int runCommand(const Command& command, Arguments arguments) {
+    if (arguments.takeFlag("--help")) {
+        std::fputs(command.help, stdout);
+        return exitOk;
     }
-    return verb.run(std::move(words));
+    return command.run(std::move(arguments));
 }
 
 } // namespace
 
 int main(int count, char** arguments) {
     const std::string name = count > 1 ? arguments[1] : "";
-    for (const Verb& verb : verbs) {
-        if (name == verb.name) { return runVerb(verb, {{arguments + 2, arguments + count}}); }
+    for (const Command& command : commands) {
+        if (name == command.name) {
+            return runCommand(command, {{arguments + 2, arguments + count}});
+        }
     }
     if (name == "--version") {
         std::puts("glorbix-level " GLORBIX_VERSION);
-        return allWell;
+        return exitOk;
     }
     const bool asked = name == "--help" || name == "help";
     printAllHelp(asked ? stdout : stderr);
-    return asked ? allWell : cannotDo;
+    return asked ? exitOk : exitUsage;
 }

@@ -1,4 +1,4 @@
-// A picture with a palette, small as a file, and its way into a PNG file.
+// A picture with a palette, and writing it to a PNG file.
 #pragma once
 
 #include <cstdint>
@@ -12,17 +12,17 @@ struct PaletteColour {
 };
 
 // Pixel (0, 0) is the top left one; each is an index into the palette, which has at most 256
-// colours. Drawing outside the picture is cut off.
+// colours. Drawing is clipped to the picture.
 struct Picture {
     int width;
     int height;
     std::vector<PaletteColour> palette;
     std::vector<std::uint8_t> pixels; // row by row, from the top
 
-    // A picture all of the palette's first colour, which must be added.
+    // Makes a picture filled with the palette's first colour, which must still be added.
     Picture(int pixelsAcross, int pixelsDown);
 
-    // Adds a colour to the palette; its index.
+    // Adds a colour to the palette. Returns its index.
     std::uint8_t addColour(PaletteColour colour);
 
     void put(int x, int y, std::uint8_t colour);
@@ -36,5 +36,5 @@ struct Picture {
     void circle(double centreX, double centreY, double radius, int thickness, std::uint8_t colour);
 };
 
-// Writes the picture as a PNG file. On failure false, with the reason in `error`, and no file.
+// Writes the picture as a PNG file. Returns false, with the reason in `error`, on failure.
 bool writePng(const Picture& picture, const std::string& fileName, std::string& error);

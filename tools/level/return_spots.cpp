@@ -11,11 +11,12 @@
 
 namespace {
 
-constexpr int mostPairs = 2'000'000; // of a tried well and a hole near it or not: some seconds
+constexpr int maxPairs = 2'000'000;  // of a tested well and any hole; these take some seconds
 constexpr float dropDistance = 1.4F; // hole widths: just within the catch radius
 
-// Lets the game find a marble in a hole, while the marble is held and the clock stands.
-bool dropInto(float x, float y, Vector3& spot) {
+// Puts a held marble into a hole and lets the game reset it in a step of 0 s. Returns whether the
+// marble is free afterwards.
+bool dropMarble(float x, float y, Vector3& spot) {
     Game.frameTime = 0.0F;
     Game.holdTime = 1.0F;
     placeMarble(x, y);
@@ -26,23 +27,21 @@ bool dropInto(float x, float y, Vector3& spot) {
 
 } // namespace
 
-int wellsTried() {
-    return std::min(level.holeCount, mostPairs / std::max(level.holeCount, 1));
+int testedHoleCount() {
+    return std::min(level.holeCount, maxPairs / std::max(level.holeCount, 1));
 }
 
-std::vector<Return> findReturns() {
+std::vector<ReturnSpot> findReturnSpots() {
     const RunState before = runState();
-    std::vector<Return> returns;
-    for (int i = 0; i < wellsTried(); ++i) {
+    std::vector<ReturnSpot> returns;
+    for (int i = 0; i < testedHoleCount(); ++i) {
         const Hole& hole = level.allHoles()[static_cast<std::size_t>(i)];
         if (!(hole.depth > 0.0F) || !(hole.width > 0.0F)) { continue; }
-        if (std::abs(hole.y) > -courseBack) {
-            continue; // no marble gets there
-        }
+        if (std::abs(hole.y) > -courseBack) { continue; } // no marble gets there
         for (const float side : {-dropDistance, dropDistance}) {
-            Return back = {i, false, {}};
+            ReturnSpot back = {i, false, {}};
             const float y = std::clamp(hole.y + side * hole.width, courseBack, -courseBack);
-            back.found = dropInto(hole.x, y, back.spot);
+            back.found = dropMarble(hole.x, y, back.spot);
             returns.push_back(back);
         }
     }
@@ -50,9 +49,9 @@ std::vector<Return> findReturns() {
     return returns;
 }
 
-std::vector<Vector3> differentSpots(const std::vector<Return>& returns) {
+std::vector<Vector3> distinctSpots(const std::vector<ReturnSpot>& returns) {
     std::vector<Vector3> spots;
-    for (const Return& back : returns) {
+    for (const ReturnSpot& back : returns) {
         const bool known = std::any_of(spots.begin(), spots.end(), [&back](const Vector3& spot) {
             return (spot - back.spot).length() < 1.0F;
         });

@@ -1,25 +1,25 @@
-// Where the wells of the loaded level put the marble back, as the game itself does it.
+// Finds where the wells of the loaded level put the marble back, by the game's own rules.
 #pragma once
 
 #include <vector>
 
 #include "sim/vector.h"
 
-// What became of a marble that a hole caught.
-struct Return {
+// The result of dropping a marble into a hole.
+struct ReturnSpot {
     int hole;     // index of the hole
-    bool found;   // there was a clear spot; otherwise the marble stays caught for ever
-    Vector3 spot; // where it came back to
+    bool found;   // there is a clear spot; otherwise the marble stays caught forever
+    Vector3 spot; // world position after the reset
 };
 
-// How many of the level's holes findReturns looks at: all of some thousand. Trying one asks for its
-// distance to all others hundreds of times.
-int wellsTried();
+// Returns how many of the level's holes findReturnSpots tests: all, or of a large level only the
+// first. A test computes the distance to every hole hundreds of times.
+int testedHoleCount();
 
-// For each well of the course, of the holes that it looks at, the spot it returns a marble to, from the near and the far edge of
-// its catch radius in turn. Needs a started run (tools/level/level_run.h), which it leaves as it
-// was.
-std::vector<Return> findReturns();
+// Returns the spots to which the tested wells put a marble back, two for each well: from the near
+// and the far edge of its catch circle. Needs a started run (tools/level/level_run.h) and leaves
+// its state unchanged.
+std::vector<ReturnSpot> findReturnSpots();
 
-// The different spots among them, from the start on.
-std::vector<Vector3> differentSpots(const std::vector<Return>& returns);
+// Returns the spots that were found, without repetitions, in order of y.
+std::vector<Vector3> distinctSpots(const std::vector<ReturnSpot>& returns);

@@ -1,5 +1,5 @@
-// PNG files, for maps and icons. The pixels are the same everywhere; the bytes may differ with the
-// version of the compression library.
+// Writes PNG files, for maps and icons. The bytes of a file depend on the version of the
+// compression library.
 #pragma once
 
 #include <cstdint>
