@@ -1,5 +1,5 @@
-# Runs MAKER with the folder MADE and ARGUMENT, and fails unless the files in MADE/FOLDER are those
-# in COMMITTED/FOLDER: the same names, the same bytes.
+# Runs MAKER with the folder MADE and ARGUMENT, and fails unless MADE/FOLDER and COMMITTED/FOLDER
+# hold the same files: the same names, the same bytes.
 file(REMOVE_RECURSE ${MADE})
 execute_process(COMMAND ${MAKER} ${MADE} ${ARGUMENT} RESULT_VARIABLE result)
 if(NOT result EQUAL 0)
@@ -15,6 +15,6 @@ foreach(name IN LISTS made)
   execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${MADE}/${name} ${COMMITTED}/${name}
     RESULT_VARIABLE result)
   if(NOT result EQUAL 0)
-    message(FATAL_ERROR "${name} is not the committed one; build the target art")
+    message(FATAL_ERROR "${name} differs from the committed file; build the target art")
   endif()
 endforeach()

@@ -16,7 +16,7 @@ void ByteWriter::bigEndian(std::uint32_t number, int count) {
 }
 
 bool ByteWriter::writeTo(const std::filesystem::path& file) const {
-    std::error_code ignored; // a folder that is missing shows when the file is opened
+    std::error_code ignored; // without the folder, opening the file fails
     std::filesystem::create_directories(file.parent_path(), ignored);
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

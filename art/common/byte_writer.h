@@ -1,4 +1,4 @@
-// The bytes of a file, put together in memory and written at once.
+// The bytes of a file, collected in memory and written at once.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 struct ByteWriter {
     std::string bytes;
 
-    // Appends a text as it stands, without an ending zero.
+    // Appends a text without its final zero.
     void text(std::string_view letters) { bytes += letters; }
 
     // Append the lowest `count` bytes of a number, least or most significant byte first.

@@ -27,10 +27,10 @@ double naturalLogarithm(double x);
 // Returns base to the power exponent; 0 for a base of 0 or less.
 double power(double base, double exponent);
 
-// Returns x held within 0..1.
+// Returns x, clamped to 0..1.
 double clamp01(double x);
 
-// Returns the value between a (share 0) and b (share 1).
+// Returns the linear interpolation from a (share 0) to b (share 1).
 inline double lerp(double a, double b, double share) {
     return a + (b - a) * share;
 }

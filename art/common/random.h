@@ -1,4 +1,4 @@
-// Random numbers that never change: they follow from their arguments alone.
+// Pseudo-random numbers that depend only on their arguments: every run gives the same ones.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ inline double hash01(int x, int y, std::uint32_t seed) {
 
 // A sequence of random numbers: a linear congruential generator.
 struct Random {
-    std::uint32_t state; // the seed, to begin with
+    std::uint32_t state; // starts as the seed
 
     // Returns the next number, uniform in -1.0..1.0.
     double next() {

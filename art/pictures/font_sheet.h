@@ -4,8 +4,7 @@
 // the nearest texel. At full size, glyph pixel n < 128 therefore shows texel n and a later one
 // texel n + 1; texels 127 and 128 both show pixel 127. Level 0 is drawn by exactly this rule, so
 // that letters are crisp everywhere in the sheet. The smaller levels are drawn from the skeletons
-// again, each a little softer than its texels: the game shows level 1 at 13/33 of the size and
-// skips texels.
+// again, each slightly blurred: the game shows level 1 for its small text and skips texels.
 #pragma once
 
 #include <string>

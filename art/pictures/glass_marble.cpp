@@ -11,8 +11,8 @@ namespace {
 constexpr double refractiveIndex = 1.5; // of glass
 constexpr int ribbonCount = 4;
 
-// Returns the direction after a surface; `ratio` is the refractive index before it over the one
-// after it. Total internal reflection gives the reflected direction.
+// Returns the direction after refraction at a surface; `ratio` is the refractive index before it
+// divided by the one after it. Total internal reflection gives the reflected direction.
 Vector3 refract(const Vector3& direction, const Vector3& normal, double ratio) {
     const double cosine = -static_cast<double>(dot(direction, normal));
     const double rest = 1.0 - ratio * ratio * (1.0 - cosine * cosine);
@@ -43,12 +43,12 @@ RibbonSample sampleRibbons(double u, double v, double w) {
     return {1.0 - smoothstep(0.2 * thickness, thickness, aside), index};
 }
 
-// Adds the ribbons between `point` and the end of the path. Returns the share of light that they
-// let through.
+// Adds the light of the ribbons along a path from `point`. Returns the share of light that passes
+// them.
 double marchThroughRibbons(const GlassMarble& marble, const Vector3& point,
                            const Vector3& direction, double length, Colour& light) {
     constexpr int steps = 128;
-    constexpr double extinction = 60.0; // of a ribbon, for each radius of way
+    constexpr double extinction = 60.0; // of a ribbon, for each radius of length
     const Colour white = srgb(0xfff4e0);
     const Vector3 across = cross(marble.axis, Vector3(0, 0, 1)).unit();
     const Vector3 third = cross(marble.axis, across);
@@ -91,7 +91,7 @@ GlassPath GlassMarble::refractThrough(const Vector3& point, const Vector3& direc
     const auto after = [&](float shareOfDiameter) {
         return static_cast<float>(open * power(shareOfDiameter, diameters));
     };
-    const Colour glass = srgb(0xd8f4ff); // what one diameter lets through
+    const Colour glass = srgb(0xd8f4ff); // transmitted by one diameter of glass
     path.transmittance = {after(glass.red), after(glass.green), after(glass.blue)};
     path.direction = refract(inside, (centre - path.exit).unit(), refractiveIndex);
     return path;

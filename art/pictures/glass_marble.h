@@ -4,8 +4,8 @@
 #include "art/pictures/image.h"
 #include "art/pictures/ray.h"
 
-// What happens to a ray that enters a marble: where it leaves, the light that the ribbons add, and
-// the share that they and the glass let through.
+// The path of a ray through a marble: where it leaves, the light that the ribbons add, and the
+// share that they and the glass transmit.
 struct GlassPath {
     Vector3 exit;
     Vector3 direction;

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double gridWidth = tileWidth / 4; // of the fields between lines
+constexpr double gridWidth = tileWidth / 4; // of the squares between lines
 constexpr double gridDepth = tileLength / 4;
 
 double fraction(double v) {
@@ -67,7 +67,7 @@ Colour gridLight(double x, double y, const GridColours& colours) {
     return lerp(lerp(floor, colours.glow, 0.55 * glow), colours.line, line);
 }
 
-// The copper traces. They leave the tile where they enter it on the other side.
+// The copper traces. They continue across the edges of the tile.
 const Skeleton& traces() {
     static const Skeleton copper =
         readSkeleton("W 2.2 M 0 20 L 50 20 L 70 40 L 110 40 L 130 20 L 160 20 "
@@ -94,7 +94,7 @@ constexpr Lattice floeLattice{tileWidth, tileLength, 3, 2};
 constexpr Lattice plateLattice{tileWidth, tileLength, 4, 3};
 constexpr Lattice cloudLattice{tileWidth, tileLength, 8, 6};
 
-// Returns the cell of a diagram whose borders noise makes rough.
+// Returns the cell of a Voronoi diagram whose borders are roughened by noise.
 VoronoiCell roughCell(const Lattice& lattice, double x, double y, double roughness,
                       std::uint32_t seed) {
     const double dx = (fractalNoise(cloudLattice, x, y, seed + 10) - 0.5) * roughness;

@@ -42,7 +42,7 @@ std::array<double, 4> halvingKernel() {
     return weights;
 }
 
-// Halves the width and transposes the image; twice done, both sides are halved.
+// Halves the width and transposes the image; applied twice, it halves both sides.
 Image halveAndTranspose(const Image& from) {
     static const std::array<double, 4> kernel = halvingKernel();
     Image half(from.height, from.width / 2);

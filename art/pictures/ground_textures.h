@@ -1,8 +1,8 @@
 // The ground's textures: seamless tiles and their mip chains.
 //
-// The game does not light the ground and lets it end in fog. The texture alone must show slope and
-// speed, so each has a bold structure of 20 to 60 units that is still there at the 8 x 8 level.
-// Tiles that look raised are painted so.
+// The game does not light the ground, and fog hides its far end. Only the texture shows slope and
+// speed, so each has a bold structure of 20 to 60 units that is still visible at the 8 x 8 level.
+// Relief is painted.
 #pragma once
 
 #include <vector>

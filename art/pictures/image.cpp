@@ -5,6 +5,7 @@
 
 #include "art/common/byte_writer.h"
 #include "art/common/portable_math.h"
+#include "data/bitmap.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ std::uint8_t toSrgb8(float light) {
     return static_cast<std::uint8_t>(linearToSrgb(clamp01(light)) * 255.0 + 0.5);
 }
 
-// Returns the byte that the given number of bits holds nearest to a value 0..1.
+// Returns the byte nearest to a value 0..1 among those that the given number of bits can hold.
 int nearestByte(double value, int bits) {
     const int highest = (1 << bits) - 1;
     const int level = std::clamp(static_cast<int>(std::floor(value * highest + 0.5)), 0, highest);
@@ -103,25 +104,23 @@ Image8 ditherTo565(const Image& image) {
 }
 
 bool writeBitmap(const Image8& image, const std::filesystem::path& file) {
-    constexpr std::uint32_t fileHeader = 14;
-    constexpr std::uint32_t informationHeader = 40;
-    constexpr std::uint32_t headers = fileHeader + informationHeader;
+    constexpr std::uint32_t headers = bitmapFileHeaderSize + bitmapInfoHeaderSize;
     constexpr std::uint32_t pixelsPerMetre = 2835; // 72 an inch
-    const int standardRow = (image.width * 3 + 3) / 4 * 4;
-    const auto pixelBytes = static_cast<std::uint32_t>(standardRow * image.height);
+    const int standardRow = (image.width * bytesPerPixel + 3) / 4 * 4;
+    const auto dataBytes = static_cast<std::uint32_t>(standardRow * image.height);
 
     ByteWriter out;
     out.text("BM");
-    out.littleEndian(headers + pixelBytes, 4);
+    out.littleEndian(headers + dataBytes, 4);
     out.littleEndian(0, 4); // reserved
     out.littleEndian(headers, 4);
-    out.littleEndian(informationHeader, 4);
+    out.littleEndian(bitmapInfoHeaderSize, 4);
     out.littleEndian(static_cast<std::uint32_t>(image.width), 4);
     out.littleEndian(static_cast<std::uint32_t>(image.height), 4);
-    out.littleEndian(1, 2);  // planes
-    out.littleEndian(24, 2); // bits of a pixel
-    out.littleEndian(0, 4);  // not compressed
-    out.littleEndian(pixelBytes, 4);
+    out.littleEndian(1, 2);                 // planes
+    out.littleEndian(8 * bytesPerPixel, 2); // bits of a pixel
+    out.littleEndian(0, 4);                 // not compressed
+    out.littleEndian(dataBytes, 4);
     out.littleEndian(pixelsPerMetre, 4);
     out.littleEndian(pixelsPerMetre, 4);
     out.littleEndian(0, 4); // no palette
@@ -132,6 +131,6 @@ bool writeBitmap(const Image8& image, const std::filesystem::path& file) {
             out.littleEndian((pixel[0] << 16U) | (pixel[1] << 8U) | pixel[2], 3);
         }
     }
-    out.bytes.resize(headers + pixelBytes);
+    out.bytes.resize(headers + dataBytes);
     return out.writeTo(file);
 }

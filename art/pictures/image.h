@@ -22,7 +22,7 @@ Colour operator+(const Colour& a, const Colour& b);
 Colour operator*(const Colour& a, const Colour& b);
 Colour operator*(const Colour& a, double share);
 
-// Returns the colour between a (share 0) and b (share 1).
+// Returns the linear interpolation from a (share 0) to b (share 1).
 Colour lerp(const Colour& a, const Colour& b, double share);
 
 // Returns the linear light of an sRGB colour 0xRRGGBB.
@@ -50,12 +50,12 @@ using Image8 = Raster<Rgb8>;  // in sRGB bytes
 // Rounds every pixel to sRGB bytes; light above 1 is clipped.
 Image8 toSrgb8(const Image& image);
 
-// Returns the image in sRGB bytes that a display of 5-6-5 bits shows exactly, so that it has no
-// bands: error diffusion by Floyd and Steinberg, every other row from right to left.
+// Returns the image in those sRGB bytes that a display of 5-6-5 bits shows exactly, without bands:
+// error diffusion by Floyd and Steinberg, every other row from right to left.
 Image8 ditherTo565(const Image& image);
 
-// Replaces a bitmap file as the game reads them: 24 bits, uncompressed, headers of 54 bytes, bottom
-// row first. Rows are never padded. Where a width is not a multiple of 4, at the end of a mip
-// chain, the padding follows the last row, so that the file has the size that its header gives.
-// Returns false, after a message, when the file cannot be written.
+// Replaces a bitmap file in the format that the game reads (data/bitmap.h). Rows are never padded.
+// When the width is not a multiple of 4, at the end of a mip chain, the padding follows the last
+// row, so that the file has the size that its header gives. Returns false, after a message, when
+// the file cannot be written.
 bool writeBitmap(const Image8& image, const std::filesystem::path& file);

@@ -67,7 +67,7 @@ Vector3 Landscape::normalAt(double x, double y) const {
 }
 
 double Landscape::ambientOcclusion(double x, double y) const {
-    constexpr double reach = 70.0; // around the point, to see whether it is low
+    constexpr double reach = 70.0; // around the point whose height is compared
     const double around = heightAt(x - reach, y) + heightAt(x + reach, y) + heightAt(x, y - reach) +
                           heightAt(x, y + reach);
     const double below = 0.25 * around - heightAt(x, y);

@@ -1,5 +1,5 @@
-// A piece of the game's ground, to be looked at: wells and mounds, summed as the game sums them.
-// Elevations are upwards, against the depths of the game.
+// The ground of a painted scene: wells and mounds, summed as the game sums them. Elevations point
+// upwards, unlike the depths of the game.
 #pragma once
 
 #include <span>
@@ -9,7 +9,7 @@
 #include "sim/level.h"
 
 struct Landscape {
-    // Asks the game's ground field for the heights of a lattice over the visible piece.
+    // Samples the game's ground field on a lattice over the visible part.
     explicit Landscape(std::span<const Hole> holes);
 
     // Returns the elevation, smooth between the points of the lattice and constant beyond it.

@@ -2,7 +2,7 @@
 //
 // Writes GAME/graphics and the icons in the folder ICONS, replacing files. The bitmaps have the
 // same bytes on every machine. With names of pictures (font, title, back, icons, or that of a
-// ground) only these are made. Exits with 0 when every file was written.
+// ground) it makes only these. Exits with 0 when every file was written.
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -15,7 +15,8 @@
 #include "art/pictures/ground_textures.h"
 #include "art/pictures/image.h"
 #include "art/pictures/paintings.h"
-#include "data/font.h"
+#include "data/asset_files.h"
+#include "data/mip_chain.h"
 #include "tools/png/png_writer.h"
 
 namespace {
@@ -34,10 +35,6 @@ constexpr Ground grounds[] = {
     {"lava", lavaPattern},        {"ribbons", ribbonPattern},
 };
 
-path levelFile(const path& base, std::size_t level) {
-    return base.string() + "_" + std::to_string(level) + ".bmp";
-}
-
 bool writeFont(const path& game) {
     const std::vector<GlyphCell> cells = layOutGlyphs();
     if (cells.empty()) {
@@ -45,18 +42,17 @@ bool writeFont(const path& game) {
         return false;
     }
     for (int level = 0; level < fontLevels; ++level) {
-        const path file = levelFile(game / fontBaseName, static_cast<std::size_t>(level));
+        const path file = game / mipFileName(fontBaseName, level);
         if (!writeBitmap(drawFontLevel(cells, level), file)) { return false; }
     }
     return ByteWriter{fontMetrics(cells)}.writeTo(game / fontMetricsFile);
 }
 
-bool writeGround(const path& folder, const Ground& ground) {
-    const std::vector<Image> chain = groundMipChain(ground.pattern);
-    for (std::size_t level = 0; level < chain.size(); ++level) {
-        if (!writeBitmap(toSrgb8(chain[level]), levelFile(folder / ground.name, level))) {
-            return false;
-        }
+bool writeGround(const path& game, const Ground& ground) {
+    const path base = game / groundFolder / ground.name;
+    int level = 0;
+    for (const Image& image : groundMipChain(ground.pattern)) {
+        if (!writeBitmap(toSrgb8(image), mipFileName(base.string(), level++))) { return false; }
     }
     return true;
 }
@@ -87,7 +83,7 @@ bool writeIcon(const path& file, int size) {
 }
 
 bool writeIcons(const path& folder) {
-    std::error_code ignored; // writing an icon fails when there is no folder
+    std::error_code ignored; // without the folder, writing an icon fails
     std::filesystem::create_directories(folder, ignored);
     return writeIcon(folder / "glorbix.png", 256) && writeIcon(folder / "glorbix-48.png", 48);
 }
@@ -100,19 +96,18 @@ int main(int argumentCount, char** arguments) {
         return 2;
     }
     const path game = arguments[1];
-    const path graphics = game / "graphics";
     const auto wanted = [&](const std::string& picture) {
         char** end = arguments + argumentCount;
         return argumentCount == 3 || std::find(arguments + 3, end, picture) != end;
     };
     bool done = !wanted("font") || writeFont(game);
     for (const Ground& ground : grounds) {
-        done = done && (!wanted(ground.name) || writeGround(graphics / "ground", ground));
+        done = done && (!wanted(ground.name) || writeGround(game, ground));
     }
     done = done &&
-           (!wanted("title") || writeBitmap(ditherTo565(titlePainting()), graphics / "title.bmp"));
+           (!wanted("title") || writeBitmap(ditherTo565(titlePainting()), game / titlePictureFile));
     done = done &&
-           (!wanted("back") || writeBitmap(ditherTo565(backPainting()), graphics / "back.bmp"));
+           (!wanted("back") || writeBitmap(ditherTo565(backPainting()), game / backPictureFile));
     done = done && (!wanted("icons") || writeIcons(arguments[2]));
     return done ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-// Noise and cells over a tile, which repeat seamlessly with it. All follow from their arguments.
+// Noise and cells that repeat seamlessly with a tile. They depend only on their arguments.
 #pragma once
 
 #include <cstdint>
@@ -11,8 +11,8 @@ struct Lattice {
     int rows;
 };
 
-// Returns four octaves of value noise, each half as strong and twice as fine as the one before:
-// 0..1. The first has one value for each lattice cell.
+// Returns four octaves of value noise, 0..1. The first has one value for each lattice cell; each
+// next one has half the amplitude and twice the frequency.
 double fractalNoise(const Lattice& lattice, double x, double y, std::uint32_t seed);
 
 // The cell of a Voronoi diagram that holds a point. The diagram has one centre, at a random place,
@@ -24,6 +24,7 @@ struct VoronoiCell {
     double tone; // random, 0..1, one value for the whole cell
 };
 
-// `scatter` 0 puts the centres on the lattice, 1 anywhere in their lattice cell.
+// Returns the cell at a point. `scatter` 0 puts each centre in the middle of its lattice cell, 1
+// anywhere in it.
 VoronoiCell voronoiCell(const Lattice& lattice, double x, double y, double scatter,
                         std::uint32_t seed);

@@ -2,12 +2,12 @@
 
 #include "art/pictures/ground_textures.h"
 #include "art/pictures/scene.h"
+#include "sim/projection.h"
+#include "state/screen.h"
 
 namespace {
 
-constexpr int screenWidth = 640; // of the game, in pixels
-constexpr int screenHeight = 480;
-constexpr double gameFocalLength = 400.0 / screenWidth; // of the game's own view
+constexpr double gameFocalLength = focalLength / screenWidth; // of the game's own view
 
 Sky duskSky() {
     return {.zenith = srgb(0x080a2c),
@@ -42,7 +42,7 @@ GlassMarble marbleAt(const Landscape& land, float x, float y, double radius, Col
     return {centre, radius, Vector3(0.80F, -0.22F, 0.55F).unit(), ribbon};
 }
 
-// Wells and mounds in front, and hills against the last light.
+// Wells and mounds in the foreground, hills at the horizon.
 constexpr Hole titleLand[] = {
     {-330, 330, 70, 190},     {420, 700, 90, 230},      {-60, 760, 80, 200},
     {-620, 900, 120, 260},    {820, 1150, 130, 280},    {180, 1250, 100, 240},

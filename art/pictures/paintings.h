@@ -3,11 +3,11 @@
 
 #include "art/pictures/image.h"
 
-// The title screen: the game's name over its land at dusk, a marble in front. The middle is calm
-// and dark, for the menu.
+// The title screen: the game's name over the ground at dusk, a marble in front. The middle has
+// little detail and is dark, for the menu.
 Image titlePainting();
 
-// The background of the best times: the same land at night, calm all over.
+// The background of the best times: the same ground at night, with little detail.
 Image backPainting();
 
 // The game's icon: a marble at the rim of a well.

@@ -46,7 +46,7 @@ Colour trilinear(const std::vector<Image>& chain, double x, double y, double foo
 
 Colour trace(const Scene& scene, const Ray& ray);
 
-// What the marbles do to the light on the ground: they take away sun and sky, and gather the sun
+// The effect of the marbles on the light of the ground: they block sun and sky, and focus the sun
 // to a bright spot in the middle of each shadow.
 struct MarbleShadow {
     double sun = 1.0;
@@ -93,7 +93,7 @@ Colour shadeGround(const Scene& scene, const Ray& ray, double distance) {
     return lerp(sky.haze, paint * light + emitted, transmittance);
 }
 
-// Returns the reflection of the sun by something polished.
+// Returns the sun's reflection in a polished surface.
 Colour highlight(const Sky& sky, const Vector3& reflected, double sharpness) {
     const double towards = std::max(0.0F, dot(reflected, sunDirection));
     return sky.sunlight * (3.0 * power(towards, sharpness));
@@ -135,7 +135,7 @@ Colour shadeMarble(const Scene& scene, const GlassMarble& marble, const Ray& ray
            highlight(sky, direction, 12.0) * 0.05;
 }
 
-// Returns the light that comes back along a ray.
+// Returns the light that arrives along a ray.
 Colour trace(const Scene& scene, const Ray& ray) {
     double nearest = scene.land.hit(ray, farAway);
     if (nearest < 0.0) { nearest = farAway; }

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr double tracking = 1.0;      // glyph pixels added between letters
-constexpr double margin = 8.0;        // glyph pixels around the word in which distances are known
+constexpr double margin = 8.0;        // glyph pixels around the word that the grid covers
 constexpr double cellsPerPixel = 5.0; // of the grid of distances
 
 // Returns the skeleton of a letter as lines without width.

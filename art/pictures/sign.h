@@ -1,5 +1,5 @@
-// A word of the game's typeface as a solid body: the strokes are thick round tubes that stand
-// upright in a scene and face -y.
+// A word of the game's typeface as a solid: the strokes are round tubes in an upright plane that
+// faces -y.
 #pragma once
 
 #include <string_view>
@@ -9,7 +9,7 @@
 #include "art/pictures/ray.h"
 
 struct Sign {
-    // Stands with its baseline at `foot`, which is under the middle of the word.
+    // The middle of the word's baseline is at `foot`.
     Sign(std::string_view word, const Vector3& foot);
 
     // Returns the distance along the ray to the nearest tube, or -1.

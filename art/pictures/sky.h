@@ -17,7 +17,7 @@ struct Sky {
     // Returns the light of the sky from a unit direction; below the horizon, the haze.
     Colour lightFrom(const Vector3& direction) const;
 
-    // Returns the share of an object's light that the haze lets through over a distance.
+    // Returns the share of light that the haze transmits over a distance.
     double transmittance(double distance) const;
 };
 

@@ -74,8 +74,8 @@ double distanceTo(const Stroke& stroke, const Point& point) {
     return std::sqrt(ox * ox + oy * oy) - stroke.radius;
 }
 
-// Each character is a line: the character, its width, its path. A line that starts with a blank
-// continues the one before.
+// Reads one line for each character: the character, its width, its path. A line that starts with a
+// blank continues the previous one.
 std::vector<LetterShape> readTypeface() {
     std::vector<LetterShape> shapes;
     std::ifstream in(GLORBIX_TYPEFACE);
@@ -90,7 +90,8 @@ std::vector<LetterShape> readTypeface() {
         shapes.push_back(shape);
     }
     if (shapes.empty() || shapes.back().character != lastCharacter) {
-        std::cerr << GLORBIX_TYPEFACE ": not every character is there, in order of the codes\n";
+        std::cerr << GLORBIX_TYPEFACE
+            ": characters are missing or not in the order of their codes\n";
         std::exit(1);
     }
     return shapes;

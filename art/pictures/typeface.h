@@ -5,7 +5,7 @@
 // between the centres of its strokes: capitals are 21 high, small letters 14; descenders go to -6.
 //
 // The text of a skeleton is a sequence of commands, each a letter and numbers, separated by blanks.
-// Each starts at the end of the one before. Units are glyph pixels, x to the right from the left
+// Each starts at the end of the previous one. Units are glyph pixels, x to the right from the left
 // edge of the glyph, y UP from the baseline, which is the middle of a stroke that lies on it.
 //
 //   M x y              move to (x, y) without drawing
@@ -25,7 +25,7 @@ struct Point {
     double y;
 };
 
-// A straight piece with round ends; a dot is one of no length.
+// A straight piece with round ends; a dot has length 0.
 struct Stroke {
     Point from;
     Point to;
@@ -34,8 +34,7 @@ struct Stroke {
 
 using Skeleton = std::vector<Stroke>;
 
-// Reads a skeleton, its curves as short straight pieces. Ends at the first command that is not as
-// above.
+// Reads a skeleton, with curves as short straight pieces, up to the first malformed command.
 Skeleton readSkeleton(const std::string& text);
 
 // Returns the distance from the point to the ink, negative inside it; a large number when the

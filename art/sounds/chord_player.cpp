@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "art/sounds/score.h"
+#include "art/sounds/score_error.h"
 
 namespace {
 
@@ -15,7 +15,8 @@ int pitchAbove(int lowest, int pitchClass) {
     return lowest + ((pitchClass - lowest) % 12 + 12) % 12;
 }
 
-// Returns how far the voices are from the nearest ones of the previous chord, in semitones.
+// Returns the sum of the distances of the voices from the nearest ones of the previous chord, in
+// semitones.
 int movementFrom(const std::vector<int>& previous, const std::vector<int>& pitches) {
     int sum = 0;
     for (const int pitch : pitches) {
@@ -28,7 +29,7 @@ int movementFrom(const std::vector<int>& previous, const std::vector<int>& pitch
     return sum;
 }
 
-// Returns how bad a voicing is; a semitone between two voices is as bad as five of movement.
+// Returns the cost of a voicing; a semitone between two voices costs as much as five of movement.
 int costOf(const std::vector<int>& pitches, const std::vector<int>& previous, int lowest,
            int highest) {
     const int middle = (lowest + highest) / 2;
@@ -62,7 +63,7 @@ std::vector<int> voice(const Chord& chord, const std::vector<int>& previous, int
     return best;
 }
 
-// Plays hits in order of time, with the voicing of the chord before in mind.
+// Plays hits in order of time; each voicing follows from the previous one.
 struct ChordPlayer {
     const std::vector<Chord>& chords;
     int lowest;
@@ -86,7 +87,7 @@ struct ChordPlayer {
     }
 
     std::vector<int> pitchesOf(char sign, std::size_t chord) {
-        // Every chord on the way counts, so that the voices move on where the part is silent.
+        // Voices every chord, also where the part is silent, so that the voices keep moving.
         while (voicedChord != chord) {
             ++voicedChord;
             voicing = voice(chords[voicedChord], voicing, lowest, highest);

@@ -23,7 +23,7 @@ struct Cue {
 struct HornShape {
     double length;        // seconds
     double brightness;    // 0.0 .. 1.0, level of each overtone against the one below it
-    double bend = 0.0;    // semitones by which the pitch has changed at the end
+    double bend = 0.0;    // change of the pitch at the end, in semitones
     double vibrato = 0.0; // its depth at the end, in semitones
     double fall = 0.35;   // share of the length in which the tone fades out
 };
@@ -54,12 +54,12 @@ double frequencyOf(double pitch) {
     return 440.0 * powerOfTwo((pitch - 69.0) / 12.0);
 }
 
-// Rises from 0 to 1 along half a cosine while x does.
+// Returns half a cosine that rises from 0 to 1 while x does.
 double halfCosine(double x) {
     return 0.5 - 0.5 * sineOfTurns(0.25 + 0.5 * clamp01(x));
 }
 
-// An envelope that rises in `attack` seconds and falls by half every `halfLife`.
+// Returns an envelope that rises in `attack` seconds and falls by half every `halfLife`.
 double decay(double time, double attack, double halfLife) {
     return halfCosine(time / attack) * powerOfTwo(-time / halfLife);
 }

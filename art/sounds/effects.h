@@ -6,11 +6,11 @@
 // A step in the menu, a typed letter: the tick of a glass marble, a tenth of a second.
 SoundBuffer menuTick();
 
-// The marble may roll: a leap upwards into a bright open chord.
+// The marble is free: a leap upwards into a bright open chord.
 SoundBuffer startSignal();
 
 // The time is over: three falling tones, the last of which sinks.
 SoundBuffer timeUp();
 
-// The goal is reached: glass bells run up a chord and let it ring.
+// The goal is reached: glass bells play a rising chord that rings on.
 SoundBuffer goalReached();

@@ -10,6 +10,7 @@
 #include <vector>
 
 inline constexpr int ticksPerQuarter = 480;
+inline constexpr int ticksPerBar = 4 * ticksPerQuarter;
 
 enum class MidiText : std::uint8_t {
     Copyright = 2,

@@ -4,7 +4,8 @@
 #include <cctype>
 #include <sstream>
 
-#include "art/sounds/score.h"
+#include "art/sounds/midi_writer.h"
+#include "art/sounds/score_error.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ const Quality qualities[] = {
     {"13", {0, 4, 10, 9}}, {"7sus4", {0, 5, 7, 10}}, {"9sus4", {0, 5, 10, 2}},
 };
 
-// Takes a sign from the front of the text if it is there.
+// Takes a sign from the front of the text. Returns whether it was there.
 bool take(std::string& text, char sign) {
     const bool there = !text.empty() && text[0] == sign;
     text.erase(0, there ? 1 : 0);
@@ -39,7 +40,8 @@ int takePitchClass(std::string& text) {
     return take(text, 'b') ? (pitchClass + 11) % 12 : pitchClass;
 }
 
-// Takes a length like ":8." from the front of the text. Returns it in ticks; without one, `before`.
+// Takes a length like ":8." from the front of the text. Returns it in ticks, or `before` without
+// one.
 int takeLength(std::string& text, int before) {
     if (!take(text, ':')) { return before; }
     const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
@@ -76,7 +78,7 @@ Chord readChord(std::string word, int start, int length, int transpose) {
     return chord;
 }
 
-// Returns the bars of a rhythm without blanks, each as often as it is to be played.
+// Returns the bars of a rhythm without blanks, repeated as they say.
 std::vector<std::string> readBars(const std::string& text) {
     std::vector<std::string> bars;
     std::istringstream in(text);

@@ -1,5 +1,5 @@
-// Reads melodies, chord symbols and rhythms, each from a text. All are counted in ticks from the
-// beginning of a section. Mistakes end the program (refuse in score.h).
+// Reads melodies, chord symbols and rhythms from texts. Times are in ticks from the beginning of a
+// section. Mistakes end the program (score_error.h).
 #pragma once
 
 #include <string>
@@ -28,17 +28,17 @@ struct Hit {
 
 // Reads a melody: pitches like c4 (middle c) or f#5, and r for a rest. A length such as :4 :8. :8t
 // (a quarter, a dotted eighth, a triplet eighth) holds until the next one. After the length: ~ ties
-// to the next note, ' is short. | ends a bar, which must be full. All are
-// separated by blanks.
+// to the next note, ' is short. | ends a bar, which must be full. All of these
+// are separated by blanks.
 std::vector<WrittenNote> readMelody(const std::string& text, int barCount);
 
 // Reads chord symbols: "D | G/A | Em7 A7 | Bm . . A". The chords of a bar share it evenly; '.'
-// repeats the one before. The bass follows '/' where it is not the root.
+// repeats the previous one. The bass follows '/' where it is not the root.
 std::vector<Chord> readChords(const std::string& text, int transpose);
 
-// Reads a rhythm: each bar has as many steps as signs. '.' is silence, '-' holds the sign before.
+// Reads a rhythm: each bar has as many steps as signs. '.' is silence, '-' holds the previous sign.
 // Bars are separated by '|'; "*3" after a bar plays it three times. A rhythm repeats until it fills
-// that many bars.
+// `barCount` bars.
 std::vector<Hit> readRhythm(const std::string& text, int barCount);
 
 // Plays the signs of a rhythm on chords (chord_player.cpp):

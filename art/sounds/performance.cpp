@@ -22,7 +22,8 @@ void setUpChannel(const Part& part, MidiTrack& track) {
     }
 }
 
-// Moves the second eighth of a quarter to its swung place and stretches the first to match.
+// Returns a tick moved by the swing, which lengthens the first eighth of a quarter and shortens the
+// second.
 int swingTick(int tick, double swing) {
     const int within = tick % ticksPerQuarter;
     const double share = within < eighth ? within * swing / eighth
@@ -30,7 +31,7 @@ int swingTick(int tick, double swing) {
     return tick - within + static_cast<int>(std::lround(share * ticksPerQuarter));
 }
 
-// Returns what the place in the bar adds to a note's velocity.
+// Returns the change of a note's velocity by its place in the bar.
 int metricAccent(int tick) {
     if (tick % ticksPerBar == 0) { return 5; }
     if (tick % ticksPerQuarter == 0) { return 1; }

@@ -1,5 +1,5 @@
-// Plays a score as players would: the first quarter of a bar is louder than the second, a quarter
-// louder than what is between, and no two notes are quite equal. The random numbers are fixed, so a
+// Plays a score as musicians would: the first quarter of a bar is louder than the others, a quarter
+// louder than the notes between, and velocities vary slightly. The random numbers are fixed, so a
 // score always sounds the same.
 #pragma once
 

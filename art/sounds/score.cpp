@@ -2,15 +2,13 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iostream>
 #include <map>
 #include <sstream>
 
 #include "art/sounds/notation.h"
+#include "art/sounds/score_error.h"
 
 namespace {
-
-std::string place; // "file:line" of what is being read, for refuse
 
 // The drums of General MIDI that the scores use, by their keys.
 const std::map<std::string, int> drumKeys = {
@@ -151,7 +149,7 @@ struct ScoreReader {
         return velocityAtStart + (velocityAtEnd - velocityAtStart) * tick / (score.length - start);
     }
 
-    // Reads how loud the line is, "mf" or "p..f", what kind it is, and the line itself.
+    // Reads the dynamics of the line, "mf" or "p..f", its kind, and its text.
     void readMusic(Part& part, std::istringstream& in) {
         std::string dynamics;
         std::string kind;
@@ -171,9 +169,9 @@ struct ScoreReader {
         }
     }
 
-    // A melody gets louder as it rises above its mean pitch, by half a step for each semitone.
+    // A melody gets louder above its mean pitch, by one velocity step for two semitones.
     void addMelody(Part& part, const std::string& text, int shift) {
-        constexpr int mostSwell = 6;
+        constexpr int maxSwell = 6;
         const std::vector<WrittenNote> notes = readMelody(text, barCount);
         int sum = 0;
         for (const WrittenNote& note : notes) {
@@ -181,7 +179,7 @@ struct ScoreReader {
         }
         for (const WrittenNote& note : notes) {
             const int above = note.pitch - sum / static_cast<int>(notes.size());
-            const int swell = std::clamp(above / 2, -mostSwell, mostSwell);
+            const int swell = std::clamp(above / 2, -maxSwell, maxSwell);
             part.notes.push_back({start + note.start, note.length, note.pitch + transpose + shift,
                                   velocityAt(note.start) + swell});
         }
@@ -203,7 +201,7 @@ struct ScoreReader {
         }
     }
 
-    // Adds drums, each with its rhythm, separated by '/': x, X accented, o barely touched.
+    // Adds drums, each with its rhythm, separated by '/': x, X accented, o very soft.
     void addDrums(Part& part, const std::string& text) {
         constexpr int ghostPercent = 55;
         std::istringstream rows(text);
@@ -224,27 +222,22 @@ struct ScoreReader {
 } // namespace
 
 Score readScore(const std::filesystem::path& file) {
-    place = file.string();
+    scorePlace = file.string();
     std::ifstream in(file);
     if (!in) { refuse("cannot be read"); }
     ScoreReader reader;
     std::string statement;
     int number = 0;
-    // A line that starts with a blank continues the one before. '#' starts a comment.
+    // A line that starts with a blank continues the previous one. '#' starts a comment.
     for (std::string line; std::getline(in, line);) {
         ++number;
         if (!line.starts_with(' ')) {
             reader.readLine(statement);
             statement.clear();
-            place = file.string() + ":" + std::to_string(number);
+            scorePlace = file.string() + ":" + std::to_string(number);
         }
         statement += line.starts_with('#') ? "" : line;
     }
     reader.readLine(statement);
     return reader.score;
-}
-
-void refuse(const std::string& reason) {
-    std::cerr << place << ": " << reason << '\n';
-    std::exit(1);
 }

@@ -11,7 +11,7 @@ namespace {
 struct Echo {
     double delay; // seconds
     double level; // of the wetness
-    bool crossed; // heard on the other side
+    bool crossed; // to the other side
 };
 
 // Delays without a common divisor, so that the echoes do not add up to a tone.

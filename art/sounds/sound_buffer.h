@@ -1,4 +1,4 @@
-// A stereo sound of fixed length, and what is done to it as a whole.
+// A stereo sound of fixed length.
 //
 // Make a SoundBuffer, add samples to it, add reverb, master it, write it to a file.
 #pragma once
@@ -12,7 +12,7 @@ struct SoundBuffer {
     std::vector<double> left;
     std::vector<double> right;
 
-    // A silent sound of that many seconds.
+    // Makes a silent sound of that many seconds.
     explicit SoundBuffer(double seconds);
 
     // Adds a sample at a place; pan is -1.0 left .. 1.0 right. Samples beyond the end are dropped.
