@@ -39,27 +39,17 @@ TEST_F(LevelFile, FillsTheLevelAndColoursTheMarble) {
 
 TEST_F(LevelFile, BuildsTheMeshOverTheHoles) {
     ASSERT_TRUE(load("holecount= 1 .data 0 0 30 100 .end"));
-    const auto expectVertex = [](int column, int row, float x, float y, double s, double t) {
-        const auto i = static_cast<std::size_t>(row * 50 + column);
-        expectVector(level.groundPoints[i], x, y, level.heightAt(x, y), 0);
-        EXPECT_EQ(level.groundTexCoords[i].x, s);
-        EXPECT_EQ(level.groundTexCoords[i].y, t);
-    };
-    expectVertex(0, 0, -750, -6000, -4.6875, -50);
-    expectVertex(25, 200, 0, 0, 0, 0);
-    expectVertex(49, 399, 720, 5970, 4.5, 49.75);
-    EXPECT_NEAR(level.groundPoints[200 * 50 + 25].z, 100, 1e-4);
+    expectVector(level.groundPoints[0], -750, -6000, level.heightAt(-750, -6000), 0);
+    expectVector(level.groundPoints[200 * 50 + 25], 0, 0, 100);
+    expectVector(level.groundPoints[399 * 50 + 49], 720, 5970, level.heightAt(720, 5970), 0);
+    EXPECT_TRUE(level.groundTexCoords[0].x == -4.6875F && level.groundTexCoords[0].y == -50);
 }
 
 TEST_F(LevelFile, MakesTheGroundTexture) {
     ASSERT_TRUE(load("texturefile= ground"));
-    EXPECT_EQ(drawn(), calls(call("glAreTexturesResident", 1, 1)) +
-                           uploadOf(1, 3, 128, 8, GL_REPEAT, GL_LINEAR, GL_LINEAR_MIPMAP_LINEAR));
-    machine.drawn.clear();
-    machine.textureIsResident = true;
+    EXPECT_EQ(count({"glTexImage2D", 7, 3, 1, 1, 0, GL_RGB, GL_UNSIGNED_BYTE, 8}), 1);
     ASSERT_TRUE(load("texturefile= ground texturefile= ground"));
-    EXPECT_EQ(count(drawn(), call("glDeleteTextures", 1, 1)), 2);
-    EXPECT_EQ(count(drawn(), "glTexImage2D"), 16);
+    EXPECT_EQ(count("glTexImage2D"), 24);
 }
 
 TEST_F(LevelFile, SaysWhyItIsRefused) {
@@ -105,35 +95,11 @@ TEST_F(LevelFile, EndsDirectlyAfterItsLastToken) {
     EXPECT_EQ(boxes(), Lines{});
 }
 
-TEST_F(LevelFile, RefusesTokensThatAreTooLong) {
-    for (const std::size_t length : {250U, 255U, 256U, 5000U}) {
-        EXPECT_FALSE(load("texturefile= " + std::string(length, 'b'))) << length;
-        EXPECT_FALSE(load(std::string(length, 'k') + " 1")) << length;
-    }
+TEST_F(LevelFile, NamesABaseOfAtMost249Bytes) {
+    EXPECT_FALSE(load("texturefile= " + std::string(5000, 'b')));
+    EXPECT_FALSE(load(std::string(256, 'k') + " 1"));
     const std::string base = "deep/" + std::string(244, 'b');
     writeMipChain(base, 128, 1);
-    EXPECT_FALSE(load("texturefile= " + base));
-    EXPECT_EQ(boxes().back(), base + "_1.bmp | error | nobody");
-}
-
-TEST_F(LevelFile, KeepsWhatItReadBeforeAFailure) {
-    ASSERT_TRUE(load("holecount= 1 .data 1 2 3 4 .end"));
-    machine.drawn.clear();
-    EXPECT_FALSE(load("fogcolor= 0x0000FF texturefile= ground what"));
-    EXPECT_EQ(level.getFogColourCode(), 255U);
-    EXPECT_EQ(count(drawn(), "glTexImage2D"), 8);
-    EXPECT_EQ(level.holeCount, 0);
-    EXPECT_TRUE(!level.holes && !level.groundPoints && !level.groundScreen);
-    EXPECT_EQ(level.heightAt(1, 2), 0);
-}
-
-TEST_F(LevelFile, GivesUpWhenMemoryRunsOut) {
-    failAllocation(9 * sizeof(Hole), 1);
-    EXPECT_FALSE(load("holecount= 9"));
-    for (int nth = 1; nth <= 3; ++nth) {
-        failAllocation(20000 * sizeof(Vector3), nth);
-        EXPECT_FALSE(load("fogcolor= 1")) << nth;
-    }
-    EXPECT_EQ(boxes(), Lines(4, "out of memory | error | nobody"));
-    EXPECT_TRUE(load("fogcolor= 1"));
+    EXPECT_FALSE(load("texturefile= " + base) || load("texturefile= " + base + 'b'));
+    EXPECT_EQ(boxes(), (Lines{base + "_1.bmp | error | nobody", base + "b | error | nobody"}));
 }

@@ -1,70 +1,179 @@
-// Whole runs, from the start of the program to its end: the player sits at the idle moments.
-#include <functional>
-
+// Levels against their clocks, the penalty, what leads from one level to the next, and a whole run.
 #include "data/best_times.h"
 #include "fakes/play.h"
+#include "sim/camera.h"
 
 namespace {
 
-// What the player waits for, and does then.
-struct Scene {
-    std::function<bool()> when;
-    std::function<void()> then;
+struct LevelRun : Story {
+    LevelRun() {
+        writeGameFiles({levelText({{0, -5800, 40, -30}}), levelText({})});
+        EXPECT_TRUE(startUp());
+        startGame();
+        machine.lines.clear();
+    }
+
+    static void putAtGoal() { marble.setPosition({0, 5800.5F, 0}); }
 };
 
-// Plays the program through the scenes, an eighth of a second a turn.
-int play(std::deque<Scene> scenes) {
-    const int exitCode = runProgram([&] {
-        passTime(0.125);
-        machine.drawn.clear();
-        if (scenes.empty() || !scenes.front().when()) { return; }
-        scenes.front().then();
-        scenes.pop_front();
-    });
-    EXPECT_TRUE(scenes.empty()) << scenes.size() << " scenes were never reached";
-    return exitCode;
-}
+// The "-5" that flies from the marble to the clock: on level ground, seen by a camera that has
+// settled, and paused.
+struct PenaltyLabel : Story {
+    PenaltyLabel() {
+        playLevel();
+        Game.cameraLag = 0;
+        Game.holdTime = 10;
+        marble.setPosition({0, 0, 0});
+        ticks(3, 0.5);
+        pressKey(VK_F12);
+        Game.penaltyPending = 1;
+    }
 
-std::function<bool()> shows(Screen screen) {
-    return [screen] { return Game.screen == screen && !Game.menuOpen; };
-}
-
-std::function<bool()> playsLevel(int number) {
-    return [number] { return Game.screen == Screen::Level && Game.levelNumber == number; };
-}
-
-std::function<void()> keys(const std::vector<int>& pressed) {
-    return [pressed] {
-        for (const int key : pressed) {
-            queueMessage(WM_KEYDOWN, key);
-        }
-    };
-}
-
-const auto newGame = keys({VK_ESCAPE, VK_RETURN});
-const auto quit = keys({VK_ESCAPE, VK_UP, VK_RETURN});
-
-struct Run : Story {
-    Run() { writeGameFiles({levelText({}), levelText({})}); }
+    static std::vector<Text> labels() {
+        std::vector<Text> found = textsDrawn();
+        std::erase_if(found, [](const Text& text) { return text.text != "-5"; });
+        return found;
+    }
 };
 
 } // namespace
 
-TEST_F(Run, ByGoalIsNamedAndSaved) {
-    EXPECT_EQ(play({{shows(Screen::Title), newGame},
-                    {playsLevel(1), [] { hold(VK_UP); }},
-                    {playsLevel(2), [] {}},
-                    {shows(Screen::NameEntry), keys({'J'})},
-                    {[] { return Game.nameCursor == 1; }, keys({'O'})},
-                    {[] { return Game.nameCursor == 2; }, keys({'E'})},
-                    {shows(Screen::BestTimes), keys({VK_SPACE})},
-                    {shows(Screen::Title), quit}}),
-              0);
+TEST_F(LevelRun, BeginsWithALongCountDown) {
+    EXPECT_TRUE(Game.screen == Screen::Level && Game.levelNumber == 1);
+    EXPECT_EQ(Game.clock, 52);
+    expectVector(marble.getPosition(), 0, -5800, -30);
+    expectVector(cameraPosition, 0, -8800, -6030);
+    hold(VK_UP);
+    ticks(55, 0.125);
+    EXPECT_EQ(Game.clock, 45.125F);
+    EXPECT_EQ(sounds(), Lines{});
+    ticks(30, 0.125);
+    EXPECT_EQ(sounds(), Lines{"sounds/go.wav"});
+}
+
+TEST_F(LevelRun, LeadsToTheNextLevelASecondAfterTheGoal) {
+    Game.clock = 0.5F;
+    Game.goPlayed = 1;
+    Game.turbo = 1;
+    Game.holdTime = 0.5F;
+    putAtGoal();
+    tick(0.25);
+    EXPECT_EQ(Game.levelTimes[0], 44.75F);
+    ticks(4, 0.25);
+    EXPECT_EQ(Game.levelNumber, 1);
+    tick(0.125);
+    EXPECT_EQ(Game.levelNumber, 2);
+    EXPECT_TRUE(!Game.levelDone && Game.clock == 46.5F && Game.turbo == 5 && Game.holdTime == 0);
+    expectVector(marble.getPosition(), 0, -5800, 0);
+    EXPECT_EQ(marble.velocity.length(), 0);
+    ticks(12, 0.125);
+    EXPECT_EQ(sounds(), (Lines{"sounds/allright.wav", "sounds/go.wav"}));
+}
+
+TEST_F(LevelRun, EndsFourSecondsAfterTheTimeIsUp) {
+    bestTimes.slots[0].time = 90;
+    Game.goPlayed = 1;
+    Game.clock = 0.25F;
+    tick(0.25);
+    EXPECT_EQ(sounds(), Lines{});
+    ticks(16, 0.25);
+    EXPECT_EQ(sounds(), Lines{"sounds/timeup.wav"});
+    EXPECT_TRUE(Game.clock == -4 && Game.levelNumber == 1);
+    tick(0.25);
+    EXPECT_TRUE(Game.levelNumber == 3 && Game.stopped && Game.levelDone);
+    EXPECT_EQ(Game.screen, Screen::NameEntry); // 90 seconds are the best of the table
+    EXPECT_EQ(Game.newBestEntry, 1);           // but for the runs that had them before
+    send(WM_GAME_START_LEVEL);                 // one too many enters nothing twice
+    EXPECT_TRUE(Game.screen == Screen::BestTimes && Game.newBestEntry == -1);
+    EXPECT_EQ(bestTimes.slots[2].time, 110);
+
+    startGame(); // the next run has its signals again
+    tick(0.25);
+    machine.lines.clear();
+    Game.clock = 0.25F;
+    ticks(2, 0.25);
+    EXPECT_EQ(sounds(), (Lines{"sounds/go.wav", "sounds/timeup.wav"}));
+}
+
+TEST_F(LevelRun, SkipsALevelWithF1) {
+    passTime(3); // loading takes no time from the player
+    pressKey(VK_F1);
+    tick(0.125);
+    EXPECT_TRUE(Game.levelNumber == 2 && Game.levelTimes[0] == 45 && Game.clock == 46.375F);
+    Game.clock = 20;
+    putAtGoal();
+    tick(0.5);
+    pressKey(VK_F1); // sooner than the second after the goal
+    EXPECT_EQ(Game.screen, Screen::NameEntry);
+    EXPECT_EQ(Game.levelTimes[1], 25.5F);
+    tick(0.1);
+    EXPECT_EQ(Game.nameCursor, 0); // the F1 is no letter of the name
+    startGame();
+    EXPECT_EQ(Game.levelTimes[1], 45); // no level of the next run is finished
+}
+
+TEST_F(LevelRun, WaitsForTheMenuToClose) {
+    const float clock = Game.clock;
+    pressKey(VK_ESCAPE);
+    send(WM_GAME_START_LEVEL);
+    ticks(10, 0.25);
+    EXPECT_TRUE(Game.levelNumber == 1 && Game.clock == clock);
+    send(WM_KILLFOCUS); // the clock runs again once the window has the focus, menu or not
+    send(WM_SETFOCUS);
+    Game.clock = -3.9F;
+    ticks(3, 0.25);
+    EXPECT_EQ(Game.screen, Screen::Level);
+    pressKey(VK_ESCAPE);
+    tick(0.25);
+    EXPECT_EQ(Game.screen, Screen::NameEntry);
+}
+
+TEST_F(LevelRun, EndsTheProgramWhenALevelCannotBeLoaded) {
+    writeFile("maps/2.map", "oops");
+    pressKey(VK_F1);
+    EXPECT_EQ(boxes(), (Lines{"maps/2.map contains a unknown tokenoops | error | nobody",
+                              "Unable to initialize map | error | window"}));
+    EXPECT_TRUE(machine.quitPosted && machine.quitCode == 0);
+}
+
+TEST_F(PenaltyLabel, GrowsFromTheMarbleToTheClockAndTakesFourSeconds) {
+    constexpr std::array<double, 4> red = {1, 0, 0, 1};
+    Game.clock = 3;
+    const Text expected[] = {{"-5", 326.667, 293.551, 0.3, red},
+                             {"-5", 320, 251.615, 0.4, red},
+                             {"-5", 313.333, 209.679, 0.5, red}};
+    for (const Text& text : expected) {
+        tick(0.1);
+        EXPECT_EQ(labels(), std::vector<Text>{text});
+    }
+    EXPECT_EQ(Game.clock, 3);
+    tick(0.5);
+    EXPECT_EQ(Game.clock, -1);
+    EXPECT_FLOAT_EQ(Game.penaltyFade, 0.7F);
+    tick(0.25);
+    EXPECT_EQ(labels().size(), 0U);
+    EXPECT_EQ(Game.clock, -1);
+}
+
+TEST_F(Story, OfARunThatIsNamedAndSaved) {
+    writeGameFiles({levelText({}), levelText({})});
+    ASSERT_TRUE(startUp());
+    startGame();
+    hold(VK_UP);
+    for (int turn = 0; turn < 1000 && Game.screen == Screen::Level; ++turn) {
+        tick(0.125);
+    }
+    ASSERT_EQ(Game.screen, Screen::NameEntry);
+    for (const int key : {'J', 'O', 'E'}) {
+        pressKey(key);
+        tick(0.125);
+    }
+    EXPECT_EQ(Game.screen, Screen::BestTimes);
+    pressKeys({VK_SPACE, VK_ESCAPE, VK_UP, VK_RETURN}); // back to the title, then "Quit"
+    EXPECT_TRUE(machine.quitPosted && machine.devices.empty() && boxes().empty());
     // Driving straight over level ground takes 14.5 seconds a level.
     EXPECT_EQ(readFile("highScore.dat"), "29 JOE 100 aaa 110 bbb 120 ccc 130 ddd 140 eee 150 "
                                          "fff 160 ggg 170 hhh 180 iii ");
-    EXPECT_EQ(boxes(), Lines{});
-    EXPECT_TRUE(machine.devices.empty());
     const std::string menu = "sounds/menu.wav", go = "sounds/go.wav", goal = "sounds/allright.wav";
     EXPECT_EQ(sounds(),
               (Lines{menu, menu, go, goal, go, goal, menu, menu, menu, menu, menu, menu}));

@@ -1,7 +1,5 @@
 #include "fakes/play.h"
 
-#include <GL/gl.h>
-
 #include <cstring>
 #include <new>
 
@@ -48,21 +46,6 @@ void expectVector(const Vector3& v, double x, double y, double z, double toleran
     EXPECT_NEAR(v.z, z, tolerance);
 }
 
-GlCalls uploadOf(int texture, int internalFormat, int size, int levels, int wrap, int magnification,
-                 int minification) {
-    GlCalls upload =
-        calls(on(GL_TEXTURE_2D), call("glBindTexture", GL_TEXTURE_2D, texture),
-              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, wrap),
-              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, wrap),
-              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, magnification),
-              call("glTexParameterf", GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, minification));
-    for (int k = 0; k < levels; ++k) {
-        upload.emplace_back("glTexImage2D", GL_TEXTURE_2D, k, internalFormat, size >> k, size >> k,
-                            0, GL_RGB, GL_UNSIGNED_BYTE, k + 1);
-    }
-    return upload;
-}
-
 bool startUp() {
     Game.window = theWindow;
     send(WM_CREATE);
@@ -80,21 +63,13 @@ int runProgram(const std::function<void()>& whenIdle) {
     return WinMain(nullptr, nullptr, nullptr, SW_SHOW);
 }
 
-void queueMessage(UINT message, int wParam) {
-    machine.queue.push_back(MSG{theWindow, message, static_cast<WPARAM>(wParam), 0, 0, {0, 0}});
-}
-
-void handleMessages() {
-    while (!machine.queue.empty()) {
-        MSG message;
-        PeekMessageA(&message, theWindow, 0, 0, PM_REMOVE);
-        DispatchMessageA(&message);
-    }
-}
-
 LRESULT send(UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = GameWindowProc(theWindow, message, wParam, lParam);
-    handleMessages();
+    while (!machine.queue.empty()) {
+        MSG posted;
+        PeekMessageA(&posted, theWindow, 0, 0, PM_REMOVE);
+        DispatchMessageA(&posted);
+    }
     return result;
 }
 

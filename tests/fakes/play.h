@@ -1,5 +1,5 @@
-// The vocabulary of a story: a folder with the game's files, keys that are pressed, time that goes
-// by. A story plays the game through its window procedure, as the machine would.
+// What a story is told with: a folder with the game's files, keys that are pressed, time that
+// passes. A story plays the game through its window procedure, as the machine would.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -31,10 +31,6 @@ private:
 
 void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-4);
 
-// The calls that make a texture of a chain that writeMipChain wrote.
-GlCalls uploadOf(int texture, int internalFormat, int size, int levels, int wrap, int magnification,
-                 int minification);
-
 // The window is made, as at program start; false when the game gave up.
 bool startUp();
 
@@ -42,13 +38,7 @@ bool startUp();
 // `whenIdle` is called whenever the message queue is empty. Returns the exit code.
 int runProgram(const std::function<void()>& whenIdle);
 
-// The program will find the message in its queue.
-void queueMessage(UINT message, int wParam = 0);
-
-// Handles what waits in the queue; a quit message stays there.
-void handleMessages();
-
-// Sends the window a message, and handles what comes of it.
+// Sends the window a message, and handles the messages that are posted meanwhile.
 LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 inline void pressKey(int key) {
@@ -60,7 +50,7 @@ inline void pressKeys(std::initializer_list<int> keys) {
     }
 }
 
-// Time goes by and one tick happens; drawn() then is its frame.
+// Time passes and one tick happens; drawn() then is its frame.
 void tick(double seconds);
 void ticks(int n, double seconds);
 

@@ -1,9 +1,8 @@
 // The machine as the tests play it.
 //
 // tests/fakes defines every function of platform/windows_api.h and the OpenGL functions that the
-// game calls. Each of them only writes down that it was called and gives a plausible answer. What
-// it answers is scripted through `machine`; what it wrote down is asked for with the functions
-// below. `machine = MachineRecord{}` is a fresh machine with nothing written down.
+// game calls. Each of them records the call and gives a plausible answer, which a test scripts
+// through `machine`. `machine = MachineRecord{}` is a fresh machine with nothing recorded.
 #pragma once
 
 #include <array>
@@ -32,29 +31,8 @@ struct GlCall {
 };
 using GlCalls = std::vector<GlCall>;
 
-template <class... Numbers>
-GlCall call(std::string_view function, Numbers... values) {
-    return GlCall(function, values...);
-}
-template <class... Calls>
-GlCalls calls(const Calls&... one) {
-    return {one...};
-}
-inline GlCall on(unsigned capability) {
-    return {"glEnable", capability};
-}
-inline GlCall off(unsigned capability) {
-    return {"glDisable", capability};
-}
-
 // Same function, same numbers within the accuracy of a float.
 bool operator==(const GlCall& a, const GlCall& b);
-void PrintTo(const GlCall& call, std::ostream* out);
-
-GlCalls operator+(GlCalls a, const GlCalls& b);
-
-// Where a long row of calls departs from the expected one, in words; nothing where it does not.
-std::string difference(const GlCalls& actual, const GlCalls& expected);
 
 // What the game sees of the machine, and what it did to it.
 struct MachineRecord {
@@ -62,10 +40,9 @@ struct MachineRecord {
                                    {sizeof(DEVMODEA), 7, 16, 640, 480}};
     std::deque<LONG> switchResults; // of ChangeDisplaySettingsA, in turn; then success
     bool formatNeedsPalette = false;
-    bool textureIsResident = false; // what glAreTexturesResident says
 
     std::set<int> keysHeld;
-    LONGLONG counter = 1'000'000; // stands still unless passTime moves it
+    LONGLONG counter = 1'000'000; // changed by passTime only
 
     // Runs when the message queue is found empty: here a test that plays WinMain acts.
     std::function<void()> whenIdle;
@@ -81,8 +58,8 @@ struct MachineRecord {
     MCIDEVICEID lastDevice = 0;
 
     std::map<std::string, std::deque<int>, std::less<>> failures; // see failNext
-    Lines lines;   // what was called, a line each: the function, then what matters of it
-    GlCalls drawn; // OpenGL and SwapBuffers
+    Lines lines;   // the calls, a line each: the function, then the values that matter
+    GlCalls drawn; // OpenGL and SwapBuffers, since the last tick began
 };
 extern MachineRecord machine;
 
@@ -90,29 +67,20 @@ extern MachineRecord machine;
 extern const HWND theWindow;
 extern const HWND focusWindow; // has the focus before the game has a window
 extern const HDC theSurface;
-extern const HGLRC theContext;
 
 inline void hold(int key) {
     machine.keysHeld.insert(key);
 }
-inline void release(int key) {
-    machine.keysHeld.erase(key);
-}
 void passTime(double seconds);
 
-// The function's next call fails, or the one after `skip` more; of MCI the names are MCI_OPEN,
-// MCI_STATUS, MCI_PLAY, and `code` is the error that comes back.
-void failNext(std::string_view function, int skip = 0, int code = 1);
+// The function's next call fails, or the one after `skip` more. MCI commands are named MCI_OPEN,
+// MCI_STATUS, MCI_PLAY.
+void failNext(std::string_view function, int skip = 0);
 
-// For the fakes: the code with which this call fails, or 0.
-int failureOf(std::string_view function);
+// For the fakes: whether this call fails.
+bool fails(std::string_view function);
 
-// The nth allocation with new (std::nothrow) of at least so many bytes from now on fails. None of
-// more than 1 GiB ever succeeds.
-void failAllocation(std::size_t bytes, int nth = 1);
-
-// The lines of these functions, in order; of one function without its name.
-Lines said(std::initializer_list<std::string_view> functions);
+// The recorded lines of a function, without its name.
 Lines said(std::string_view function);
 
 inline Lines boxes() {
@@ -125,15 +93,13 @@ inline Lines music() {
     return said("MCI");
 } // "open sounds/midi1.mid", "play 1", "close 1"
 
-// The OpenGL calls of the frame drawn last, and ways to look at them.
+// The OpenGL calls of the last frame, and ways to look at them.
 inline const GlCalls& drawn() {
     return machine.drawn;
 }
-GlCalls only(const GlCalls& calls, std::initializer_list<std::string_view> names);
-long count(const GlCalls& calls, const GlCall& call);
-long count(const GlCalls& calls, std::string_view name);
-GlCalls from(const GlCalls& calls, const GlCall& first); // `first` and all after it; or nothing
-GlCalls upTo(const GlCalls& calls, const GlCall& end);   // all before `end`
+GlCalls only(std::initializer_list<std::string_view> names);
+long count(const GlCall& call);
+long count(std::string_view name);
 
 // A line of text on the screen, put together from glyphs of the test font (tests/fakes/play.h).
 struct Text {

@@ -1,5 +1,5 @@
-// The door's functions as the tests play them, in the order of platform/windows_api.h. What the
-// game hands over by fixed rules is checked here, once for all tests.
+// The functions of platform/windows_api.h as the tests play them, in its order. The arguments that
+// are the same in every call are checked here, once for all tests.
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -16,7 +16,7 @@ Handle handle(UINT_PTR number) {
     return reinterpret_cast<Handle>(number);
 }
 
-// Writes the call down and gives the answer.
+// Records the call and gives the answer.
 template <class Answer, class... Values>
 Answer noted(Answer answer, const char* function, const Values&... values) {
     std::ostringstream line;
@@ -27,12 +27,7 @@ Answer noted(Answer answer, const char* function, const Values&... values) {
 }
 
 const char* nameOf(HWND window) {
-    if (window == nullptr) { return "nobody"; }
-    return window == theWindow ? "window" : window == focusWindow ? "focus" : "stranger";
-}
-
-bool succeeds(const char* function) {
-    return failureOf(function) == 0;
+    return window == theWindow ? "window" : window == focusWindow ? "focus" : "nobody";
 }
 
 } // namespace
@@ -40,12 +35,11 @@ bool succeeds(const char* function) {
 const HWND theWindow = handle<HWND>(0x100);
 const HWND focusWindow = handle<HWND>(0x200);
 const HDC theSurface = handle<HDC>(0x300);
-const HGLRC theContext = handle<HGLRC>(0x400);
 
 // Windows and messages
 
-HICON LoadIconA(HINSTANCE, const char* name) {
-    return noted(nullptr, "LoadIconA", name);
+HICON LoadIconA(HINSTANCE, const char*) {
+    return nullptr;
 }
 HCURSOR LoadCursorA(HINSTANCE, const char*) {
     return handle<HCURSOR>(0x500);
@@ -53,7 +47,7 @@ HCURSOR LoadCursorA(HINSTANCE, const char*) {
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass) {
     machine.windowClass = *windowClass;
-    return noted(succeeds("RegisterClassA"), "RegisterClassA", windowClass->lpszClassName);
+    return noted(!fails("RegisterClassA"), "RegisterClassA", windowClass->lpszClassName);
 }
 
 HWND CreateWindowExA(DWORD extendedStyle, const char* className, const char* title, DWORD style,
@@ -61,16 +55,16 @@ HWND CreateWindowExA(DWORD extendedStyle, const char* className, const char* tit
                      void*) {
     EXPECT_TRUE(parent == nullptr && menu == nullptr);
     noted(0, "CreateWindowExA", extendedStyle, className, title, style, x, y, width, height);
-    if (!succeeds("CreateWindowExA")) { return nullptr; }
+    if (fails("CreateWindowExA")) { return nullptr; }
     machine.windowClass.lpfnWndProc(theWindow, WM_CREATE, 0, 0);
     return theWindow;
 }
 
-BOOL ShowWindow(HWND window, int mode) {
-    return noted(FALSE, "ShowWindow", nameOf(window), mode);
+BOOL ShowWindow(HWND, int mode) {
+    return noted(FALSE, "ShowWindow", mode);
 }
 BOOL UpdateWindow(HWND window) {
-    noted(0, "UpdateWindow", nameOf(window));
+    noted(0, "UpdateWindow");
     return machine.windowClass.lpfnWndProc(window, WM_PAINT, 0, 0) == 0;
 }
 
@@ -115,19 +109,18 @@ void PostQuitMessage(int exitCode) {
 }
 
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return noted(77, "DefWindowProcA", nameOf(window), message, wParam, lParam);
+    return noted(77, "DefWindowProcA", window == theWindow, message, wParam, lParam);
 }
 
-HDC BeginPaint(HWND window, PAINTSTRUCT*) {
-    return noted(theSurface, "BeginPaint", nameOf(window));
+HDC BeginPaint(HWND, PAINTSTRUCT*) {
+    return noted(theSurface, "BeginPaint");
 }
-BOOL EndPaint(HWND window, const PAINTSTRUCT*) {
-    return noted(TRUE, "EndPaint", nameOf(window));
+BOOL EndPaint(HWND, const PAINTSTRUCT*) {
+    return noted(TRUE, "EndPaint");
 }
 
-UINT_PTR SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback) {
-    EXPECT_EQ(callback, nullptr);
-    return noted(timer, "SetTimer", nameOf(window), timer, period);
+UINT_PTR SetTimer(HWND, UINT_PTR timer, UINT period, TIMERPROC) {
+    return noted(timer, "SetTimer", timer, period);
 }
 
 HWND GetFocus() {
@@ -166,21 +159,16 @@ LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
 
 // Pixel format, buffers and the binding of OpenGL
 
-HDC GetDC(HWND window) {
-    return noted(theSurface, "GetDC", nameOf(window));
+HDC GetDC(HWND) {
+    return noted(theSurface, "GetDC");
 }
-int ReleaseDC(HWND window, HDC) {
-    return noted(1, "ReleaseDC", nameOf(window));
+int ReleaseDC(HWND, HDC) {
+    return noted(1, "ReleaseDC");
 }
 
 int ChoosePixelFormat(HDC, const PIXELFORMATDESCRIPTOR* wanted) {
-    PIXELFORMATDESCRIPTOR expected = {};
-    expected.nSize = 40;
-    expected.nVersion = 1;
-    expected.dwFlags = 0x21;
-    expected.cColorBits = expected.cDepthBits = 16;
-    EXPECT_EQ(std::memcmp(wanted, &expected, sizeof expected), 0);
-    return noted(succeeds("ChoosePixelFormat") ? 3 : 0, "ChoosePixelFormat");
+    EXPECT_TRUE(wanted->dwFlags == 0x21 && wanted->cColorBits == 16 && wanted->cDepthBits == 16);
+    return noted(!fails("ChoosePixelFormat") ? 3 : 0, "ChoosePixelFormat");
 }
 
 int DescribePixelFormat(HDC, int, UINT, PIXELFORMATDESCRIPTOR* description) {
@@ -189,9 +177,8 @@ int DescribePixelFormat(HDC, int, UINT, PIXELFORMATDESCRIPTOR* description) {
     return 3;
 }
 
-BOOL SetPixelFormat(HDC, int format, const PIXELFORMATDESCRIPTOR* wanted) {
-    EXPECT_EQ(wanted->cDepthBits, 16);
-    return noted(succeeds("SetPixelFormat"), "SetPixelFormat", format);
+BOOL SetPixelFormat(HDC, int format, const PIXELFORMATDESCRIPTOR*) {
+    return noted(!fails("SetPixelFormat"), "SetPixelFormat", format);
 }
 
 BOOL SwapBuffers(HDC deviceContext) {
@@ -201,7 +188,7 @@ BOOL SwapBuffers(HDC deviceContext) {
 }
 
 HGLRC wglCreateContext(HDC) {
-    return noted(theContext, "wglCreateContext");
+    return noted(handle<HGLRC>(0x400), "wglCreateContext");
 }
 BOOL wglMakeCurrent(HDC, HGLRC) {
     return noted(TRUE, "wglMakeCurrent");
@@ -221,42 +208,29 @@ BOOL MessageBeep(UINT type) {
     return noted(TRUE, "MessageBeep", type);
 }
 
-namespace {
-
-int openMusic(MCI_OPEN_PARMSA& parameters) {
-    EXPECT_STREQ(parameters.lpstrDeviceType, "sequencer");
-    const int error = noted(failureOf("MCI_OPEN"), "MCI open", parameters.lpstrElementName);
-    if (error == 0) { machine.devices.insert(parameters.wDeviceID = ++machine.lastDevice); }
-    return error;
-}
-
-int commandMusic(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWORD_PTR parameters) {
-    if (command == MCI_OPEN) {
-        EXPECT_EQ(flags, 0x2200U);
-        return openMusic(*reinterpret_cast<MCI_OPEN_PARMSA*>(parameters));
-    }
+MCIERROR mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWORD_PTR parameters) {
     const bool isOpen = machine.devices.contains(device);
+    EXPECT_TRUE(isOpen || command == MCI_OPEN || command == MCI_CLOSE) << device;
     if (command == MCI_CLOSE) {
-        EXPECT_TRUE(flags == 0 && parameters == 0);
         machine.devices.erase(device);
-        return noted(isOpen ? 0 : 257, isOpen ? "MCI close" : "MCI close stale", device);
+        return noted(isOpen ? 0U : 257U, isOpen ? "MCI close" : "MCI close stale", device);
     }
-    EXPECT_TRUE(isOpen) << device;
+    if (command == MCI_OPEN) {
+        auto& open = *reinterpret_cast<MCI_OPEN_PARMSA*>(parameters);
+        EXPECT_TRUE(flags == 0x2200U && std::string("sequencer") == open.lpstrDeviceType);
+        noted(0, "MCI open", open.lpstrElementName);
+        if (fails("MCI_OPEN")) { return 277; }
+        machine.devices.insert(open.wDeviceID = ++machine.lastDevice);
+        return 0;
+    }
     if (command == MCI_STATUS) {
-        const auto& status = *reinterpret_cast<MCI_STATUS_PARMS*>(parameters);
-        EXPECT_TRUE(flags == MCI_STATUS_ITEM && status.dwItem == MCI_SEQ_STATUS_PORT);
-        return noted(failureOf("MCI_STATUS"), "MCI status", device);
+        EXPECT_EQ(reinterpret_cast<MCI_STATUS_PARMS*>(parameters)->dwItem, MCI_SEQ_STATUS_PORT);
+        return noted(fails("MCI_STATUS") ? 277U : 0U, "MCI status", device);
     }
     const auto& play = *reinterpret_cast<MCI_PLAY_PARMS*>(parameters);
     EXPECT_TRUE(command == MCI_PLAY && flags == MCI_NOTIFY);
     EXPECT_EQ(play.dwCallback, reinterpret_cast<DWORD_PTR>(theWindow));
-    return noted(failureOf("MCI_PLAY"), "MCI play", device);
-}
-
-} // namespace
-
-MCIERROR mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWORD_PTR parameters) {
-    return static_cast<MCIERROR>(commandMusic(device, command, flags, parameters));
+    return noted(fails("MCI_PLAY") ? 277U : 0U, "MCI play", device);
 }
 
 // Clock
@@ -275,8 +249,8 @@ BOOL QueryPerformanceCounter(LARGE_INTEGER* counter) {
 
 HANDLE CreateFileA(const char* fileName, DWORD access, DWORD share, SECURITY_ATTRIBUTES*,
                    DWORD creation, DWORD attributes, HANDLE) {
-    EXPECT_TRUE(access == GENERIC_READ && share == 0);
-    EXPECT_TRUE(creation == OPEN_EXISTING && attributes == FILE_ATTRIBUTE_NORMAL);
+    EXPECT_TRUE(access == GENERIC_READ && share == 0 && creation == OPEN_EXISTING &&
+                attributes == FILE_ATTRIBUTE_NORMAL);
     std::FILE* file = noted(std::fopen(fileName, "rb"), "CreateFileA", fileName);
     if (file == nullptr) { return INVALID_HANDLE_VALUE; }
     ++machine.openFiles;
@@ -284,7 +258,6 @@ HANDLE CreateFileA(const char* fileName, DWORD access, DWORD share, SECURITY_ATT
 }
 
 BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) {
-    if (!succeeds("ReadFile")) { return FALSE; }
     *got = static_cast<DWORD>(std::fread(buffer, 1, wanted, static_cast<std::FILE*>(file)));
     return TRUE;
 }
@@ -292,7 +265,7 @@ BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) 
 BOOL CloseHandle(HANDLE file) {
     std::fclose(static_cast<std::FILE*>(file));
     --machine.openFiles;
-    return succeeds("CloseHandle");
+    return TRUE;
 }
 
 // Errors in the system's words

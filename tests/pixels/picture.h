@@ -28,13 +28,13 @@ struct Picture {
     void put(int x, int y, Pixel pixel);
 };
 
-// What stands on the surface now.
+// The surface as it is now.
 Picture photograph();
 
 // The picture whose pixels are these.
 Picture paint(const std::function<Pixel(int x, int y)>& pixelAt);
 
-// Expects two pictures to be the same within `tolerance` of 255 a colour, but for a share of the
-// pixels. A miss leaves <name>-actual.png, -expected.png and -difference.png in the build folder.
+// Expects two pictures to be the same within `tolerance` of 255 a colour, except for a share of the
+// pixels. Otherwise <name>-actual.png and -expected.png are left in the build folder.
 void expectLike(const Picture& actual, const Picture& expected, const std::string& name,
                 double tolerance = 10, double shareOfMisses = 0);

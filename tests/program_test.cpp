@@ -1,9 +1,8 @@
-// The start of the program: display, window, OpenGL, data; and every way in which it can fail.
-#include <GL/gl.h>
-
+// The start of the program with every way in which it can fail, its window's messages, its end.
 #include "data/best_times.h"
 #include "data/font.h"
 #include "fakes/play.h"
+#include "sim/camera.h"
 
 namespace {
 
@@ -18,6 +17,8 @@ int runBriefly() {
     });
 }
 
+using Window = Story;
+
 } // namespace
 
 // Of the three times that the queue is empty, two find a tick posted and one the end.
@@ -28,42 +29,35 @@ TEST_F(Start, TakesEveryStepInOrder) {
         if (!line.starts_with("CreateFileA graphics/font/font_")) { steps += line + "; "; }
     }
     EXPECT_EQ(steps,
-              "ChangeDisplaySettingsA 16 640 480 7; LoadIconA OpenGL Demo; RegisterClassA Glorbix; "
+              "ChangeDisplaySettingsA 16 640 480 7; RegisterClassA Glorbix; "
               "CreateWindowExA 0 Glorbix Glorbix 2214592512 -2147483648 -2147483648 640 480; "
-              "GetDC window; ChoosePixelFormat; SetPixelFormat 3; wglCreateContext; "
-              "wglMakeCurrent; SetTimer window 1 1000; ShowWindow window 5; UpdateWindow window; "
-              "BeginPaint window; CreateFileA graphics/title.bmp; EndPaint window; ShowCursor 0; "
-              "PostMessageA 1025 0; PostMessageA 1025 0; PostQuitMessage 5; "
-              "ChangeDisplaySettingsA restore; ShowCursor 1; ");
+              "GetDC; ChoosePixelFormat; SetPixelFormat 3; wglCreateContext; wglMakeCurrent; "
+              "SetTimer 1 1000; ShowWindow 5; UpdateWindow; BeginPaint; "
+              "CreateFileA graphics/title.bmp; EndPaint; ShowCursor 0; PostMessageA 1025 0; "
+              "PostMessageA 1025 0; PostQuitMessage 5; ChangeDisplaySettingsA restore; "
+              "ShowCursor 1; ");
     EXPECT_EQ(machine.cursorCount, 0);
     EXPECT_EQ(Game.window, theWindow);
-    EXPECT_EQ(machine.windowClass.style, 0U);
-    EXPECT_EQ(machine.windowClass.hbrBackground, reinterpret_cast<HBRUSH>(UINT_PTR{6}));
-    EXPECT_STREQ(machine.windowClass.lpszMenuName, "Glorbix");
-    EXPECT_EQ(
-        count(from(drawn(), call("glClearDepth", 0)), call("glHint", GL_FOG_HINT, GL_FASTEST)), 1);
 }
 
 TEST_F(Start, GoesOnWhateverTheDisplaySays) {
     const std::string unsupported = "640x480x65536 (16-bit color/Hicolor) is not supported";
     const std::string found = "16 640 480 7", bySize = "16 640 480 1835008", restore = "restore";
-    const DEVMODEA tooSmall = {sizeof(DEVMODEA), 7, 16, 320, 240};
-    const DEVMODEA tooLow = {sizeof(DEVMODEA), 7, 16, 640, 400};
-    const DEVMODEA tooWide = {sizeof(DEVMODEA), 7, 16, 720, 480};
-    const DEVMODEA tooDeep = {sizeof(DEVMODEA), 7, 32, 640, 480};
-    const DEVMODEA right = {sizeof(DEVMODEA), 7, 16, 640, 480};
+    const auto mode = [](DWORD depth, DWORD width, DWORD height) {
+        return DEVMODEA{sizeof(DEVMODEA), 7, depth, width, height};
+    };
+    const DEVMODEA right = mode(16, 640, 480);
     const struct {
         std::vector<DEVMODEA> modes;
         std::deque<LONG> results;
         Lines changes;
         std::string message;
     } cases[] = {
-        {{}, {}, {restore}, unsupported + " | Initialization Error | focus, stop"},
-        {{tooLow, tooWide, tooDeep},
+        {{mode(16, 640, 400), mode(16, 720, 480), mode(32, 640, 480)},
          {},
          {restore},
          unsupported + " | Initialization Error | focus, stop"},
-        {{tooSmall, tooSmall, right}, {0}, {found, restore}, ""},
+        {{mode(16, 320, 240), right}, {0}, {found, restore}, ""},
         {{right}, {-1, 0}, {found, bySize, restore}, ""},
         {{right},
          {-2, 1},
@@ -77,8 +71,7 @@ TEST_F(Start, GoesOnWhateverTheDisplaySays) {
         {{right},
          {-1, -1},
          {found, bySize, restore},
-         "Hardware failed to change to 640x480x65536 | Initialization Error | focus, stop"},
-        {{right}, {-1, -3}, {found, bySize, restore}, ""}};
+         "Hardware failed to change to 640x480x65536 | Initialization Error | focus, stop"}};
     for (const auto& c : cases) {
         startAfresh();
         machine.modes = c.modes;
@@ -96,7 +89,7 @@ TEST_F(Start, WithoutAWindowGivesTheDisplayBack) {
         failNext(function);
         EXPECT_EQ(runBriefly(), 0) << function;
         EXPECT_EQ(said("ChangeDisplaySettingsA").back(), "restore");
-        EXPECT_EQ(said({"ShowWindow", "ShowCursor", "MessageBoxA"}), Lines{});
+        EXPECT_TRUE(said("ShowWindow").empty() && boxes().empty());
     }
 }
 
@@ -115,7 +108,7 @@ TEST_F(Start, WithoutAPixelFormatFinishesAndEnds) {
         EXPECT_EQ(runProgram([] {}), 0);
         EXPECT_EQ(boxes(), Lines{c.message});
         EXPECT_TRUE(font.loaded);
-        EXPECT_EQ(said({"ShowWindow", "SetTimer"}).size(), 2U);
+        EXPECT_EQ(said("ShowWindow").size(), 1U);
     }
 }
 
@@ -139,7 +132,61 @@ TEST_F(Start, WithoutItsDataEnds) {
         messages.push_back("initialization failed | Error | window");
         EXPECT_EQ(boxes(), messages);
         EXPECT_EQ(static_cast<int>(bestTimes.slots[0].time), c.best);
-        EXPECT_EQ(count(drawn(), "glClearDepth"), 0);
-        EXPECT_EQ(said({"SetTimer", "ShowWindow", "ShowCursor"}).size(), 4U);
     }
+}
+
+TEST_F(Window, LeavesOtherMessagesToTheSystem) {
+    EXPECT_EQ(send(WM_KEYDOWN, 65), 0);
+    EXPECT_EQ(send(WM_USER + 3, 5, 6), 77);
+    EXPECT_EQ(said("DefWindowProcA"), Lines{"1 1027 5 6"});
+}
+
+TEST_F(Window, MeasuresTheTimeOfEveryTick) {
+    playLevel();
+    tick(0.5);
+    EXPECT_EQ(Game.frameTime, 0.5F);
+    EXPECT_EQ(Game.clock, 44.5F);
+    pressKey(VK_F12);
+    const Vector3 before = cameraPosition;
+    ticks(4, 3);
+    EXPECT_EQ(Game.clock, 44.5F);
+    EXPECT_EQ(marble.getPosition().y, -5800);
+    EXPECT_EQ(cameraPosition.y, before.y);
+    EXPECT_EQ(count("SwapBuffers"), 1);
+    pressKey(VK_F12);
+    tick(0.25); // no long step follows a pause
+    EXPECT_EQ(Game.clock, 44.25F);
+}
+
+TEST_F(Window, PausesWithoutTheFocus) {
+    playLevel();
+    send(WM_KILLFOCUS);
+    EXPECT_TRUE(Game.paused && !Game.hasFocus);
+    send(WM_SETFOCUS);
+    EXPECT_TRUE(!Game.paused && Game.hasFocus);
+    pressKey(VK_F12);
+    send(WM_SETFOCUS); // it has the focus already
+    EXPECT_EQ(Game.paused, 1);
+}
+
+TEST_F(Window, LatchesItsStatisticsOnceASecond) {
+    playLevel();
+    for (const int frames : {3, 1}) {
+        ticks(frames, 0.1);
+        const int triangles = Game.trianglesThisSecond;
+        send(WM_TIMER, 1);
+        EXPECT_TRUE(Game.fps == frames && Game.pps == triangles);
+    }
+    EXPECT_GT(Game.pps, 100);
+}
+
+TEST_F(Window, GivesTheMachineBackWhenItCloses) {
+    playLevel();
+    bestTimes.slots[0].time = 1;
+    machine.lines.clear();
+    send(WM_CLOSE);
+    EXPECT_EQ(machine.lines,
+              (Lines{"wglDeleteContext", "ReleaseDC", "MCI close 1", "PostQuitMessage 0"}));
+    EXPECT_TRUE(Game.stopped && !Game.hasFocus);
+    EXPECT_TRUE(readFile("highScore.dat").starts_with("100 ")); // nothing is saved
 }

@@ -1,0 +1,150 @@
+// The files that the game reads: words and numbers, the list of levels, bitmaps.
+#include "app/bitmap_file.h"
+#include "data/level_list.h"
+#include "data/tokens.h"
+#include "fakes/play.h"
+
+namespace {
+
+struct Words : Story {
+    TokenReader reader;
+
+    bool open(const std::string& content) {
+        writeFile("words.txt", content);
+        reader = TokenReader();
+        return reader.open("words.txt");
+    }
+
+    // Each word is a number of this value. None of `refused` is one, nor is what follows it.
+    template <class Number>
+    void expectNumbers(bool (TokenReader::*read)(Number&),
+                       const std::vector<std::pair<std::string, Number>>& taken,
+                       const Lines& refused) {
+        Number number = 0;
+        for (const auto& [text, value] : taken) {
+            EXPECT_TRUE(open(text) && (reader.*read)(number)) << text;
+            EXPECT_EQ(number, value) << text;
+        }
+        for (const std::string& text : refused) {
+            EXPECT_TRUE(open(text + " 1"));
+            EXPECT_FALSE((reader.*read)(number) || (reader.*read)(number)) << text;
+        }
+    }
+};
+
+using LevelList = Story;
+
+// Reads into a buffer of 2 x 2 pixels with a guard after it.
+struct Bitmap : Story {
+    std::vector<std::uint8_t> pixels = std::vector<std::uint8_t>(12 + 100, 9);
+
+    bool read(const char* name = "a.bmp") { return readBitmapOfSize(name, 2, 2, pixels.data()); }
+    bool bufferIsUntouched() const { return pixels == std::vector<std::uint8_t>(pixels.size(), 9); }
+
+    static void changeByte(std::size_t offset, int value) {
+        std::string file = readFile("a.bmp");
+        file[offset] = static_cast<char>(value);
+        writeFile("a.bmp", file);
+    }
+};
+
+} // namespace
+
+TEST_F(Words, AreNumbersOnlyAsAWhole) {
+    expectNumbers<std::int32_t>(&TokenReader::readInteger,
+                                {{"+3", 3}, {"-3", -3}, {"0x1F", 31}, {"-0X10", -16}, {"+010", 8}},
+                                {"3x", "3.5", "08", "0x", "-", "+", "--1", "2147483648"});
+    expectNumbers<std::uint32_t>(&TokenReader::readUnsigned, {{"-0", 0}}, {"-1", "4294967296"});
+    expectNumbers<float>(
+        &TokenReader::readFloat,
+        {{"1.5", 1.5F}, {"+.5", 0.5F}, {"-2.", -2.0F}, {"-1e1", -10.0F}, {"-1e-999", 0.0F}},
+        {"1x", "1.2.3", "1e", "-", "+", "-+1", ".", "1,5", "nan", "inf", "1e99", "0x1"});
+}
+
+TEST_F(Words, HoldNoZeroBytesAndComeFromNoDirectory) {
+    char token[tokenCapacity];
+    EXPECT_TRUE(open(std::string("br\0ken", 6)));
+    EXPECT_FALSE(reader.readToken(token));
+    std::filesystem::create_directory("maps");
+    EXPECT_FALSE(reader.open("maps") || level.load("maps", marble));
+    EXPECT_EQ(boxes(), Lines{"mapsfile not found | error | nobody"});
+}
+
+TEST_F(LevelList, NamesTheLevelsInPlayingOrder) {
+    writeFile(levelListFile, "\t0x3\r\none two\n\n  three");
+    ASSERT_TRUE(loadLevelList());
+    ASSERT_EQ(Game.levelCount, 3);
+    EXPECT_STREQ(Game.levelFiles[0].get(), "one");
+    EXPECT_STREQ(Game.levelFiles[2].get(), "three");
+    EXPECT_EQ(Game.levelTimes[2], 45);
+}
+
+TEST_F(LevelList, EndsDirectlyAfterItsLastName) {
+    const std::string longest(255, 'n');
+    const struct {
+        std::string content;
+        bool accepted;
+    } cases[] = {{"3 one two three", true},
+                 {"3 one two three ", false},
+                 {"3 one two", false},
+                 {"3 one two three four", false},
+                 {"0", false},
+                 {"-2 one two", false},
+                 {"", false},
+                 {"many one", false},
+                 {"2147483647 one", false},
+                 {"1 " + longest, true},
+                 {"1 " + longest + "n", false}};
+    for (const auto& c : cases) {
+        writeFile(levelListFile, c.content);
+        EXPECT_EQ(loadLevelList(), c.accepted) << c.content;
+    }
+    EXPECT_EQ(boxes(), Lines{});
+}
+
+TEST_F(Bitmap, IsReadAsRedGreenBlue) {
+    writeBitmap("a.bmp", 2, 2, 0x030201);
+    for (const std::size_t offset : {0U, 10U, 14U, 30U, 53U}) {
+        changeByte(offset, 0x55); // only the size and the depth count
+    }
+    changeByte(54, 7); // the first pixel's blue
+    ASSERT_TRUE(read());
+    pixels.resize(14);
+    EXPECT_EQ(pixels, (std::vector<std::uint8_t>{3, 2, 7, 3, 2, 1, 3, 2, 1, 3, 2, 1, 9, 9}));
+}
+
+TEST_F(Bitmap, OfAnotherShapeIsRefusedUnlessItFits) {
+    const struct {
+        const char* shape;
+        std::size_t offset;
+        int value;
+        bool fits; // where any size is taken
+    } cases[] = {{"too wide", 18, 3, false},    {"too high", 23, 1, false},
+                 {"top down", 25, 255, false},  {"not 24 bits", 28, 32, false},
+                 {"enormous", 21, 0x7F, false}, {"smaller", 18, 1, true},
+                 {"no pixels", 18, 0, true}};
+    for (const auto& c : cases) {
+        writeBitmap("a.bmp", 2, 2, 0x090909);
+        changeByte(c.offset, c.value);
+        EXPECT_FALSE(read()) << c.shape;
+        EXPECT_EQ(readBitmap("a.bmp", pixels.data(), 12), c.fits) << c.shape;
+    }
+    for (const int value : {0x7F, 0xFF}) { // 4 * 10^18 pixels, both sizes negative
+        changeByte(21, value);
+        changeByte(25, value);
+        EXPECT_FALSE(readBitmap("a.bmp", pixels.data(), 12));
+    }
+    writeFile("a.bmp", "BM");
+    EXPECT_FALSE(read() || read("none.bmp"));
+    EXPECT_TRUE(bufferIsUntouched());
+    writeBitmap("a.bmp", 4, 1, 0x010203);
+    EXPECT_TRUE(readBitmap("a.bmp", pixels.data(), 12));
+    EXPECT_TRUE(pixels[11] == 3 && pixels[12] == 9);
+}
+
+TEST_F(Bitmap, ThatEndsEarlyKeepsWhatTheBufferHeld) {
+    writeBitmap("a.bmp", 2, 2, 0x030201);
+    std::filesystem::resize_file("a.bmp", 54 + 3);
+    ASSERT_TRUE(read());
+    EXPECT_TRUE(pixels[0] == 3 && pixels[2] == 1 && pixels[3] == 9);
+}

@@ -1,0 +1,125 @@
+// The ground: its height, its catch radius, its slopes, and the walk over the cells in sight.
+#include "fakes/play.h"
+#include "sim/view_frame.h"
+
+namespace {
+
+struct Ground : Story {
+    Ground() { writeMipChain("ground", groundTextureSize, groundTextureLevels); }
+
+    static void make(const std::vector<Hole>& holes) {
+        writeFile("a.map", levelText(holes));
+        ASSERT_TRUE(level.load("a.map", marble));
+    }
+};
+
+const Hole well = {0, 0, 30, 100};
+
+// An eye and its angles, as the camera holds them, with what it sees: triangles, and the sum of the
+// cells in the order of drawing, each times its place in it.
+struct View {
+    const char* name;
+    Vector3 eye;
+    float pitch, yaw;
+    bool farSight;
+    int triangles;
+    std::int64_t order;
+};
+
+int draw(const View& view) {
+    ViewFrame frame;
+    frame.set(view.eye, view.pitch, view.yaw, view.yaw);
+    machine.drawn.clear();
+    return level.drawGround(frame, view.farSight, true);
+}
+
+// The cells that were drawn, by the first corner of each pair of triangles; 50 to a row.
+std::vector<int> cellsDrawn() {
+    const GlCalls corners = only({"glTexCoord2f"});
+    std::vector<int> cells;
+    for (std::size_t i = 0; i + 5 < corners.size(); i += 6) {
+        const auto& corner = corners[i].numbers;
+        EXPECT_EQ(corners[i], corners[i + 3]);
+        cells.push_back(static_cast<int>(50 * (corner[1] * 4 + 200) + corner[0] / 0.1875 + 25));
+    }
+    return cells;
+}
+
+} // namespace
+
+TEST_F(Ground, IsFlatWithoutHoles) {
+    EXPECT_EQ(level.heightAt(12, -3400), 0);
+    EXPECT_EQ(level.holeAt(0, 0), 0);
+    expectVector(level.normalAt(3, 4), 0, 0, -1);
+    EXPECT_EQ(level.downhillAt(3, 4).length(), 0);
+    expectVector(level.tangentXAt(3, 4), 1, 0, 0);
+    expectVector(level.tangentYAt(3, 4), 0, 1, 0);
+}
+
+TEST_F(Ground, AddsUpItsWells) {
+    make({well});
+    EXPECT_NEAR(level.heightAt(0, 0), 100, 1e-4);
+    EXPECT_NEAR(level.heightAt(0, -30), 70.71068, 1e-4);
+    EXPECT_NEAR(level.heightAt(90, 0), 31.62278, 1e-4);
+    make({well, {40, 0, 30, -50}});
+    EXPECT_NEAR(level.heightAt(0, 0), 100 - 50 * 30 / 50.0, 1e-4);
+    make({{0, 0, 30, 1e8F}, {0, 0, 30, 1}, {0, 0, 30, -1e8F}});
+    EXPECT_EQ(level.heightAt(0, 0), 1); // a sum in floats loses the one between the large
+}
+
+TEST_F(Ground, CatchesInHolesButNotOnMounds) {
+    const std::vector<Hole> pit = {well}, mounds = {{0, 0, 30, -100}, {600, 0, 30, 0}};
+    const std::vector<Hole> wideFirst = {{0, 0, 60, 10}, {10, 0, 30, 90}};
+    const std::vector<Hole> wideSecond = {wideFirst[1], wideFirst[0]};
+    const struct {
+        const std::vector<Hole>& holes;
+        float x, y, expected; // the width of the hole, -1 near one, 0 clear of all
+    } cases[] = {{pit, 0, 45, 30},        {pit, 30, 30, 30},     {pit, 0, 46, -1},
+                 {pit, -249, 0, -1},      {pit, 251, 0, 0},      {mounds, 0, 0, 0},
+                 {mounds, 600, 0, 0},     {wideFirst, 5, 0, 60}, {wideSecond, 5, 0, 30},
+                 {wideSecond, -80, 0, 60}};
+    for (const auto& c : cases) {
+        make(c.holes);
+        EXPECT_EQ(level.holeAt(c.x, c.y), c.expected) << c.x << ' ' << c.y;
+    }
+}
+
+TEST_F(Ground, SlopesTowardsTheWell) {
+    make({well});
+    expectVector(level.normalAt(30, 0), -0.7650, -0.0126, -0.6439);
+    expectVector(level.downhillAt(30, 0), -0.9065, -0.0150, 0.4220);
+    expectVector(level.tangentXAt(30, 0), 0.6502, 0, -0.7598);
+    expectVector(level.tangentYAt(30, 0), 0, 0.9998, -0.0196);
+    EXPECT_GT(level.normalAt(-30, 0).x, 0);
+    EXPECT_GT(level.downhillAt(0, -30).y, 0);
+}
+
+TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
+    const View views[] = {
+        {"settled", {0, -400, -350}, -0.8519663F, 0, false, 5274, 39156282177},
+        {"far sight", {0, -400, -350}, -1.2F, 0, true, 19442, 742937975701},
+        {"to the horizon", {0, -400, -350}, -1.2F, 0, false, 5918, 51177475983},
+        {"turned", {-300, -1000, -350}, -0.9F, 0.12F, false, 5730, 43226103716},
+        {"turned far", {-600, -1000, -350}, -0.9F, 0.6F, false, 4276, 24152298463},
+        {"gliding in", {0, -8800, -6000}, -0.4F, 0, false, 5978, 7918264820},
+        {"before the start", {100, -6500, -350}, -0.85F, 0, false, 4470, 3632354895},
+        {"at the end", {0, 5900, -350}, -0.85F, 0, false, 60, 9248358},
+        {"beyond the left edge", {-1000, 0, -350}, -0.85F, 0, false, 2280, 8113940792},
+        {"beyond the right edge", {900, 0, -350}, -0.85F, 0, false, 2564, 10201318638},
+    };
+    make({{100, 0, 60, 100}, {-200, 400, 90, -80}, {0, -5600, 40, 60}});
+    for (const View& view : views) {
+        SCOPED_TRACE(view.name);
+        EXPECT_EQ(draw(view), view.triangles);
+        const std::vector<int> cells = cellsDrawn();
+        EXPECT_EQ(std::set<int>(cells.begin(), cells.end()).size() * 2, count("glBegin"));
+        std::int64_t order = 0, place = 0;
+        for (const int cell : cells) {
+            order += ++place * cell;
+        }
+        EXPECT_EQ(order, view.order);
+    }
+    level.groundTexCoords.reset(); // its file was refused: nothing is drawn
+    EXPECT_EQ(draw(views[0]), 0);
+    EXPECT_EQ(count("glVertex3f"), 0);
+}
