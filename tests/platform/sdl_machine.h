@@ -1,10 +1,11 @@
-// The machine on SDL as its tests use it: one window on a display that nobody sees, keys and events
-// made up, and a clock that can be stopped.
+// The machine as its tests use it: one window on a display that nobody sees, keys and events made
+// up, and a clock that can be stopped.
 #pragma once
 
 #include <cstdlib>
 #include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include <SDL.h>
@@ -15,34 +16,25 @@
 
 using Numbers = std::vector<UINT>; // of messages
 
-inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
-inline std::optional<SDL_Rect> roomOnDesktop; // for windows; without a value the whole desktop
-
+inline std::optional<Uint64> stoppedClock; // milliseconds; without a value SDL's clock runs
 inline int framesShown = 0;
 
 // The linker takes these instead of SDL's. Without a screen there is nothing to swap.
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetTicks64() {
     return stoppedClock.value_or(SDL_GetTicks());
 }
-[[gnu::used]] inline int SDLCALL SDL_GetDisplayUsableBounds(int display, SDL_Rect* room) {
-    if (!roomOnDesktop) { return SDL_GetDisplayBounds(display, room); }
-    *room = *roomOnDesktop;
-    return room->w > 0 ? 0 : -1;
-}
 
 [[gnu::used]] inline void SDLCALL SDL_GL_SwapWindow(SDL_Window*) {
     ++framesShown;
 }
 
-// The window procedure writes down what it hears. It returns what `answers` holds for a message;
-// all others it leaves to DefWindowProcA.
+// The window procedure records what it receives. It returns what `answers` holds for a message; all
+// others it leaves to DefWindowProcA.
 inline Numbers heard;
-inline MSG lastHeard;
 inline std::map<UINT, LRESULT> answers;
 
 inline LRESULT CALLBACK testProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     heard.push_back(message);
-    lastHeard = {window, message, wParam, lParam, 0, {}};
     const auto found = answers.find(message);
     return found != answers.end() ? found->second : DefWindowProcA(window, message, wParam, lParam);
 }
@@ -57,31 +49,33 @@ inline HWND openTestWindow() {
     return CreateWindowExA(0, "Test", "A title", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
 }
 
-inline void closeTestWindow() {
-    answers.clear();
-    DefWindowProcA(currentWindow(), WM_CLOSE, 0, 0);
-    heard.clear();
+inline SDL_Window* sdlWindow() {
+    return currentWindow()->sdl;
 }
 
 inline bool hasFlag(SDL_WindowFlags flag) {
-    return (SDL_GetWindowFlags(currentWindow()->sdl) & flag) == Uint32{flag};
+    return (SDL_GetWindowFlags(sdlWindow()) & flag) != 0;
 }
 
-// A key is pressed, or repeats. Its label is that of an English keyboard.
-inline void pushKey(int place, int modifiers = KMOD_NONE, bool repeat = false) {
+// A key with the label of an English keyboard.
+inline SDL_Event keyEvent(SDL_EventType type, SDL_Scancode place, int modifiers = KMOD_NONE,
+                          bool repeat = false) {
     SDL_Event event = {};
-    event.type = SDL_KEYDOWN;
+    event.type = type;
+    event.key.keysym = {place, SDL_GetKeyFromScancode(place), static_cast<Uint16>(modifiers), 0};
     event.key.repeat = repeat ? 1 : 0;
-    event.key.keysym.scancode = static_cast<SDL_Scancode>(place);
-    event.key.keysym.sym = SDL_GetKeyFromScancode(event.key.keysym.scancode);
-    event.key.keysym.mod = static_cast<Uint16>(modifiers);
+    return event;
+}
+
+inline void pushKey(SDL_Scancode place, int modifiers = KMOD_NONE, bool repeat = false) {
+    SDL_Event event = keyEvent(SDL_KEYDOWN, place, modifiers, repeat);
     SDL_PushEvent(&event);
 }
 
 inline void pushEvent(SDL_EventType type, SDL_WindowEventID windowEvent = SDL_WINDOWEVENT_NONE) {
     SDL_Event event = {};
     event.type = type;
-    event.window.windowID = SDL_GetWindowID(currentWindow()->sdl);
+    event.window.windowID = SDL_GetWindowID(sdlWindow());
     event.window.event = static_cast<Uint8>(windowEvent);
     SDL_PushEvent(&event);
 }
@@ -97,12 +91,15 @@ inline std::vector<MSG> messagesNow() {
     return messages;
 }
 
-inline Numbers numbersNow() {
-    Numbers numbers;
-    for (const MSG& message : messagesNow()) {
-        numbers.push_back(message.message);
-    }
-    return numbers;
+// The system's text for its last error.
+inline std::string lastErrorWords() {
+    char* text = nullptr;
+    const DWORD length =
+        FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM, nullptr,
+                       GetLastError(), 0, reinterpret_cast<char*>(&text), 0, nullptr);
+    const std::string words(text, length);
+    LocalFree(text);
+    return words;
 }
 
 // The window is shown and has nothing to tell; WM_CLOSE does not close it.
@@ -115,8 +112,9 @@ struct OnSdl : testing::Test {
     }
     ~OnSdl() override {
         stoppedClock.reset();
-        roomOnDesktop.reset();
-        closeTestWindow();
+        answers.clear();
+        DefWindowProcA(currentWindow(), WM_CLOSE, 0, 0);
+        heard.clear();
     }
     const HWND window = openTestWindow();
 };

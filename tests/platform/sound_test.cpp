@@ -1,78 +1,212 @@
-// Effects and the beep, as they are heard.
+// Effects, the beep and music, from their files to the ear and back to the game.
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <vector>
 
-#include <sys/stat.h>
+#include <SDL.h>
+#include <gtest/gtest.h>
 
+#include "platform/sdl/sequencer.h"
 #include "platform/sdl/sound.h"
 #include "platform/small_music.h"
 #include "platform/windows_api.h"
 
 namespace {
 
-BOOL play(const std::string& fileName) {
+using Ended = std::vector<unsigned>; // pieces, by their device
+using Samples = std::vector<int>;
+
+// A machine whose audio device writes into a file, in a folder of its own.
+struct Sounds : testing::Test {
+    std::string folder = std::filesystem::temp_directory_path() / "glorbix_XXXXXX";
+    std::string device;
+
+    Sounds() {
+        mkdtemp(folder.data());
+        device = folder + "/device";
+        setenv("SDL_AUDIODRIVER", "disk", 1);
+        setenv("SDL_DISKAUDIOFILE", device.c_str(), 1);
+        setenv("SDL_SOUNDFONTS", write("tone.sf2", toneFont()).c_str(), 1);
+    }
+
+    ~Sounds() override {
+        heard();
+        std::filesystem::remove_all(folder);
+    }
+
+    std::string write(const std::string& name, const std::string& bytes) const {
+        std::ofstream(folder + "/" + name, std::ios::binary) << bytes;
+        return folder + "/" + name;
+    }
+
+    // The game looks for messages while the device takes that many seconds of sound.
+    Ended listen(double seconds, UINT remove = PM_REMOVE) const {
+        Ended ended;
+        const auto bytes = static_cast<std::uintmax_t>(seconds * 4 * samplesPerSecond);
+        const std::uintmax_t end = std::filesystem::file_size(device) + bytes;
+        for (int i = 0; i < 10'000 && std::filesystem::file_size(device) < end; ++i) {
+            MSG message;
+            if (PeekMessageA(&message, nullptr, MM_MCINOTIFY, MM_MCINOTIFY, remove)) {
+                ended.push_back(static_cast<unsigned>(message.lParam));
+            }
+            SDL_Delay(1);
+        }
+        return ended;
+    }
+
+    // Closes the device: all that was to be heard, samples of the left speaker.
+    Samples heard() const {
+        stopSequencer();
+        stopSound();
+        std::ifstream file(device, std::ios::binary);
+        Samples left;
+        for (std::int16_t pair[2]; file.read(reinterpret_cast<char*>(pair), sizeof pair);) {
+            left.push_back(pair[0]);
+        }
+        return left;
+    }
+};
+
+double secondsAt(const Samples& samples, int level) {
+    const auto count = std::count(samples.begin(), samples.end(), level);
+    return static_cast<double>(count) / samplesPerSecond;
+}
+
+// From the first sound to the last.
+double secondsOfSound(Samples::const_iterator begin, Samples::const_iterator end) {
+    const auto loud = [](int level) { return std::abs(level) > 50; };
+    begin = std::find_if(begin, end, loud);
+    while (begin < end && !loud(*(end - 1))) {
+        --end;
+    }
+    return static_cast<double>(end - begin) / samplesPerSecond;
+}
+
+int linesOfTheGame() {
+    const std::string text = testing::internal::GetCapturedStderr();
+    int count = 0;
+    for (auto at = text.find("glorbix: "); at != text.npos; at = text.find("glorbix: ", at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+BOOL playEffect(const std::string& fileName) {
     return PlaySoundA(fileName.c_str(), nullptr, SND_ASYNC | SND_FILENAME);
 }
 
-double secondsAt(const std::vector<std::int16_t>& samples, int level) {
-    return static_cast<double>(std::count(samples.begin(), samples.end(), level)) / 44100.0;
+// Gives the device, 0 where the file is refused.
+MCIDEVICEID playPiece(const std::string& fileName) {
+    MCI_OPEN_PARMSA open = {};
+    open.lpstrDeviceType = "sequencer";
+    open.lpstrElementName = fileName.c_str();
+    const MCIERROR error = mciSendCommandA(0, MCI_OPEN, MCI_OPEN_TYPE | MCI_OPEN_ELEMENT,
+                                           reinterpret_cast<DWORD_PTR>(&open));
+    EXPECT_EQ(error == 0, open.wDeviceID != 0);
+    MCI_PLAY_PARMS play = {};
+    play.dwCallback = 1; // any window
+    const MCIERROR playError =
+        mciSendCommandA(open.wDeviceID, MCI_PLAY, MCI_NOTIFY, reinterpret_cast<DWORD_PTR>(&play));
+    EXPECT_EQ(playError == 0, open.wDeviceID != 0);
+    return open.wDeviceID;
 }
 
-using Effects = SoundTest;
+MCIERROR closePiece(MCIDEVICEID device) {
+    return mciSendCommandA(device, MCI_CLOSE, 0, 0);
+}
 
-TEST_F(Effects, PlayOnceAndCutOffTheOneBefore) {
-    const std::string low = write("low.wav", waveFile(3000, 1.0));
-    const std::string high = write("high.wav", waveFile(9000, 0.2));
-    EXPECT_EQ(play(low), TRUE);
-    watch(0.3);
-    EXPECT_EQ(play(high), TRUE);
-    watch(0.8);
-    const std::vector<std::int16_t> samples = heard();
+TEST_F(Sounds, OfEffectsComeOnceAndCutOffTheOneBefore) {
+    EXPECT_EQ(playEffect(write("low.wav", waveFile(3000, 5.0))), TRUE);
+    listen(0.2);
+    EXPECT_EQ(playEffect(write("high.wav", waveFile(9000, 0.2))), TRUE);
+    listen(0.5);
+    EXPECT_EQ(MessageBeep(10000), TRUE);
+    listen(0.4);
+    const Samples samples = heard();
     EXPECT_NEAR(secondsAt(samples, 9000), 0.2, 0.001) << "whole, once, with nothing beside it";
     EXPECT_GT(secondsAt(samples, 3000), 0.05);
-    EXPECT_LT(secondsAt(samples, 3000), 0.9);
-    EXPECT_NEAR(secondsAt(samples, 9000) + secondsAt(samples, 3000),
-                secondsFromFirstToLast(samples), 0.001);
+    const auto high = std::find(samples.rbegin(), samples.rend(), 9000).base();
+    EXPECT_NEAR(secondsOfSound(high, samples.end()), 0.15, 0.05) << "the beep";
 }
 
-TEST_F(Effects, ThatCannotBePlayedSayItOnceAndLeaveTheRestAlone) {
-    const std::string pipe = (folder / "pipe.wav").string();
-    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    const std::string none = (folder / "none.wav").string();
-    const std::string empty = write("empty.wav", "");
-    const std::string junk = write("junk.wav", std::string(300, 'j'));
+TEST_F(Sounds, ThatCannotBePlayedSayItOnceAndLeaveTheRestAlone) {
     testing::internal::CaptureStderr();
-    for (const std::string& name : {none, folder.string(), pipe, empty, junk}) {
-        EXPECT_EQ(play(name), FALSE) << name;
-        EXPECT_EQ(play(name), FALSE) << name;
+    for (const std::string& name : {folder + "/none.wav", folder, write("junk.wav", "junk")}) {
+        EXPECT_EQ(playEffect(name), FALSE) << name;
+        EXPECT_EQ(playEffect(name), FALSE) << name;
     }
-    EXPECT_EQ(PlaySoundA(nullptr, nullptr, SND_ASYNC | SND_FILENAME), FALSE);
-    EXPECT_EQ(PlaySoundA(none.c_str(), nullptr, SND_FILENAME), FALSE) << "the game would wait";
-    EXPECT_EQ(linesOfTheGame().size(), 5u);
-    EXPECT_EQ(play(write("good.wav", waveFile(5000, 0.1))), TRUE);
-    watch(0.4);
+    const std::string good = write("good.wav", waveFile(5000, 0.1));
+    EXPECT_EQ(PlaySoundA(good.c_str(), nullptr, SND_FILENAME), FALSE) << "the game would wait";
+    EXPECT_EQ(playEffect(good), TRUE);
+    listen(0.3);
     EXPECT_NEAR(secondsAt(heard(), 5000), 0.1, 0.001);
-}
-
-TEST_F(Effects, BeepIsShortAndCutsOffToo) {
-    play(write("low.wav", waveFile(3000, 1.0)));
-    EXPECT_EQ(MessageBeep(10000), TRUE);
-    watch(0.5);
-    const std::vector<std::int16_t> samples = heard();
-    EXPECT_LT(secondsAt(samples, 3000), 0.5);
-    EXPECT_GT(*std::max_element(samples.begin(), samples.end()), 6000);
-    EXPECT_GT(secondsOfSound(samples), 0.1);
-    EXPECT_LT(secondsOfSound(samples), 0.3);
-}
-
-TEST_F(Effects, AreMissingOnAMachineWithoutADevice) {
     setenv("SDL_AUDIODRIVER", "none of this name", 1);
-    const std::string effect = write("effect.wav", waveFile(5000, 0.1));
+    EXPECT_FALSE(playEffect(good) || MessageBeep(10000));
+    EXPECT_EQ(linesOfTheGame(), 4);
+}
+
+TEST_F(Sounds, OfPiecesEndAndTheGameHearsOfItOnce) {
+    const MCIDEVICEID first = playPiece(write("piece.mid", pieceOf(0.6)));
+    EXPECT_EQ(listen(3.0), Ended{first});
+    EXPECT_EQ(closePiece(first), 0U);
+    const MCIDEVICEID second = playPiece(write("short.mid", pieceOf(0.1)));
+    EXPECT_NE(closePiece(first), 0U) << "long gone";
+    EXPECT_GT(listen(2.0, 0).size(), 0U) << "the game only looks at the message";
+    EXPECT_EQ(closePiece(second), 0U);
+    EXPECT_EQ(listen(0.2), Ended{});
+    const MCIDEVICEID third = playPiece(write("long.mid", pieceOf(7.0)));
+    listen(1.5);
+    EXPECT_EQ(closePiece(third), 0U);
+    EXPECT_EQ(listen(0.5), Ended{});
+    const Samples samples = heard();
+    EXPECT_NEAR(secondsOfSound(samples.begin(), samples.begin() + 132300), 0.6, 0.05);
+    EXPECT_GT(secondsOfSound(samples.end() - 88200, samples.end()), 0.5);
+    EXPECT_EQ(secondsOfSound(samples.end() - 14700, samples.end()), 0.0) << "at once";
+}
+
+TEST_F(Sounds, OfFilesThatAreNoMusicAreRefused) {
+    const std::string good = pieceOf(0.5);
+    const std::string slow("\0\xFF\x51\3\xFF\xFF\xFF\xFF\xFF\xFF\x7F\x90\x3C\x40", 14);
+    std::vector<std::string> names = {
+        folder + "/none.mid",
+        folder,
+        "/proc/self/mem", // as a disk that fails
+        write("header_and_junk.mid", good.substr(0, 14) + std::string(300, 'j')),
+        write("running.mid", midiFile(std::string("\0\x3C\x40\x60\x3C\0", 6))),
+        write("no_division.mid", midiFile(good.substr(22, 7), 0)),
+        write("silent.mid", midiFile("")),
+        write("centuries.mid", midiFile(slow, 1)),
+        write("too_large.mid", good + zeros(2 << 20)),
+    };
+    for (std::size_t size = 0; size < good.size(); ++size) {
+        names.push_back(write(std::to_string(size) + ".mid", good.substr(0, size)));
+    }
     testing::internal::CaptureStderr();
-    EXPECT_EQ(play(effect), FALSE);
-    EXPECT_EQ(MessageBeep(10000), FALSE);
-    EXPECT_FALSE(startSound());
-    EXPECT_EQ(linesOfTheGame().size(), 1u);
+    for (const std::string& name : names) {
+        EXPECT_EQ(playPiece(name), 0U) << name;
+    }
+    EXPECT_EQ(linesOfTheGame(), static_cast<int>(names.size()));
+}
+
+TEST_F(Sounds, OfPiecesUseTheFirstSoundFontThatIsNotBroken) {
+    const std::string piece = write("short.mid", pieceOf(0.3));
+    const std::string junk = write("junk.sf2", std::string(300, 'j'));
+    const std::string part = write("part.sf2", toneFont().substr(0, 2000));
+    const std::string good = write("with:colon.sf2", toneFont());
+    testing::internal::CaptureStderr();
+    setenv("SDL_SOUNDFONTS", "/none.sf2", 1);
+    EXPECT_EQ(playPiece(piece), 0U);
+    setenv("SDL_SOUNDFONTS", junk.c_str(), 1);
+    EXPECT_NE(playPiece(piece), 0U);
+    EXPECT_EQ(listen(1.5), Ended{}) << "the game would go through all its pieces";
+    setenv("SDL_SOUNDFONTS", (part + ":/none.sf2:" + folder + ';' + good).c_str(), 1);
+    const MCIDEVICEID device = playPiece(piece);
+    EXPECT_EQ(listen(2.0), Ended{device});
+    const Samples samples = heard();
+    EXPECT_NEAR(secondsOfSound(samples.begin(), samples.end()), 0.3, 0.05);
+    EXPECT_EQ(linesOfTheGame(), 4);
 }
 
 } // namespace

@@ -1,0 +1,147 @@
+// The clock, the files, and the folder that the game runs in.
+#include <filesystem>
+#include <fstream>
+
+#include "platform/sdl/working_directory.h"
+#include "platform/sdl_machine.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+TEST(Clock, GoesOnBetweenAnyTwoCallsAtItsFrequency) {
+    LARGE_INTEGER frequency = {};
+    EXPECT_TRUE(QueryPerformanceFrequency(&frequency));
+    const Uint64 start = SDL_GetPerformanceCounter(); // in nanoseconds
+    LARGE_INTEGER first = {};
+    QueryPerformanceCounter(&first);
+    LARGE_INTEGER now = first;
+    for (int i = 0; i < 100'000; ++i) {
+        const LONGLONG last = now.QuadPart;
+        QueryPerformanceCounter(&now);
+        ASSERT_GT(now.QuadPart, last);
+    }
+    const Uint64 most = SDL_GetPerformanceCounter() - start;
+    const LONGLONG ticks = now.QuadPart - first.QuadPart;
+    EXPECT_NEAR(ticks * 1e9 / frequency.QuadPart, most, most / 2);
+}
+
+// Installed data and a player's home in a new folder; the test may leave the current folder.
+struct Folders : testing::Test {
+    const fs::path before = fs::current_path();
+    fs::path root, data, own;
+    std::string why;
+
+    Folders() {
+        std::string name = fs::temp_directory_path() / "glorbix_XXXXXX";
+        root = fs::canonical(mkdtemp(name.data()));
+        data = root / "share/glorbix";
+        own = root / "home/.local/share/glorbix";
+        for (const char* folder : {"maps", "graphics", "sounds"}) {
+            fs::create_directories(data / folder);
+        }
+        std::ofstream(data / "maps/maplist.dat") << "1 maps/1.lev";
+        setenv("HOME", (root / "home").c_str(), 1);
+        unsetenv("XDG_DATA_HOME");
+    }
+
+    ~Folders() override {
+        fs::current_path(before);
+        fs::remove_all(root);
+    }
+
+    // What the game says on standard error while it enters.
+    std::string complaintOnEntering() {
+        testing::internal::CaptureStderr();
+        EXPECT_TRUE(enterPlayerFolder(data, why)) << why;
+        return testing::internal::GetCapturedStderr();
+    }
+
+    // Where a folder of the player's leads to.
+    fs::path seen(const char* folder) const { return fs::canonical(own / folder); }
+};
+
+HANDLE openFile(const std::string& name, DWORD creation = OPEN_EXISTING) {
+    return CreateFileA(name.c_str(), GENERIC_READ, 0, nullptr, creation, 0, nullptr);
+}
+
+TEST_F(Folders, HoldFilesThatAreReadInPartsToTheirEnd) {
+    const std::string file = root / "file";
+    std::ofstream(file, std::ios::binary) << std::string("ab\0\r\nf", 6);
+    const HANDLE handle = openFile(file);
+    std::string all;
+    for (const DWORD part : {4U, 2U, 0U}) {
+        char bytes[4] = {};
+        DWORD got = 99;
+        EXPECT_TRUE(ReadFile(handle, bytes, 4, &got, nullptr));
+        EXPECT_EQ(got, part);
+        all.append(bytes, got);
+    }
+    EXPECT_EQ(all, std::string("ab\0\r\nf", 6));
+    EXPECT_TRUE(CloseHandle(handle));
+}
+
+TEST_F(Folders, HoldFilesThatCannotBeRead) {
+    EXPECT_EQ(openFile(root / "none"), INVALID_HANDLE_VALUE);
+    EXPECT_NE(lastErrorWords().find("none\" cannot be read: No such file"), std::string::npos);
+    const DWORD first = GetLastError();
+    EXPECT_EQ(openFile(root), INVALID_HANDLE_VALUE);
+    EXPECT_NE(lastErrorWords().find("it is a folder"), std::string::npos) << lastErrorWords();
+    openFile(root / "none");
+    EXPECT_EQ(GetLastError(), first);
+    EXPECT_EQ(openFile(data / "maps/maplist.dat", 2), INVALID_HANDLE_VALUE) << "a new one";
+    const HANDLE broken = openFile("/proc/self/mem"); // nothing can be read at address 0
+    for (const HANDLE handle : {broken, HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
+        char byte = 0;
+        DWORD got = 99;
+        EXPECT_FALSE(ReadFile(handle, &byte, 1, &got, nullptr));
+        EXPECT_EQ(got, 0U);
+        EXPECT_EQ(CloseHandle(handle), handle == broken ? TRUE : FALSE);
+    }
+}
+
+TEST_F(Folders, OfThePlayerHaveLinksToTheData) {
+    EXPECT_FALSE(findGameData({root, root / "none"}));
+    EXPECT_EQ(findGameData({root / "none", data, root}), data);
+    EXPECT_EQ(complaintOnEntering(), "");
+    EXPECT_EQ(fs::current_path(), own);
+    EXPECT_EQ(seen("maps"), data / "maps");
+    EXPECT_EQ(seen("sounds"), data / "sounds");
+    fs::current_path(root);
+    setenv("XDG_DATA_HOME", "data", 1); // not valid: it must be absolute
+    complaintOnEntering();
+    EXPECT_EQ(fs::current_path(), own);
+    setenv("XDG_DATA_HOME", (root / "data").c_str(), 1);
+    complaintOnEntering();
+    EXPECT_EQ(fs::current_path(), root / "data/glorbix");
+}
+
+TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {
+    complaintOnEntering();
+    fs::create_directories(root / "mine/graphics");
+    fs::remove(own / "graphics");
+    fs::remove(own / "sounds");
+    fs::create_directory_symlink(root / "mine/graphics", own / "graphics");
+    fs::create_directory(own / "sounds");
+    fs::rename(data, root / "moved"); // installed a second time, elsewhere
+    data = root / "moved";
+    EXPECT_EQ(complaintOnEntering(), "");
+    EXPECT_EQ(seen("maps"), data / "maps");
+    EXPECT_EQ(seen("graphics"), root / "mine/graphics");
+    EXPECT_EQ(seen("sounds"), own / "sounds");
+    fs::remove_all(root / "mine");
+    EXPECT_NE(complaintOnEntering().find("graphics led nowhere"), std::string::npos);
+    EXPECT_EQ(seen("graphics"), data / "graphics");
+}
+
+TEST_F(Folders, OfTheDataServeWherePlayersCannotHaveTheirOwn) {
+    setenv("XDG_DATA_HOME", "/proc/self/mem", 1); // no folder
+    EXPECT_NE(complaintOnEntering().find("best times may be lost"), std::string::npos);
+    EXPECT_EQ(fs::current_path(), data);
+    fs::current_path(root);
+    fs::remove_all(data);
+    EXPECT_FALSE(enterPlayerFolder(data, why));
+    EXPECT_NE(why.find("cannot enter " + data.string()), std::string::npos) << why;
+}
+
+} // namespace
