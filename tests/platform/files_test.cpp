@@ -12,18 +12,15 @@ namespace {
 TEST(Clock, GoesOnBetweenAnyTwoCallsAtItsFrequency) {
     LARGE_INTEGER frequency = {};
     EXPECT_TRUE(QueryPerformanceFrequency(&frequency));
-    const Uint64 start = SDL_GetPerformanceCounter(); // in nanoseconds
     LARGE_INTEGER first = {};
     QueryPerformanceCounter(&first);
     LARGE_INTEGER now = first;
-    for (int i = 0; i < 100'000; ++i) {
+    for (const Uint64 start = SDL_GetTicks64(); SDL_GetTicks64() < start + 100;) {
         const LONGLONG last = now.QuadPart;
         QueryPerformanceCounter(&now);
         ASSERT_GT(now.QuadPart, last);
     }
-    const Uint64 most = SDL_GetPerformanceCounter() - start;
-    const LONGLONG ticks = now.QuadPart - first.QuadPart;
-    EXPECT_NEAR(ticks * 1e9 / frequency.QuadPart, most, most / 2);
+    EXPECT_GE(now.QuadPart - first.QuadPart, frequency.QuadPart / 20);
 }
 
 // Installed data and a player's home in a new folder; the test may leave the current folder.
@@ -57,7 +54,6 @@ struct Folders : testing::Test {
         return testing::internal::GetCapturedStderr();
     }
 
-    // Where a folder of the player's leads to.
     fs::path seen(const char* folder) const { return fs::canonical(own / folder); }
 };
 
@@ -65,38 +61,27 @@ HANDLE openFile(const std::string& name, DWORD creation = OPEN_EXISTING) {
     return CreateFileA(name.c_str(), GENERIC_READ, 0, nullptr, creation, 0, nullptr);
 }
 
-TEST_F(Folders, HoldFilesThatAreReadInPartsToTheirEnd) {
-    const std::string file = root / "file";
-    std::ofstream(file, std::ios::binary) << std::string("ab\0\r\nf", 6);
-    const HANDLE handle = openFile(file);
-    std::string all;
-    for (const DWORD part : {4U, 2U, 0U}) {
-        char bytes[4] = {};
-        DWORD got = 99;
-        EXPECT_TRUE(ReadFile(handle, bytes, 4, &got, nullptr));
-        EXPECT_EQ(got, part);
-        all.append(bytes, got);
-    }
-    EXPECT_EQ(all, std::string("ab\0\r\nf", 6));
+TEST_F(Folders, HoldFilesThatAreReadToTheirEndOrNotAtAll) {
+    std::ofstream(root / "file", std::ios::binary) << std::string("ab\0\r\nf", 6);
+    const HANDLE handle = openFile(root / "file");
+    char bytes[6] = {};
+    DWORD got = 99;
+    EXPECT_TRUE(ReadFile(handle, bytes, 4, &got, nullptr) && got == 4);
+    EXPECT_TRUE(ReadFile(handle, bytes + 4, 4, &got, nullptr) && got == 2);
+    EXPECT_TRUE(ReadFile(handle, bytes, 4, &got, nullptr) && got == 0);
+    EXPECT_EQ(std::string(bytes, 6), std::string("ab\0\r\nf", 6));
     EXPECT_TRUE(CloseHandle(handle));
-}
 
-TEST_F(Folders, HoldFilesThatCannotBeRead) {
     EXPECT_EQ(openFile(root / "none"), INVALID_HANDLE_VALUE);
     EXPECT_NE(lastErrorWords().find("none\" cannot be read: No such file"), std::string::npos);
-    const DWORD first = GetLastError();
     EXPECT_EQ(openFile(root), INVALID_HANDLE_VALUE);
     EXPECT_NE(lastErrorWords().find("it is a folder"), std::string::npos) << lastErrorWords();
-    openFile(root / "none");
-    EXPECT_EQ(GetLastError(), first);
-    EXPECT_EQ(openFile(data / "maps/maplist.dat", 2), INVALID_HANDLE_VALUE) << "a new one";
+    EXPECT_EQ(openFile(root / "file", 2), INVALID_HANDLE_VALUE) << "a new one";
     const HANDLE broken = openFile("/proc/self/mem"); // nothing can be read at address 0
-    for (const HANDLE handle : {broken, HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
-        char byte = 0;
-        DWORD got = 99;
-        EXPECT_FALSE(ReadFile(handle, &byte, 1, &got, nullptr));
-        EXPECT_EQ(got, 0U);
-        EXPECT_EQ(CloseHandle(handle), handle == broken ? TRUE : FALSE);
+    for (const HANDLE unread : {broken, HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
+        got = 99;
+        EXPECT_FALSE(ReadFile(unread, bytes, 1, &got, nullptr) || got != 0);
+        EXPECT_EQ(CloseHandle(unread), unread == broken ? TRUE : FALSE);
     }
 }
 

@@ -1,6 +1,4 @@
 // Every key: the message that it sends, and the state that the game asks for.
-#include <utility>
-
 #include "platform/sdl_machine.h"
 
 namespace {
@@ -36,21 +34,20 @@ const Row everyKey[] = {
 
 // The codes that are held while a key is.
 Codes heldWith(SDL_Scancode place) {
-    auto* keys = const_cast<Uint8*>(SDL_GetKeyboardState(nullptr));
-    keys[place] = 1;
+    Uint8& key = const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[place];
     Codes held;
+    key = 1;
     for (int code = 1; code < 256; ++code) {
         if (GetAsyncKeyState(code) < 0) { held.push_back(code); }
     }
-    keys[place] = 0;
+    key = 0;
     return held;
 }
 
 Codes codesNow() {
     Codes codes;
     for (const MSG& message : messagesNow()) {
-        EXPECT_EQ(message.message, WM_KEYDOWN);
-        codes.push_back(static_cast<int>(message.wParam));
+        codes.push_back(message.message == WM_KEYDOWN ? static_cast<int>(message.wParam) : -1);
     }
     return codes;
 }
@@ -83,20 +80,18 @@ TEST_F(Keys, GoByTheirLabelsForLettersAndByTheirPlacesForTheRest) {
                  {"comma on a French keyboard", SDL_SCANCODE_M, SDLK_COMMA, {188}},
                  {"its 1, labelled &", SDL_SCANCODE_1, SDLK_AMPERSAND, {'1'}},
                  {"period on a Dvorak keyboard", SDL_SCANCODE_E, SDLK_PERIOD, {190}},
-                 {"its apostrophe", SDL_SCANCODE_Q, SDLK_QUOTE, {}},
                  {"Cyrillic, in the place of A", SDL_SCANCODE_A, 0x444, {'A'}},
-                 {"Cyrillic, in the place of Z", SDL_SCANCODE_Z, 0x44F, {'Z'}},
                  {"an accented letter beside L", SDL_SCANCODE_SEMICOLON, 0xE9, {186}},
                  {"no letter in the place of one", SDL_SCANCODE_B, SDLK_MUTE, {}}};
     for (const auto& c : cases) {
-        SDL_Event event = keyEvent(SDL_KEYDOWN, c.place);
+        SDL_Event event = keyEvent(c.place);
         event.key.keysym.sym = c.label;
         SDL_PushEvent(&event);
         EXPECT_EQ(codesNow(), c.codes) << c.what;
     }
 }
 
-TEST_F(Keys, RepeatWithAMark) {
+TEST_F(Keys, RepeatWithAMarkAndBelongToTheSystemWithAlt) {
     pushKey(SDL_SCANCODE_DOWN);
     pushKey(SDL_SCANCODE_DOWN, KMOD_RSHIFT, true);
     pushEvent(SDL_KEYUP);
@@ -104,9 +99,7 @@ TEST_F(Keys, RepeatWithAMark) {
     ASSERT_EQ(messages.size(), 2U);
     EXPECT_EQ(messages[0].lParam, 1);
     EXPECT_EQ(messages[1].lParam, 1 | 1 << 30);
-}
-
-TEST_F(Keys, WithAltBelongToTheSystem) {
+    heard.clear();
     for (const int alt : {KMOD_LALT, KMOD_RALT}) {
         for (const bool full : {true, false}) {
             pushKey(SDL_SCANCODE_RETURN, alt);
@@ -117,8 +110,7 @@ TEST_F(Keys, WithAltBelongToTheSystem) {
         }
         pushKey(SDL_SCANCODE_F4, alt);
         pushKey(SDL_SCANCODE_F4, alt, true);
-        messagesNow();
-        EXPECT_EQ(std::exchange(heard, {}), (Numbers{WM_PAINT, WM_PAINT, WM_CLOSE}));
+        EXPECT_EQ(heardNow(), (Numbers{WM_PAINT, WM_PAINT, WM_CLOSE}));
     }
 }
 

@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <SDL.h>
@@ -58,8 +59,8 @@ inline bool hasFlag(SDL_WindowFlags flag) {
 }
 
 // A key with the label of an English keyboard.
-inline SDL_Event keyEvent(SDL_EventType type, SDL_Scancode place, int modifiers = KMOD_NONE,
-                          bool repeat = false) {
+inline SDL_Event keyEvent(SDL_Scancode place, int modifiers = KMOD_NONE, bool repeat = false,
+                          SDL_EventType type = SDL_KEYDOWN) {
     SDL_Event event = {};
     event.type = type;
     event.key.keysym = {place, SDL_GetKeyFromScancode(place), static_cast<Uint16>(modifiers), 0};
@@ -68,15 +69,15 @@ inline SDL_Event keyEvent(SDL_EventType type, SDL_Scancode place, int modifiers 
 }
 
 inline void pushKey(SDL_Scancode place, int modifiers = KMOD_NONE, bool repeat = false) {
-    SDL_Event event = keyEvent(SDL_KEYDOWN, place, modifiers, repeat);
+    SDL_Event event = keyEvent(place, modifiers, repeat);
     SDL_PushEvent(&event);
 }
 
-inline void pushEvent(SDL_EventType type, SDL_WindowEventID windowEvent = SDL_WINDOWEVENT_NONE) {
+inline void pushEvent(SDL_EventType type, SDL_WindowEventID what = SDL_WINDOWEVENT_NONE) {
     SDL_Event event = {};
     event.type = type;
     event.window.windowID = SDL_GetWindowID(sdlWindow());
-    event.window.event = static_cast<Uint8>(windowEvent);
+    event.window.event = static_cast<Uint8>(what);
     SDL_PushEvent(&event);
 }
 
@@ -91,12 +92,18 @@ inline std::vector<MSG> messagesNow() {
     return messages;
 }
 
+// What the window procedure has received since the last call.
+inline Numbers heardNow() {
+    messagesNow();
+    return std::exchange(heard, {});
+}
+
 // The system's text for its last error.
 inline std::string lastErrorWords() {
+    constexpr DWORD flags = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM;
     char* text = nullptr;
-    const DWORD length =
-        FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM, nullptr,
-                       GetLastError(), 0, reinterpret_cast<char*>(&text), 0, nullptr);
+    const DWORD length = FormatMessageA(flags, nullptr, GetLastError(), 0,
+                                        reinterpret_cast<char*>(&text), 0, nullptr);
     const std::string words(text, length);
     LocalFree(text);
     return words;
@@ -106,8 +113,7 @@ inline std::string lastErrorWords() {
 struct OnSdl : testing::Test {
     OnSdl() {
         ShowWindow(window, SW_SHOW);
-        messagesNow();
-        heard.clear();
+        heardNow();
         answers = {{WM_CLOSE, 0}};
     }
     ~OnSdl() override {
