@@ -62,20 +62,12 @@ TEST_F(Messages, OfTimersComeAtTheirPeriodInTheOrderOfTheirDueTimes) {
     for (const auto& [time, timers] : replaced) {
         EXPECT_EQ(timersAfter(time), timers);
     }
+    static UINT_PTR calledFor = 0;
+    SetTimer(window, 1, 10, [](HWND, UINT, UINT_PTR timer, DWORD) { calledFor = timer; });
+    timersAfter(10);
+    EXPECT_EQ(calledFor, 1U) << "with a procedure of its own";
     EXPECT_EQ(SetTimer(window, 900, never, nullptr), 900U);
     EXPECT_GT(SetTimer(nullptr, 2, never, nullptr), 900U) << "without a window: a new number";
-}
-
-UINT_PTR calledFor = 0;
-
-TEST_F(Messages, AreDispatchedToTheProcedureOfTheirTimerOrWindow) {
-    SetTimer(window, 1, 10, [](HWND, UINT, UINT_PTR timer, DWORD) { calledFor = timer; });
-    EXPECT_EQ(timersAfter(10), Numbers{1});
-    EXPECT_EQ(calledFor, 1U);
-    EXPECT_EQ(heardNow(), Numbers{});
-    answers[WM_USER] = 5;
-    const MSG message = {window, WM_USER, 6, 7, 0, {}};
-    EXPECT_EQ(DispatchMessageA(&message), 5);
 }
 
 TEST_F(Messages, AreFilteredByWindowAndRange) {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <vector>
 
 #include <SDL.h>
@@ -79,13 +80,10 @@ double secondsOfSound(const Samples& samples, double seconds = 60.0) {
 }
 
 // On standard error, where libraries write too.
-std::size_t linesOfTheGame() {
+auto linesOfTheGame() {
     const std::string text = testing::internal::GetCapturedStderr();
-    std::size_t count = 0;
-    for (auto at = text.find("glorbix: "); at != text.npos; at = text.find("glorbix: ", at + 1)) {
-        ++count;
-    }
-    return count;
+    const std::regex line("(^|\\n)glorbix: ");
+    return std::distance(std::sregex_iterator(text.begin(), text.end(), line), {});
 }
 
 BOOL playEffect(const std::string& fileName) {
@@ -137,7 +135,7 @@ TEST_F(Sounds, ThatCannotBePlayedSayItOnceAndLeaveTheRestAlone) {
     EXPECT_NEAR(secondsOfSound(heard()), 0.1, 0.001);
     setenv("SDL_AUDIODRIVER", "none of this name", 1);
     EXPECT_FALSE(playEffect(good) || MessageBeep(10000));
-    EXPECT_EQ(linesOfTheGame(), 4U);
+    EXPECT_EQ(linesOfTheGame(), 4);
 }
 
 TEST_F(Sounds, OfPiecesEndAndTheGameHearsOfItOnce) {
@@ -177,7 +175,7 @@ TEST_F(Sounds, OfFilesThatAreNoMusicAreRefused) {
     for (const std::string& name : names) {
         EXPECT_EQ(playPiece(name), 0U) << name;
     }
-    EXPECT_EQ(linesOfTheGame(), names.size());
+    EXPECT_EQ(linesOfTheGame(), std::ssize(names));
 }
 
 TEST_F(Sounds, OfPiecesUseTheFirstSoundFontThatIsNotBroken) {
@@ -195,7 +193,7 @@ TEST_F(Sounds, OfPiecesUseTheFirstSoundFontThatIsNotBroken) {
     const MCIDEVICEID device = playPiece(piece);
     EXPECT_EQ(listen(2.0), Ended{device});
     EXPECT_NEAR(secondsOfSound(heard()), 0.3, 0.05);
-    EXPECT_EQ(linesOfTheGame(), 4U);
+    EXPECT_EQ(linesOfTheGame(), 4);
 }
 
 } // namespace
