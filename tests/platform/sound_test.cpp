@@ -8,6 +8,7 @@
 
 #include <SDL.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "platform/sdl/sequencer.h"
 #include "platform/sdl/sound.h"
@@ -161,10 +162,13 @@ TEST_F(Sounds, OfPiecesEndAndTheGameHearsOfItOnce) {
 
 TEST_F(Sounds, OfFilesThatAreNoMusicAreRefused) {
     const std::string good = pieceOf(0.5);
+    const std::string pipe = folder + "/pipe"; // reading it would wait for a writer
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
     const std::string slow("\0\xFF\x51\3\xFF\xFF\xFF\xFF\xFF\xFF\x7F\x90\x3C\x40", 14);
     std::vector<std::string> names = {
         folder + "/none.mid",
         folder,
+        pipe,
         write("header_and_junk.mid", good.substr(0, 14) + std::string(300, 'j')),
         write("running.mid", midiFile(std::string("\0\x3C\x40\x60\x3C\0", 6))),
         write("no_division.mid", midiFile(good.substr(22, 7), 0)),

@@ -42,7 +42,7 @@ struct Surface : OnSdl {
         EXPECT_FALSE(SetPixelFormat(dc, 1, &format)) << "none is chosen yet";
         EXPECT_EQ(lastErrorWords(), "The window has no such pixel format.");
         EXPECT_EQ(ChoosePixelFormat(dc, &format), 1) << lastErrorWords();
-        EXPECT_TRUE(SetPixelFormat(dc, 1, &format));
+        EXPECT_TRUE(SetPixelFormat(dc, 1, &format) && !SetPixelFormat(dc, 2, &format));
         EXPECT_EQ(SDL_GL_GetCurrentContext(), nullptr) << "the game binds it";
         context = wglCreateContext(dc);
         EXPECT_TRUE(wglMakeCurrent(dc, context));
@@ -83,10 +83,11 @@ TEST_F(Surface, Is640By480In16BitsWith16BitsOfDepth) {
                     numbersOf(GL_BLUE_BITS)[0], numbersOf(GL_DEPTH_BITS)[0]}),
               (Four{5, 6, 5, 16}));
     EXPECT_NE(SDL_GL_GetSwapInterval(), 0) << "frames wait for the display";
+    EXPECT_EQ(wglCreateContext(dc), nullptr) << "the game has it";
     EXPECT_TRUE(wglMakeCurrent(dc, nullptr));
     EXPECT_FALSE(SwapBuffers(dc)) << "nothing is bound";
     EXPECT_TRUE(wglDeleteContext(context));
-    EXPECT_FALSE(wglMakeCurrent(dc, context)) << "it is gone";
+    EXPECT_FALSE(wglMakeCurrent(dc, context) || wglDeleteContext(context)) << "it is gone";
 }
 
 TEST_F(Surface, IsShownBetweenBlackBars) {
