@@ -53,7 +53,7 @@ void measure(BoxLayout& layout) {
     layout.height = height * layout.scale;
 }
 
-BoxLayout layOutAt(const BoxWords& box, int scale, int roomWidth) {
+BoxLayout layOutAt(const BoxContent& box, int scale, int roomWidth) {
     const int room = (roomWidth / scale - 2 * margin) / advance;
     const std::size_t columns = std::min(mostColumns, static_cast<std::size_t>(std::max(room, 1)));
     BoxLayout layout;
@@ -108,7 +108,7 @@ struct Brush {
 
 } // namespace
 
-BoxLayout layOutBox(const BoxWords& box, int scale, int roomWidth, int roomHeight) {
+BoxLayout layOutBox(const BoxContent& box, int scale, int roomWidth, int roomHeight) {
     for (;; --scale) {
         BoxLayout layout = layOutAt(box, scale, roomWidth);
         if (layout.width <= roomWidth && layout.height <= roomHeight) { return layout; }
@@ -119,12 +119,12 @@ BoxLayout layOutBox(const BoxWords& box, int scale, int roomWidth, int roomHeigh
     }
 }
 
-SDL_Rect paintBox(SDL_Surface& surface, const BoxWords& box, const BoxLayout& layout) {
+SDL_Rect paintBox(SDL_Surface& surface, const BoxContent& box, const BoxLayout& layout) {
     const Brush brush = {surface, (surface.w - layout.width) / 2, (surface.h - layout.height) / 2,
                          layout.scale};
     const int width = layout.width / layout.scale;
     const int height = layout.height / layout.scale;
-    const SDL_Colour accent = box.alarming ? errorBand : noticeBand;
+    const SDL_Colour accent = box.isError ? errorBand : noticeBand;
     const int band = bandHeight(layout);
     const int buttonX = (width - buttonWidth) / 2;
     const int buttonY = height - margin - buttonHeight;

@@ -6,10 +6,10 @@
 
 #include <SDL.h>
 
-struct BoxWords {
+struct BoxContent {
     std::string caption;
     std::string text;
-    bool alarming = false; // an error rather than a notice
+    bool isError = false; // an error rather than a notice
 };
 
 // All lengths in pixels.
@@ -23,8 +23,8 @@ struct BoxLayout {
 
 // The box at the largest scale, up to the one given, at which it fits into that room. Where even
 // scale 1 is too large, the text is cut and ends with "...".
-BoxLayout layOutBox(const BoxWords& words, int scale, int roomWidth, int roomHeight);
+BoxLayout layOutBox(const BoxContent& words, int scale, int roomWidth, int roomHeight);
 
 // Paints the box in the middle of the surface, which it fills with the box's ground colour, and
 // returns where the button is.
-SDL_Rect paintBox(SDL_Surface& surface, const BoxWords& words, const BoxLayout& layout);
+SDL_Rect paintBox(SDL_Surface& surface, const BoxContent& words, const BoxLayout& layout);

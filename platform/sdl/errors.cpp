@@ -14,8 +14,8 @@ namespace {
 struct Errors {
     std::vector<std::string> texts = {"There is no error."}; // by their code
     DWORD last = 0;
-    bool machineFailed = false;
-    std::set<std::string> complaints;
+    bool fatal = false;
+    std::set<std::string> logged;
 };
 
 Errors errors;
@@ -38,21 +38,21 @@ const std::string& lastErrorText() {
     return errors.texts[errors.last];
 }
 
-void failMachine(const std::string& text) {
+void setFatalError(const std::string& text) {
     setLastError(text);
-    errors.machineFailed = true;
+    errors.fatal = true;
 }
 
-bool machineFailed() {
-    return errors.machineFailed;
+bool hadFatalError() {
+    return errors.fatal;
 }
 
-void complain(const std::string& text) {
+void logError(const std::string& text) {
     std::fprintf(stderr, "glorbix: %s\n", text.c_str());
 }
 
-void complainOnce(const std::string& text) {
-    if (errors.complaints.insert(text).second) { complain(text); }
+void logErrorOnce(const std::string& text) {
+    if (errors.logged.insert(text).second) { logError(text); }
 }
 
 DWORD WINAPI GetLastError() {

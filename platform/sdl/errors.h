@@ -9,13 +9,13 @@
 void setLastError(const std::string& text);
 const std::string& lastErrorText();
 
-// The same for a failure that no game survives, such as no display or no OpenGL; `machineFailed`
+// The same for a failure that no game survives, such as no display or no OpenGL; `hadFatalError`
 // is true ever after.
-void failMachine(const std::string& text);
-bool machineFailed();
+void setFatalError(const std::string& text);
+bool hadFatalError();
 
 // Writes "glorbix: " and the text as one line on standard error.
-void complain(const std::string& text);
+void logError(const std::string& text);
 
 // The same, but each text only once in the life of the process.
-void complainOnce(const std::string& text);
+void logErrorOnce(const std::string& text);

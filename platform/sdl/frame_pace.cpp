@@ -10,7 +10,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds shortestFrame(4);
-constexpr int unseenFrame = 100; // milliseconds
+constexpr int hiddenFrame = 100; // milliseconds
 
 Clock::time_point lastFrame;
 
@@ -21,6 +21,6 @@ void waitForNextFrame() {
     lastFrame = Clock::now();
 }
 
-void waitUnseen() {
-    SDL_WaitEventTimeout(nullptr, unseenFrame);
+void waitWhileHidden() {
+    SDL_WaitEventTimeout(nullptr, hiddenFrame);
 }

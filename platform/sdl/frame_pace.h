@@ -7,4 +7,4 @@
 void waitForNextFrame();
 
 // For a game that nobody sees: returns after 0.1 s, or as soon as an event of SDL waits.
-void waitUnseen();
+void waitWhileHidden();

@@ -6,41 +6,41 @@
 
 namespace {
 
-void takeFocus(WindowHandle& window, bool focused) {
+void handleFocus(WindowHandle& window, bool focused) {
     if (window.focused == focused) { return; }
     window.focused = focused;
-    queueInput(&window, focused ? WM_SETFOCUS : WM_KILLFOCUS);
+    postInput(&window, focused ? WM_SETFOCUS : WM_KILLFOCUS);
 }
 
 // Keys with Alt belong to the system. Two of them mean something, the others stay unheard.
-void takeAltKey(WindowHandle& window, int key, bool repeated) {
+void handleAltKey(WindowHandle& window, int key, bool repeated) {
     if (repeated) { return; }
     if (key == VK_RETURN) { toggleFullScreen(); }
-    if (key == VK_F4) { queueInput(&window, WM_CLOSE); }
+    if (key == VK_F4) { postInput(&window, WM_CLOSE); }
 }
 
-void takeKeyDown(WindowHandle& window, const SDL_KeyboardEvent& event) {
+void handleKeyDown(WindowHandle& window, const SDL_KeyboardEvent& event) {
     constexpr LPARAM onePress = 1;
     constexpr LPARAM wasDown = LPARAM{1} << 30;
     const int key = virtualKeyOf(event.keysym);
     if (key == 0) { return; }
     if (event.keysym.mod & KMOD_ALT) {
-        takeAltKey(window, key, event.repeat != 0);
+        handleAltKey(window, key, event.repeat != 0);
     } else {
-        queueInput(&window, WM_KEYDOWN, static_cast<WPARAM>(key),
-                   event.repeat ? onePress | wasDown : onePress);
+        postInput(&window, WM_KEYDOWN, static_cast<WPARAM>(key),
+                  event.repeat ? onePress | wasDown : onePress);
     }
 }
 
 } // namespace
 
-void takeGameWindowEvent(const SDL_WindowEvent& event) {
+void handleGameWindowEvent(const SDL_WindowEvent& event) {
     const HWND window = currentWindow();
     if (!window) { return; }
     switch (event.event) {
-    case SDL_WINDOWEVENT_CLOSE: queueInput(window, WM_CLOSE); break;
-    case SDL_WINDOWEVENT_FOCUS_GAINED: takeFocus(*window, true); break;
-    case SDL_WINDOWEVENT_FOCUS_LOST: takeFocus(*window, false); break;
+    case SDL_WINDOWEVENT_CLOSE: postInput(window, WM_CLOSE); break;
+    case SDL_WINDOWEVENT_FOCUS_GAINED: handleFocus(*window, true); break;
+    case SDL_WINDOWEVENT_FOCUS_LOST: handleFocus(*window, false); break;
     case SDL_WINDOWEVENT_EXPOSED:
     case SDL_WINDOWEVENT_SIZE_CHANGED: window->needsPaint = true; break;
     default: break;
@@ -48,14 +48,14 @@ void takeGameWindowEvent(const SDL_WindowEvent& event) {
 }
 
 // The signals that ask a process to end arrive as SDL_QUIT.
-void gatherInput() {
+void pollInput() {
     const HWND window = currentWindow();
     SDL_Event event;
     while (window && SDL_PollEvent(&event)) {
         switch (event.type) {
-        case SDL_QUIT: queueInput(window, WM_CLOSE); break;
-        case SDL_WINDOWEVENT: takeGameWindowEvent(event.window); break;
-        case SDL_KEYDOWN: takeKeyDown(*window, event.key); break;
+        case SDL_QUIT: postInput(window, WM_CLOSE); break;
+        case SDL_WINDOWEVENT: handleGameWindowEvent(event.window); break;
+        case SDL_KEYDOWN: handleKeyDown(*window, event.key); break;
         default: break;
         }
     }

@@ -4,7 +4,7 @@
 #include <SDL.h>
 
 // Turns everything that has happened since the last call into input messages.
-void gatherInput();
+void pollInput();
 
 // Does the same with one event of the game's window. Nothing happens while there is no window.
-void takeGameWindowEvent(const SDL_WindowEvent& event);
+void handleGameWindowEvent(const SDL_WindowEvent& event);

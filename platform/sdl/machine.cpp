@@ -21,7 +21,7 @@ void setHints() {
 
 // Without a display SDL falls back to one that nobody sees, which counts only when asked for.
 bool isDisplayWanted() {
-    return isDisplaySeen() || SDL_GetHint(SDL_HINT_VIDEODRIVER);
+    return isDisplayVisible() || SDL_GetHint(SDL_HINT_VIDEODRIVER);
 }
 
 // Message boxes are painted without OpenGL where SDL knows how.
@@ -32,7 +32,7 @@ void setPaintHint() {
 }
 
 bool fail(const std::string& why) {
-    failMachine("There is no display to play on: " + why + ".");
+    setFatalError("There is no display to play on: " + why + ".");
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
     return false;
 }
@@ -53,12 +53,12 @@ bool startVideo() {
     return started;
 }
 
-bool isDisplaySeen() {
+bool isDisplayVisible() {
     const std::string driver = SDL_GetCurrentVideoDriver();
     return driver != "offscreen" && driver != "dummy";
 }
 
-void stopMachine() {
+void shutDown() {
     stopSequencer();
     stopSound();
     stopSurface();

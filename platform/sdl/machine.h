@@ -7,7 +7,7 @@ bool startVideo();
 
 // Whether a player can see the display and press keys on it: false on the drivers of SDL that
 // keep windows in memory only. Video must have started.
-bool isDisplaySeen();
+bool isDisplayVisible();
 
 // Gives everything back in the right order: music, sounds, the drawing surface, the window, SDL.
-void stopMachine();
+void shutDown();

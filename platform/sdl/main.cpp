@@ -15,19 +15,19 @@ constexpr int failedStart = 1;
 
 int runGame() {
     std::string why;
-    if (!settleWorkingDirectory(why)) {
+    if (!chooseWorkingDirectory(why)) {
         MessageBoxA(nullptr, why.c_str(), "Error", MB_ICONHAND);
         return failedStart;
     }
     char noArguments[] = "";
     const int code = WinMain(nullptr, nullptr, noArguments, SW_SHOW);
-    return code == 0 && machineFailed() ? failedStart : code;
+    return code == 0 && hadFatalError() ? failedStart : code;
 }
 
 } // namespace
 
 int main(int, char*[]) {
     const int code = runGame();
-    stopMachine();
+    shutDown();
     return code;
 }

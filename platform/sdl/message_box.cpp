@@ -58,7 +58,7 @@ void requestEnd() {
 
 } // namespace
 
-bool MessageBox::open(const BoxWords& box, SDL_Window* over) {
+bool MessageBox::open(const BoxContent& box, SDL_Window* over) {
     words = box;
     gameWindow = isShown(over) ? over : nullptr;
     drawnOn = SDL_GL_GetCurrentWindow();
@@ -103,19 +103,19 @@ bool MessageBox::paint() {
 }
 
 void MessageBox::wait() {
-    const bool answerable = isDisplaySeen();
+    const bool answerable = isDisplayVisible();
     for (;;) {
         SDL_Event event;
         const bool came = SDL_WaitEventTimeout(&event, answerable ? lookInterval : 1) != 0;
-        if (came ? take(event) : !answerable) { return; }
+        if (came ? handle(event) : !answerable) { return; }
     }
 }
 
-bool MessageBox::take(const SDL_Event& event) {
+bool MessageBox::handle(const SDL_Event& event) {
     switch (event.type) {
     case SDL_QUIT: requestEnd(); return true;
-    case SDL_WINDOWEVENT: return takeWindowEvent(event.window);
-    case SDL_KEYDOWN: takeKeyDown(event.key); return false;
+    case SDL_WINDOWEVENT: return handleWindowEvent(event.window);
+    case SDL_KEYDOWN: handleKeyDown(event.key); return false;
     case SDL_KEYUP: return pressed != SDL_SCANCODE_UNKNOWN && event.key.keysym.scancode == pressed;
     case SDL_MOUSEBUTTONDOWN: clicking = isOnButton(event.button); return false;
     case SDL_MOUSEBUTTONUP: return clicking && isOnButton(event.button);
@@ -123,13 +123,13 @@ bool MessageBox::take(const SDL_Event& event) {
     }
 }
 
-bool MessageBox::takeWindowEvent(const SDL_WindowEvent& event) {
+bool MessageBox::handleWindowEvent(const SDL_WindowEvent& event) {
     if (event.windowID != SDL_GetWindowID(sdl)) {
         if (event.event == SDL_WINDOWEVENT_CLOSE) {
             requestEnd();
             return true;
         }
-        takeGameWindowEvent(event);
+        handleGameWindowEvent(event);
         return false;
     }
     switch (event.event) {
@@ -141,7 +141,7 @@ bool MessageBox::takeWindowEvent(const SDL_WindowEvent& event) {
 }
 
 // A key that is still down from the play before repeats as if it were pressed anew.
-void MessageBox::takeKeyDown(const SDL_KeyboardEvent& event) {
+void MessageBox::handleKeyDown(const SDL_KeyboardEvent& event) {
     const SDL_Scancode key = event.keysym.scancode;
     const bool still =
         heldBefore[static_cast<std::size_t>(key)] && SDL_GetTicks64() - opened < firstRepeatWithin;

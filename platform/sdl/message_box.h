@@ -20,13 +20,13 @@
 struct MessageBox {
     // Opens and paints the box, in front of the game's window `over` (null: there is none).
     // Returns false where no window can be opened or painted; nothing is left then.
-    bool open(const BoxWords& box, SDL_Window* over);
+    bool open(const BoxContent& box, SDL_Window* over);
 
     // Waits, without keeping the processor busy, until an event closes the box.
     void wait();
 
     // Acts on one event. Returns true when it closes the box.
-    bool take(const SDL_Event& event);
+    bool handle(const SDL_Event& event);
 
     // Closes the window, and gives the keyboard back to the game's window where the box had it.
     void close();
@@ -36,11 +36,11 @@ struct MessageBox {
 
 private:
     bool paint();
-    bool takeWindowEvent(const SDL_WindowEvent& event);
-    void takeKeyDown(const SDL_KeyboardEvent& event);
+    bool handleWindowEvent(const SDL_WindowEvent& event);
+    void handleKeyDown(const SDL_KeyboardEvent& event);
     bool isOnButton(const SDL_MouseButtonEvent& event) const;
 
-    BoxWords words;
+    BoxContent words;
     int scale = 1; // wanted, on a display of one pixel a point
     SDL_Window* gameWindow = nullptr;
     SDL_Window* drawnOn = nullptr; // where OpenGL drew before the box opened

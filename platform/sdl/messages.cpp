@@ -78,19 +78,19 @@ bool takeTimer(const Wanted& wanted, bool remove, MSG* taken) {
     *taken = newMessage(timer->window, WM_TIMER, timer->number,
                         reinterpret_cast<LPARAM>(timer->callback));
     if (!wanted.accepts(*taken)) { return false; }
-    if (remove) { rewindTimer(*timer, SDL_GetTicks64()); }
+    if (remove) { rearmTimer(*timer, SDL_GetTicks64()); }
     return true;
 }
 
 } // namespace
 
-void queueInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+void postInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (queue.input.size() < queueRoom) {
         queue.input.push_back(newMessage(window, message, wParam, lParam));
     }
 }
 
-void withdrawMessages(UINT message, WPARAM wParam) {
+void removePostedMessages(UINT message, WPARAM wParam) {
     std::erase_if(queue.posted, [&](const MSG& posted) {
         return posted.message == message && posted.wParam == wParam;
     });
@@ -100,9 +100,9 @@ BOOL WINAPI PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT 
     if (!message) { return FALSE; }
     const Wanted wanted = {window, first, last};
     const bool removing = (remove & PM_REMOVE) != 0;
-    runSequencer();
+    updateSequencer();
     if (takeFrom(queue.posted, wanted, removing, message)) { return TRUE; }
-    gatherInput();
+    pollInput();
     const bool found = takeQuit(removing, message) ||
                        takeFrom(queue.input, wanted, removing, message) ||
                        takePaint(wanted, message) || takeTimer(wanted, removing, message);

@@ -5,7 +5,7 @@
 #include "platform/windows_api.h"
 
 // Puts a message of the player or the window system at the end of the input.
-void queueInput(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+void postInput(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 // Takes messages that were posted with that number and wParam out of the queue again.
-void withdrawMessages(UINT message, WPARAM wParam);
+void removePostedMessages(UINT message, WPARAM wParam);

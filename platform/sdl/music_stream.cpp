@@ -139,12 +139,12 @@ void haltMusic() {
     stream.take(nullptr);
 }
 
-bool isMusicOver() {
+bool isMusicFinished() {
     const std::lock_guard lock(stream.mutex);
     return stream.phase == Phase::Over;
 }
 
-std::vector<std::string> takeMusicProblems() {
+std::vector<std::string> takeMusicErrors() {
     const std::lock_guard lock(stream.mutex);
     return std::exchange(stream.problems, {});
 }

@@ -18,10 +18,10 @@ bool playMusic(std::vector<std::uint8_t> piece, std::vector<std::string> soundFo
 void haltMusic();
 
 // True when the piece has been played to its end.
-bool isMusicOver();
+bool isMusicFinished();
 
 // What went wrong since the last call, one line each.
-std::vector<std::string> takeMusicProblems();
+std::vector<std::string> takeMusicErrors();
 
 // Silence, and gives the instruments back. Call it before the audio device is closed.
 void stopMusicStream();

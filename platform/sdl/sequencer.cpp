@@ -40,13 +40,13 @@ Piece open;
 MCIDEVICEID lastDevice = 0;
 
 MCIERROR refuse(MCIERROR error, const std::string& why) {
-    complainOnce("no music: " + why);
+    logErrorOnce("no music: " + why);
     return error;
 }
 
 void close() {
     haltMusic();
-    withdrawMessages(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
+    removePostedMessages(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
     open = {};
 }
 
@@ -80,7 +80,7 @@ MCIERROR playPiece(DWORD_PTR flags, const MCI_PLAY_PARMS* request) {
     return 0;
 }
 
-MCIERROR tellStatus(DWORD_PTR flags, MCI_STATUS_PARMS* request) {
+MCIERROR reportStatus(DWORD_PTR flags, MCI_STATUS_PARMS* request) {
     const bool asksPort =
         (flags & MCI_STATUS_ITEM) && request && request->dwItem == MCI_SEQ_STATUS_PORT;
     if (!asksPort) { return unknownParameter; }
@@ -90,11 +90,11 @@ MCIERROR tellStatus(DWORD_PTR flags, MCI_STATUS_PARMS* request) {
 
 } // namespace
 
-void runSequencer() {
-    for (const std::string& problem : takeMusicProblems()) {
-        complainOnce(problem);
+void updateSequencer() {
+    for (const std::string& problem : takeMusicErrors()) {
+        logErrorOnce(problem);
     }
-    if (!open.listener || !isMusicOver()) { return; }
+    if (!open.listener || !isMusicFinished()) { return; }
     PostMessageA(open.listener, MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL,
                  static_cast<LPARAM>(open.device));
     open.listener = nullptr;
@@ -114,7 +114,7 @@ MCIERROR WINAPI mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flag
     switch (command) {
     case MCI_CLOSE: close(); return 0;
     case MCI_PLAY: return playPiece(flags, reinterpret_cast<MCI_PLAY_PARMS*>(parameters));
-    case MCI_STATUS: return tellStatus(flags, reinterpret_cast<MCI_STATUS_PARMS*>(parameters));
+    case MCI_STATUS: return reportStatus(flags, reinterpret_cast<MCI_STATUS_PARMS*>(parameters));
     default: return unknownCommand;
     }
 }

@@ -3,7 +3,7 @@
 
 // Posts MM_MCINOTIFY for a piece that is over, and says on standard error what the music lacks. The
 // message queue calls it whenever the game looks for messages.
-void runSequencer();
+void updateSequencer();
 
 // Ends the music without a message.
 void stopSequencer();

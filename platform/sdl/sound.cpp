@@ -23,7 +23,7 @@ constexpr int speakers = 2;
 constexpr int samplesPerBuffer = 1024; // 23 ms from the event to the ear
 constexpr int effectChannel = 0;
 constexpr std::size_t largestEffect = 64 << 20; // bytes
-constexpr double beepPitch = 880.0;             // hertz
+constexpr double beepFrequency = 880.0;         // hertz
 constexpr double beepLength = 0.15;             // seconds
 constexpr double beepAttack = 0.005;            // seconds; shorter ones click
 constexpr double beepVolume = 0.3;              // of the loudest possible
@@ -49,7 +49,7 @@ bool openDevice() {
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0 ||
         Mix_OpenAudioDevice(samplesPerSecond, AUDIO_S16SYS, speakers, samplesPerBuffer, nullptr,
                             0) != 0) {
-        complain(std::string("no sound: ") + SDL_GetError());
+        logError(std::string("no sound: ") + SDL_GetError());
         return false;
     }
     Mix_AllocateChannels(effectChannel + 1);
@@ -70,7 +70,7 @@ Mix_Chunk* effectNamed(const std::string& fileName) {
     if (known != sound.effects.end()) { return known->second.get(); }
     std::string why;
     Chunk loaded = load(fileName, why);
-    if (!loaded) { complain("cannot play " + fileName + ": " + why); }
+    if (!loaded) { logError("cannot play " + fileName + ": " + why); }
     return sound.effects.emplace(fileName, std::move(loaded)).first->second.get();
 }
 
@@ -84,7 +84,7 @@ void makeBeep() {
     const auto frames = static_cast<int>(beepLength * samplesPerSecond);
     for (int i = 0; i < frames; ++i) {
         const double seconds = static_cast<double>(i) / samplesPerSecond;
-        const double wave = std::sin(2.0 * std::numbers::pi * beepPitch * seconds);
+        const double wave = std::sin(2.0 * std::numbers::pi * beepFrequency * seconds);
         const double value = INT16_MAX * beepVolume * beepLoudness(seconds) * wave;
         sound.beepSamples.insert(sound.beepSamples.end(), speakers,
                                  static_cast<std::int16_t>(value));

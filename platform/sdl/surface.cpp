@@ -60,16 +60,16 @@ SDL_GLContext openContext(SDL_Window* window) {
 
 bool failPrepare(const std::string& why) {
     stopSurface();
-    failMachine(why);
+    setFatalError(why);
     return false;
 }
 
 // Makes context and surface unless they are there, and leaves them unbound: the game binds.
 bool prepareSurface(const WindowHandle& window) {
     if (surface.sdl) { return true; }
-    surface.sdl = window.whyPlain.empty() ? openContext(window.sdl) : nullptr;
+    surface.sdl = window.glFailure.empty() ? openContext(window.sdl) : nullptr;
     if (!surface.sdl) {
-        const std::string why = window.whyPlain.empty() ? SDL_GetError() : window.whyPlain;
+        const std::string why = window.glFailure.empty() ? SDL_GetError() : window.glFailure;
         return failPrepare("OpenGL could not be started: " + why + ".");
     }
     std::string why;
@@ -143,7 +143,7 @@ BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCR
 
 HGLRC WINAPI wglCreateContext(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
-    if (!window || surface.given || machineFailed() || !prepareSurface(*window)) { return nullptr; }
+    if (!window || surface.given || hadFatalError() || !prepareSurface(*window)) { return nullptr; }
     surface.given = true;
     return &surface;
 }
@@ -166,12 +166,12 @@ BOOL WINAPI wglDeleteContext(HGLRC context) {
 BOOL WINAPI SwapBuffers(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
     if (!window || !isCurrent()) { return FALSE; }
-    if (isWindowSeen()) {
+    if (isWindowVisible()) {
         showPicture(*window);
         waitForNextFrame();
     } else {
         glFlush(); // OpenGL keeps a queue of its own
-        waitUnseen();
+        waitWhileHidden();
     }
     return TRUE;
 }

@@ -59,7 +59,7 @@ bool hasEnded(const Synthesizer& synthesizer) {
 }
 
 // The time of a piece needs the number of ticks a beat, which ends the header.
-bool hasTime(std::span<const std::uint8_t> file) {
+bool hasDivision(std::span<const std::uint8_t> file) {
     return file.size() >= 14 && (file[12] != 0 || file[13] != 0);
 }
 
@@ -73,7 +73,8 @@ int countEvent(void* count, fluid_midi_event_t*) {
 bool isPlayableMidi(std::span<const std::uint8_t> file) {
     silenceLog();
     Synthesizer trial;
-    if (!hasTime(file) || !makeSynthesizer(trial, trialRate, false) || !trial.startPiece(file)) {
+    if (!hasDivision(file) || !makeSynthesizer(trial, trialRate, false) ||
+        !trial.startPiece(file)) {
         return false;
     }
     int events = 0; // stays 0 when the player refuses the file

@@ -28,7 +28,7 @@ const Timer* dueTimer(std::uint64_t now) {
     return first != timers.end() && first->due <= now ? &*first : nullptr;
 }
 
-void rewindTimer(const Timer& timer, std::uint64_t now) {
+void rearmTimer(const Timer& timer, std::uint64_t now) {
     Timer& own = timers[static_cast<std::size_t>(&timer - timers.data())];
     own.due += own.period * ((now - own.due) / own.period + 1);
 }

@@ -17,4 +17,4 @@ struct Timer {
 const Timer* dueTimer(std::uint64_t now);
 
 // Sets the timer to its next due time after `now`, keeping its beat.
-void rewindTimer(const Timer& timer, std::uint64_t now);
+void rearmTimer(const Timer& timer, std::uint64_t now);

@@ -42,7 +42,7 @@ void openWindow(const char* title) {
     };
     window.sdl = open(SDL_WINDOW_OPENGL);
     if (window.sdl) { return; }
-    window.whyPlain = SDL_GetError();
+    window.glFailure = SDL_GetError();
     window.sdl = open(0);
 }
 
@@ -92,7 +92,7 @@ HWND currentWindow() {
     return window.sdl ? &window : nullptr;
 }
 
-bool isWindowSeen() {
+bool isWindowVisible() {
     constexpr Uint32 unseen = SDL_WINDOW_HIDDEN | SDL_WINDOW_MINIMIZED;
     return window.sdl && (SDL_GetWindowFlags(window.sdl) & unseen) == 0;
 }
@@ -157,7 +157,7 @@ HWND WINAPI CreateWindowExA(DWORD, const char* name, const char* title, DWORD, i
     window.procedure = classProcedure;
     openWindow(title ? title : "");
     if (!window.sdl) {
-        failMachine(std::string("No window could be opened: ") + SDL_GetError() + ".");
+        setFatalError(std::string("No window could be opened: ") + SDL_GetError() + ".");
         return showLastError();
     }
     if (send(WM_CREATE) == -1) { closeWindow(); }

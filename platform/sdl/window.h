@@ -13,7 +13,7 @@ struct DeviceContextHandle {};
 struct WindowHandle {
     SDL_Window* sdl = nullptr; // null while there is no window
     WNDPROC procedure = nullptr;
-    std::string whyPlain; // why the window cannot show OpenGL; empty when it can
+    std::string glFailure; // why the window cannot show OpenGL; empty when it can
     DeviceContextHandle deviceContext;
     bool visible = false;
     bool focused = false;
@@ -24,7 +24,7 @@ struct WindowHandle {
 HWND currentWindow();
 
 // Whether the window is on the desktop: neither hidden nor minimised.
-bool isWindowSeen();
+bool isWindowVisible();
 
 // Makes the window, where there is one, cover the screen; or takes it off the screen.
 void coverScreen();

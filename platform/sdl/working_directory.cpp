@@ -68,7 +68,7 @@ bool linkOne(const fs::path& target, const fs::path& link, std::error_code& erro
         const fs::path before = fs::read_symlink(link, error);
         const bool leadsNowhere = !fs::exists(link, error);
         if (before == target || (!isOurTarget(before) && !leadsNowhere)) { return true; }
-        if (!isOurTarget(before)) { complain(link.string() + " led nowhere, and is linked anew"); }
+        if (!isOurTarget(before)) { logError(link.string() + " led nowhere, and is linked anew"); }
         if (!fs::remove(link, error)) { return false; }
     } else if (fs::exists(link, error)) {
         return true;
@@ -91,7 +91,7 @@ bool canWriteHere() {
 bool enterOwnFolder(const fs::path& data, std::string& why) {
     const fs::path own = makeOwnFolder(why);
     if (own.empty() || !linkGameData(data, own, why) || !enter(own, why)) { return false; }
-    if (!canWriteHere()) { complain("cannot write to " + own.string() + timesMayBeLost); }
+    if (!canWriteHere()) { logError("cannot write to " + own.string() + timesMayBeLost); }
     return true;
 }
 
@@ -118,13 +118,13 @@ bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
 bool enterPlayerFolder(const fs::path& data, std::string& why) {
     std::string whyNotOwn;
     if (enterOwnFolder(data, whyNotOwn)) { return true; }
-    complain(whyNotOwn + timesMayBeLost);
+    logError(whyNotOwn + timesMayBeLost);
     if (enter(data, why)) { return true; }
     why = "The game " + why + ".";
     return false;
 }
 
-bool settleWorkingDirectory(std::string& why) {
+bool chooseWorkingDirectory(std::string& why) {
     const std::vector<fs::path> places = placesOfData();
     const std::optional<fs::path> found = findGameData(places);
     if (!found) {

@@ -26,4 +26,4 @@ bool enterPlayerFolder(const std::filesystem::path& data, std::string& why);
 // Settles the working directory before the game starts: the current one when it holds the data and
 // can be written to; otherwise the player's own folder with links to the data found beside the
 // program or where it was installed. Returns false, and why as a sentence, when there is no data.
-bool settleWorkingDirectory(std::string& why);
+bool chooseWorkingDirectory(std::string& why);

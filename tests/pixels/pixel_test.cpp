@@ -50,7 +50,7 @@ protected:
         RegisterClassA(&windowClass);
         Game.window = CreateWindowExA(0, "Glorbix", "Glorbix", WS_POPUP, 0, 0, 640, 480, nullptr,
                                       nullptr, nullptr, nullptr);
-        std::atexit(stopMachine);
+        std::atexit(shutDown);
     }
 
     void SetUp() override {
