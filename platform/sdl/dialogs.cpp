@@ -4,9 +4,9 @@
 
 #include "platform/sdl/box_picture.h"
 #include "platform/sdl/errors.h"
-#include "platform/sdl/machine.h"
 #include "platform/sdl/message_box.h"
-#include "platform/sdl/window.h"
+#include "platform/sdl/video.h"
+#include "platform/sdl/window_handle.h"
 #include "platform/windows_api.h"
 
 namespace {

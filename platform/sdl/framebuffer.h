@@ -1,5 +1,6 @@
-// The surface that the game draws on: 640 x 480 pixels of GL_RGB565 with a 16-bit depth buffer,
-// whatever the window's own pixels are. Every operation needs the OpenGL context to be current.
+// The framebuffer object that the game draws on: 640 x 480 pixels of GL_RGB565 with a 16-bit depth
+// buffer, whatever the size and the format of the window. Call every operation with the OpenGL
+// context current.
 #pragma once
 
 #include <string>
@@ -8,25 +9,27 @@
 #include <GL/glext.h>
 
 struct Framebuffer {
-    // Makes the surface. Returns false, and why as a whole sentence, where OpenGL has no fixed
-    // pipeline or no framebuffer objects or refuses this one; nothing is left behind then.
-    bool make(std::string& why);
+    // Creates the object, binds it, and sets viewport and scissor box to all of it. Returns false
+    // with a whole sentence in `reason` when OpenGL has no fixed-function pipeline or no framebuffer
+    // objects, or when it refuses this one; nothing is allocated then.
+    bool create(std::string& reason);
 
-    // Sends the game's drawing and reading to the surface.
+    // Directs drawing and reading to the object.
     void bind() const;
 
-    // Copies the surface into a window of that many pixels, 4:3 between black bars, and leaves
-    // every state of the game as it was. The caller swaps and binds again.
+    // Copies the picture into a window of that many pixels, scaled to 4:3, with black bars around
+    // it. Only the framebuffer binding differs afterwards: swap the window's buffers, then bind().
     void copyToWindow(int windowWidth, int windowHeight) const;
 
+    // Deletes the object, if there is one.
     void release();
 
 private:
     bool loadFunctions();
-    void makeBuffers();
+    void createBuffers();
 
-    GLuint name = 0;
-    GLuint colour = 0;
+    GLuint name = 0;   // of the framebuffer object; 0: there is none
+    GLuint colour = 0; // renderbuffers
     GLuint depth = 0;
     PFNGLGENFRAMEBUFFERSPROC genFramebuffers = nullptr;
     PFNGLDELETEFRAMEBUFFERSPROC deleteFramebuffers = nullptr;

@@ -1,8 +1,9 @@
 #include "platform/sdl/input.h"
 
+#include "platform/sdl/full_screen.h"
 #include "platform/sdl/keyboard.h"
-#include "platform/sdl/messages.h"
-#include "platform/sdl/window.h"
+#include "platform/sdl/message_queue.h"
+#include "platform/sdl/window_handle.h"
 
 namespace {
 
@@ -12,7 +13,7 @@ void handleFocus(WindowHandle& window, bool focused) {
     postInput(&window, focused ? WM_SETFOCUS : WM_KILLFOCUS);
 }
 
-// Keys with Alt belong to the system. Two of them mean something, the others stay unheard.
+// The game gets no key that is pressed together with Alt.
 void handleAltKey(WindowHandle& window, int key, bool repeated) {
     if (repeated) { return; }
     if (key == VK_RETURN) { toggleFullScreen(); }
@@ -23,12 +24,13 @@ void handleKeyDown(WindowHandle& window, const SDL_KeyboardEvent& event) {
     constexpr LPARAM onePress = 1;
     constexpr LPARAM wasDown = LPARAM{1} << 30;
     const int key = virtualKeyOf(event.keysym);
+    const bool repeated = event.repeat != 0;
     if (key == 0) { return; }
-    if (event.keysym.mod & KMOD_ALT) {
-        handleAltKey(window, key, event.repeat != 0);
+    if ((event.keysym.mod & KMOD_ALT) != 0) {
+        handleAltKey(window, key, repeated);
     } else {
         postInput(&window, WM_KEYDOWN, static_cast<WPARAM>(key),
-                  event.repeat ? onePress | wasDown : onePress);
+                  repeated ? onePress | wasDown : onePress);
     }
 }
 
@@ -36,7 +38,7 @@ void handleKeyDown(WindowHandle& window, const SDL_KeyboardEvent& event) {
 
 void handleGameWindowEvent(const SDL_WindowEvent& event) {
     const HWND window = currentWindow();
-    if (!window) { return; }
+    if (window == nullptr) { return; }
     switch (event.event) {
     case SDL_WINDOWEVENT_CLOSE: postInput(window, WM_CLOSE); break;
     case SDL_WINDOWEVENT_FOCUS_GAINED: handleFocus(*window, true); break;
@@ -47,13 +49,12 @@ void handleGameWindowEvent(const SDL_WindowEvent& event) {
     }
 }
 
-// The signals that ask a process to end arrive as SDL_QUIT.
 void pollInput() {
     const HWND window = currentWindow();
     SDL_Event event;
-    while (window && SDL_PollEvent(&event)) {
+    while (window != nullptr && SDL_PollEvent(&event) != 0) {
         switch (event.type) {
-        case SDL_QUIT: postInput(window, WM_CLOSE); break;
+        case SDL_QUIT: postInput(window, WM_CLOSE); break; // also for SIGINT and SIGTERM
         case SDL_WINDOWEVENT: handleGameWindowEvent(event.window); break;
         case SDL_KEYDOWN: handleKeyDown(*window, event.key); break;
         default: break;

@@ -5,7 +5,7 @@
 #include <SDL.h>
 
 #include "platform/sdl/errors.h"
-#include "platform/sdl/machine.h"
+#include "platform/sdl/shutdown.h"
 #include "platform/sdl/working_directory.h"
 #include "platform/windows_api.h"
 

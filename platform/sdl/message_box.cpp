@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "platform/sdl/input.h"
-#include "platform/sdl/machine.h"
+#include "platform/sdl/video.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/sdl/errors.h"
-#include "platform/sdl/messages.h"
+#include "platform/sdl/message_queue.h"
 #include "platform/sdl/music_stream.h"
 #include "platform/sdl/sound.h"
 #include "platform/sdl/sound_file.h"

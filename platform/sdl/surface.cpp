@@ -6,17 +6,18 @@
 
 #include <SDL.h>
 
-#include "platform/sdl/display.h"
+#include "platform/display_mode.h"
 #include "platform/sdl/errors.h"
 #include "platform/sdl/frame_pace.h"
 #include "platform/sdl/framebuffer.h"
-#include "platform/sdl/window.h"
+#include "platform/sdl/window_handle.h"
 #include "platform/windows_api.h"
 
+// The one context; HGLRC is its address.
 struct GlContextHandle {
     SDL_GLContext sdl = nullptr; // null while there is no context
     Framebuffer framebuffer;
-    bool given = false; // the game has it
+    bool given = false; // wglCreateContext has returned it
 };
 
 namespace {
@@ -32,48 +33,50 @@ constexpr PIXELFORMATDESCRIPTOR describeFormat() {
     format.nVersion = 1;
     format.dwFlags = PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER | drawToWindow;
     format.iPixelType = PFD_TYPE_RGBA;
-    format.cColorBits = displayDepth;
+    format.cColorBits = screenColourBits;
     format.cRedBits = 5;
     format.cRedShift = 11;
     format.cGreenBits = 6;
     format.cGreenShift = 5;
     format.cBlueBits = 5;
     format.cBlueShift = 0;
-    format.cDepthBits = 16;
+    format.cDepthBits = screenDepthBits;
     format.iLayerType = PFD_MAIN_PLANE;
     return format;
 }
 
 HWND windowOf(HDC deviceContext) {
     const HWND window = currentWindow();
-    return window && deviceContext == &window->deviceContext ? window : nullptr;
+    return window != nullptr && deviceContext == &window->deviceContext ? window : nullptr;
 }
 
-// The game needs the fixed pipeline. Old systems do not know the word profile and give it unasked.
+// The game needs the fixed-function pipeline, which a compatibility profile has. Systems that do not
+// know profiles refuse the attribute, and have the pipeline without it.
 SDL_GLContext openContext(SDL_Window* window) {
     SDL_GL_SetAttribute(SDL_GL_CONTEXT_PROFILE_MASK, SDL_GL_CONTEXT_PROFILE_COMPATIBILITY);
     SDL_GLContext context = SDL_GL_CreateContext(window);
-    if (context) { return context; }
+    if (context != nullptr) { return context; }
     SDL_GL_SetAttribute(SDL_GL_CONTEXT_PROFILE_MASK, 0);
     return SDL_GL_CreateContext(window);
 }
 
-bool failPrepare(const std::string& why) {
+bool fail(const std::string& reason) {
     stopSurface();
-    setFatalError(why);
+    setFatalError(reason);
     return false;
 }
 
-// Makes context and surface unless they are there, and leaves them unbound: the game binds.
+// Makes the context and the surface unless they exist. Leaves no context current: the game calls
+// wglMakeCurrent.
 bool prepareSurface(const WindowHandle& window) {
-    if (surface.sdl) { return true; }
+    if (surface.sdl != nullptr) { return true; }
     surface.sdl = window.glFailure.empty() ? openContext(window.sdl) : nullptr;
-    if (!surface.sdl) {
-        const std::string why = window.glFailure.empty() ? SDL_GetError() : window.glFailure;
-        return failPrepare("OpenGL could not be started: " + why + ".");
+    if (surface.sdl == nullptr) {
+        const std::string cause = window.glFailure.empty() ? SDL_GetError() : window.glFailure;
+        return fail("OpenGL could not be started: " + cause + ".");
     }
-    std::string why;
-    if (!surface.framebuffer.make(why)) { return failPrepare(why); }
+    std::string reason;
+    if (!surface.framebuffer.create(reason)) { return fail(reason); }
     SDL_GL_SetSwapInterval(1);
     SDL_GL_MakeCurrent(window.sdl, nullptr);
     return true;
@@ -89,7 +92,7 @@ void showPicture(const WindowHandle& window) {
 }
 
 bool isCurrent() {
-    return surface.sdl && SDL_GL_GetCurrentContext() == surface.sdl;
+    return surface.sdl != nullptr && SDL_GL_GetCurrentContext() == surface.sdl;
 }
 
 } // namespace
@@ -102,23 +105,23 @@ void prepareSurfaceAttributes() {
 }
 
 void stopSurface() {
-    if (!surface.sdl) { return; }
+    if (surface.sdl == nullptr) { return; }
     if (isCurrent()) { surface.framebuffer.release(); }
     SDL_GL_DeleteContext(surface.sdl);
     surface = {};
 }
 
 HDC WINAPI GetDC(HWND window) {
-    return window && window == currentWindow() ? &window->deviceContext : nullptr;
+    return window != nullptr && window == currentWindow() ? &window->deviceContext : nullptr;
 }
 
 int WINAPI ReleaseDC(HWND window, HDC deviceContext) {
-    return window && window == windowOf(deviceContext) ? 1 : 0;
+    return window != nullptr && window == windowOf(deviceContext) ? 1 : 0;
 }
 
 int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wanted) {
     const HWND window = windowOf(deviceContext);
-    if (!window || !wanted) {
+    if (window == nullptr || wanted == nullptr) {
         setLastError("There is no window to choose a pixel format for.");
         return 0;
     }
@@ -128,30 +131,34 @@ int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wan
 int WINAPI DescribePixelFormat(HDC deviceContext, int format, UINT size,
                                PIXELFORMATDESCRIPTOR* description) {
     static constexpr PIXELFORMATDESCRIPTOR known = describeFormat();
-    if (!windowOf(deviceContext) || format != onlyFormat) { return 0; }
-    if (description) {
+    if (windowOf(deviceContext) == nullptr || format != onlyFormat) { return 0; }
+    if (description != nullptr) {
         std::memcpy(description, &known, std::min<std::size_t>(size, sizeof known));
     }
-    return onlyFormat; // also the highest number there is
+    return onlyFormat; // the result is the highest number of a format
 }
 
 BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCRIPTOR*) {
-    if (windowOf(deviceContext) && format == onlyFormat && surface.sdl) { return TRUE; }
+    if (windowOf(deviceContext) != nullptr && format == onlyFormat && surface.sdl != nullptr) {
+        return TRUE;
+    }
     setLastError("The window has no such pixel format.");
     return FALSE;
 }
 
 HGLRC WINAPI wglCreateContext(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
-    if (!window || surface.given || hadFatalError() || !prepareSurface(*window)) { return nullptr; }
+    if (window == nullptr || surface.given || hadFatalError() || !prepareSurface(*window)) {
+        return nullptr;
+    }
     surface.given = true;
     return &surface;
 }
 
 BOOL WINAPI wglMakeCurrent(HDC deviceContext, HGLRC context) {
     const HWND window = windowOf(deviceContext);
-    if (!context) { return SDL_GL_MakeCurrent(nullptr, nullptr) == 0 ? TRUE : FALSE; }
-    if (!window || context != &surface || !surface.sdl) { return FALSE; }
+    if (context == nullptr) { return SDL_GL_MakeCurrent(nullptr, nullptr) == 0 ? TRUE : FALSE; }
+    if (window == nullptr || context != &surface || surface.sdl == nullptr) { return FALSE; }
     if (SDL_GL_MakeCurrent(window->sdl, surface.sdl) != 0) { return FALSE; }
     surface.framebuffer.bind();
     return TRUE;
@@ -165,12 +172,12 @@ BOOL WINAPI wglDeleteContext(HGLRC context) {
 
 BOOL WINAPI SwapBuffers(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
-    if (!window || !isCurrent()) { return FALSE; }
+    if (window == nullptr || !isCurrent()) { return FALSE; }
     if (isWindowVisible()) {
         showPicture(*window);
         waitForNextFrame();
     } else {
-        glFlush(); // OpenGL keeps a queue of its own
+        glFlush(); // or the commands of hidden frames would pile up
         waitWhileHidden();
     }
     return TRUE;

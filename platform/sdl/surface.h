@@ -1,9 +1,10 @@
-// The OpenGL context of the window and the surface in it that the game draws on.
+// The window's OpenGL context and the surface that the game draws on. surface.cpp also holds the
+// functions of windows_api.h for device contexts, pixel formats, contexts and SwapBuffers.
 #pragma once
 
-// Tells SDL, before a window opens, what its own pixels need: the game's depth buffer is not among
-// them, since the game never draws on the window itself.
+// Sets the attributes that SDL needs to know before it opens a window for OpenGL. The window itself
+// gets no depth buffer: the game draws on a framebuffer object that has its own.
 void prepareSurfaceAttributes();
 
-// Releases surface and context where there are any.
+// Releases the surface and the context, if there are any.
 void stopSurface();

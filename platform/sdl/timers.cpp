@@ -11,7 +11,7 @@ constexpr std::uint64_t shortestPeriod = 10; // milliseconds
 
 std::vector<Timer> timers;
 
-// A timer without a window gets a number of its own.
+// For a timer without a window, whose number the caller cannot choose.
 UINT_PTR freeNumber() {
     UINT_PTR highest = 0;
     for (const Timer& timer : timers) {
@@ -22,21 +22,20 @@ UINT_PTR freeNumber() {
 
 } // namespace
 
-const Timer* dueTimer(std::uint64_t now) {
+Timer* dueTimer(std::uint64_t now) {
     const auto first = std::min_element(timers.begin(), timers.end(),
                                         [](auto& a, auto& b) { return a.due < b.due; });
     return first != timers.end() && first->due <= now ? &*first : nullptr;
 }
 
-void rearmTimer(const Timer& timer, std::uint64_t now) {
-    Timer& own = timers[static_cast<std::size_t>(&timer - timers.data())];
-    own.due += own.period * ((now - own.due) / own.period + 1);
+void rearmTimer(Timer& timer, std::uint64_t now) {
+    timer.due += timer.period * ((now - timer.due) / timer.period + 1);
 }
 
 UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback) {
-    const UINT_PTR number = window && timer != 0 ? timer : freeNumber();
-    const std::uint64_t beat = std::max<std::uint64_t>(period, shortestPeriod);
-    const Timer made = {window, number, beat, SDL_GetTicks64() + beat, callback};
+    const UINT_PTR number = window != nullptr && timer != 0 ? timer : freeNumber();
+    const std::uint64_t used = std::max<std::uint64_t>(period, shortestPeriod);
+    const Timer made = {window, number, used, SDL_GetTicks64() + used, callback};
     const auto same = std::find_if(timers.begin(), timers.end(), [&](const Timer& other) {
         return other.window == window && other.number == number;
     });

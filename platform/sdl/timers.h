@@ -1,4 +1,4 @@
-// The timers of the game. A timer that comes due more than once before the game looks is due once.
+// The game's timers. Times are milliseconds since the start of SDL.
 #pragma once
 
 #include <cstdint>
@@ -8,13 +8,13 @@
 struct Timer {
     HWND window;
     UINT_PTR number;
-    std::uint64_t period; // milliseconds
-    std::uint64_t due;    // milliseconds since the start of SDL
+    std::uint64_t period; // milliseconds, 10 or more
+    std::uint64_t due;    // when it fires next
     TIMERPROC callback;   // called instead of the window procedure; null: none
 };
 
-// The timer that has been due the longest at that time, null when none is.
-const Timer* dueTimer(std::uint64_t now);
+// Returns the timer that has been due for the longest time, null when none is due.
+Timer* dueTimer(std::uint64_t now);
 
-// Sets the timer to its next due time after `now`, keeping its beat.
-void rearmTimer(const Timer& timer, std::uint64_t now);
+// Sets `due` to the first whole period after `now`. Periods that have passed unseen are skipped.
+void rearmTimer(Timer& timer, std::uint64_t now);

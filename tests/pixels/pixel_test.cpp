@@ -10,7 +10,7 @@
 #include "data/font.h"
 #include "fakes/game_files.h"
 #include "pixels/picture.h"
-#include "platform/sdl/machine.h"
+#include "platform/sdl/shutdown.h"
 #include "render/screens.h"
 #include "sim/level.h"
 #include "sim/marble.h"

@@ -12,7 +12,7 @@
 #include <SDL.h>
 #include <gtest/gtest.h>
 
-#include "platform/sdl/window.h"
+#include "platform/sdl/window_handle.h"
 #include "platform/windows_api.h"
 
 using Numbers = std::vector<UINT>; // of messages

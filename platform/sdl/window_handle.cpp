@@ -1,0 +1,12 @@
+#include "platform/sdl/window_handle.h"
+
+WindowHandle gameWindow;
+
+HWND currentWindow() {
+    return gameWindow.sdl != nullptr ? &gameWindow : nullptr;
+}
+
+bool isWindowVisible() {
+    constexpr Uint32 notVisible = SDL_WINDOW_HIDDEN | SDL_WINDOW_MINIMIZED;
+    return gameWindow.sdl != nullptr && (SDL_GetWindowFlags(gameWindow.sdl) & notVisible) == 0;
+}
