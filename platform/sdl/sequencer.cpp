@@ -10,8 +10,8 @@
 #include "platform/sdl/errors.h"
 #include "platform/sdl/message_queue.h"
 #include "platform/sdl/music_stream.h"
+#include "platform/sdl/regular_file.h"
 #include "platform/sdl/sound.h"
-#include "platform/sdl/sound_file.h"
 #include "platform/sdl/sound_font.h"
 #include "platform/sdl/synthesizer.h"
 #include "platform/windows_api.h"
@@ -57,7 +57,7 @@ MCIERROR openPiece(DWORD_PTR flags, MCI_OPEN_PARMSA* request) {
     if (std::string(request->lpstrDeviceType) != "sequencer") { return unknownDeviceType; }
     const std::string fileName = request->lpstrElementName;
     std::string why;
-    auto file = readSoundFile(fileName, largestPiece, why);
+    auto file = readRegularFile(fileName, largestPiece, why);
     if (!file) { return refuse(fileNotFound, "cannot read " + fileName + ": " + why); }
     if (!isPlayableMidi(*file)) {
         return refuse(badFile, fileName + " is not a complete MIDI file of up to an hour");

@@ -13,7 +13,7 @@
 #include <SDL_mixer.h>
 
 #include "platform/sdl/errors.h"
-#include "platform/sdl/sound_file.h"
+#include "platform/sdl/regular_file.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -57,7 +57,7 @@ bool openDevice() {
 }
 
 Chunk load(const std::string& fileName, std::string& why) {
-    const auto file = readSoundFile(fileName, largestEffect, why);
+    const auto file = readRegularFile(fileName, largestEffect, why);
     if (!file) { return {}; }
     SDL_RWops* bytes = SDL_RWFromConstMem(file->data(), static_cast<int>(file->size()));
     Chunk loaded(bytes ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
