@@ -1,5 +1,5 @@
-// The one display mode that the game asks for. Every provider of platform/windows_api.h offers it,
-// and gives the game a drawing surface of that size, colour and depth.
+// The display mode that the game asks for. platform/sdl offers only this one and gives the game a
+// drawing surface of this size, colour and depth.
 #pragma once
 
 inline constexpr int screenWidth = 640;     // pixels

@@ -1,10 +1,10 @@
-// The one door between the game and the machine; OpenGL, through <GL/gl.h>, is the other.
+// The functions of Windows that the game calls, with their types and constants: the same names,
+// signatures and values as there, and what the game expects of each. The game draws with OpenGL
+// (<GL/gl.h>) besides.
 //
-// The game is written as a small Windows program. This header declares exactly the functions,
-// types and constants of that system which the game calls, by their real names and with their real
-// values, and says what the game expects of each. Who provides them is decided by the linker:
-// platform/sdl for play, tests/fakes for the tests. Nothing here is thread-safe; every call is made
-// from the thread that runs WinMain.
+// The linker chooses the implementation: platform/sdl for play, tests/fakes for the tests. No
+// function is thread-safe; the game calls them all from the thread that runs WinMain. Texts are
+// bytes; platform/sdl takes them as UTF-8.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +32,7 @@ using MCIERROR = DWORD;
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
 
-// Handles are opaque; a null handle means "none".
+// Handles are opaque; null means "none".
 using HANDLE = void*;
 using HLOCAL = void*;
 using HWND = struct WindowHandle*;
@@ -50,10 +50,11 @@ using TIMERPROC = void(CALLBACK*)(HWND window, UINT message, UINT_PTR timer, DWO
 
 // Entry
 
-// The game's entry: the provider calls it once and ends the process with what it returns.
+// The game's entry. The implementation calls it once, and ends the process with its result as the
+// exit code; platform/sdl ends with 1 instead of 0 when there was no display or no OpenGL.
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, char* commandLine, int showMode);
 
-inline constexpr int SW_SHOW = 5; // the show mode a start by the player carries
+inline constexpr int SW_SHOW = 5; // the usual value of showMode
 
 // Windows and messages
 
@@ -118,62 +119,67 @@ struct PAINTSTRUCT {
     BYTE rgbReserved[32];
 };
 
-// The standard cursors are named by a number in a pointer.
+// Standard cursors are named by a number in place of a pointer.
 inline const char* const IDC_ARROW = reinterpret_cast<const char*>(static_cast<UINT_PTR>(32512));
 
-// The icon of that name in the program's resources, or null when there is none.
+// Returns the icon of that name in the program's resources, null when there is none.
 HICON WINAPI LoadIconA(HINSTANCE instance, const char* name);
 
-// The cursor of that name; `instance` is null for the standard ones.
+// Returns the cursor of that name, null on failure; `instance` is null for standard cursors.
 HCURSOR WINAPI LoadCursorA(HINSTANCE instance, const char* name);
 
 // Registers the one window class of the game. Returns an identifier, 0 on failure.
 ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass);
 
-// Creates the window and, before it returns, sends it WM_CREATE. Returns null on failure.
-// Position and size are in pixels of the 640 x 480 display.
+// Creates the window, hidden, and sends it WM_CREATE before it returns. Returns null on failure,
+// also when WM_CREATE is answered with -1. Position and size are in pixels of the 640 x 480
+// display.
 HWND WINAPI CreateWindowExA(DWORD extendedStyle, const char* className, const char* title,
                             DWORD style, int x, int y, int width, int height, HWND parent,
                             HMENU menu, HINSTANCE instance, void* parameter);
 
-// Shows the window. Returns whether it was visible before.
+// Shows the window. Returns TRUE when it was visible before.
 BOOL WINAPI ShowWindow(HWND window, int showMode);
 
-// Sends WM_PAINT at once when the window waits to be painted.
+// Sends WM_PAINT at once when the window needs painting.
 BOOL WINAPI UpdateWindow(HWND window);
 
-// Counts up (TRUE) or down (FALSE); the mouse cursor is seen while the count, which starts at 0 and
-// is returned, is 0 or more.
+// Adds 1 (TRUE) or -1 (FALSE) to a count that starts at 0, and returns it. The mouse cursor is
+// visible while the count is 0 or more.
 int WINAPI ShowCursor(BOOL show);
 
-// Takes the next message without waiting: posted messages first, the quit message once no other is
-// left of them, then input, then WM_PAINT, then timers. Returns FALSE when there is none.
+// Copies the next message for the window (null: for any) to `message` without waiting, and removes
+// it from the queue with PM_REMOVE. `first` and `last` limit the message numbers; 0 and 0 mean all.
+// Posted messages come first, then WM_QUIT, input, WM_PAINT, and timers. Returns FALSE when there
+// is none.
 BOOL WINAPI PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT remove);
 
-// Offers a key message for translation to characters, which the game does not read.
+// Translates key messages to characters, which the game does not use.
 BOOL WINAPI TranslateMessage(const MSG* message);
 
-// Hands the message to the window procedure and returns what that returned.
+// Calls the window procedure with the message, or the callback of a timer that has one. Returns the
+// result of the window procedure.
 LRESULT WINAPI DispatchMessageA(const MSG* message);
 
-// Puts a message at the end of the queue. Returns FALSE when it has no room.
+// Puts a message at the end of the queue. Returns FALSE when the queue is full.
 BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Makes the queue give WM_QUIT, with the code as its wParam, once the posted messages are taken.
+// Puts WM_QUIT, with the code as its wParam, after the posted messages.
 void WINAPI PostQuitMessage(int exitCode);
 
-// What a message does when the game does nothing with it. A provider sees to it that close requests
-// reach the game as WM_CLOSE.
+// Handles the messages that the game does not: WM_CLOSE, which every request to close the window
+// sends, destroys the window.
 LRESULT WINAPI DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Begins and ends the answer to WM_PAINT; the window no longer waits to be painted.
+// Begin and end painting for WM_PAINT. The window needs no painting afterwards.
 HDC WINAPI BeginPaint(HWND window, PAINTSTRUCT* paint);
 BOOL WINAPI EndPaint(HWND window, const PAINTSTRUCT* paint);
 
-// Sends WM_TIMER with the timer's number every `period` milliseconds. Returns 0 on failure.
+// Sends WM_TIMER with the timer's number as its wParam every `period` milliseconds, or calls the
+// callback instead if there is one. Returns 0 on failure.
 UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback);
 
-// The window of the game that has the keyboard focus, or null.
+// Returns the game's window when it has the keyboard focus, otherwise null.
 HWND WINAPI GetFocus();
 
 // Keyboard
@@ -194,7 +200,7 @@ inline constexpr int VK_F5 = 116;
 inline constexpr int VK_F6 = 117;
 inline constexpr int VK_F12 = 123;
 
-// The state of a key now: the most significant bit is set while it is held.
+// Returns the state of a key now: the most significant bit is set while it is held.
 SHORT WINAPI GetAsyncKeyState(int key);
 
 // Message boxes
@@ -203,8 +209,8 @@ inline constexpr UINT MB_OK = 0x00;
 inline constexpr UINT MB_ICONHAND = 0x10;
 inline constexpr UINT MB_ICONINFORMATION = 0x40;
 
-// Shows a box with a text, a caption and a button, and waits until the player closes it. The owner
-// may be null. The result (the button) is not used by the game.
+// Shows a box with a text, a caption (null: "Error") and a button, and waits until the player
+// closes it. The owner may be null. The game does not use the result (the button).
 int WINAPI MessageBoxA(HWND owner, const char* text, const char* caption, UINT type);
 
 // Display settings
@@ -218,7 +224,7 @@ inline constexpr LONG DISP_CHANGE_RESTART = 1;
 inline constexpr LONG DISP_CHANGE_FAILED = -1;
 inline constexpr LONG DISP_CHANGE_BADMODE = -2;
 
-// A display mode; of the system's record the game uses these fields only.
+// A display mode: those fields of the system's record that the game uses.
 struct DEVMODEA {
     WORD dmSize;        // bytes of this record
     DWORD dmFields;     // which of the fields below are given, a set of DM_ bits
@@ -227,12 +233,12 @@ struct DEVMODEA {
     DWORD dmPelsHeight; // pixels
 };
 
-// Writes the mode with that index, 0, 1, 2, ..., of the display (null: the primary one). Returns
-// FALSE, leaving the record as it is, when there is no mode with that index.
+// Copies the mode with that index (0, 1, 2, ...) of the display (null: the primary one) to `mode`.
+// Returns FALSE, and leaves `mode` as it is, when there is none.
 BOOL WINAPI EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode);
 
-// Switches the primary display to the mode; null gives the player's own desktop back. Returns a
-// DISP_CHANGE_ value.
+// Switches the primary display to the mode; null restores the mode of the desktop. Returns one of
+// the DISP_CHANGE_ values.
 LONG WINAPI ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags);
 
 // Pixel format, buffers and the binding of OpenGL
@@ -273,25 +279,27 @@ struct PIXELFORMATDESCRIPTOR {
 };
 static_assert(sizeof(PIXELFORMATDESCRIPTOR) == 40);
 
-// The window's drawing surface: 640 x 480 pixels in 16-bit colour, with a 16-bit depth buffer, and
-// the initial viewport over all of it.
+// Returns and releases the window's drawing surface: 640 x 480 pixels of 16-bit colour with a
+// 16-bit depth buffer. The viewport is all of it at first.
 HDC WINAPI GetDC(HWND window);
 int WINAPI ReleaseDC(HWND window, HDC deviceContext);
 
-// The number, from 1, of the format nearest to the one described; 0 on failure (GetLastError).
+// Returns the number, from 1, of the format that is nearest to the one wanted; 0 on failure
+// (GetLastError).
 int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wanted);
 
-// Describes the format with that number in `size` bytes. Returns 0 on failure.
+// Copies up to `size` bytes of the description of that format. Returns 0 on failure.
 int WINAPI DescribePixelFormat(HDC deviceContext, int format, UINT size,
                                PIXELFORMATDESCRIPTOR* description);
 
-// Gives the surface that format. Returns FALSE on failure (GetLastError).
+// Sets the format of the surface. Returns FALSE on failure (GetLastError).
 BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCRIPTOR* wanted);
 
-// Shows what was drawn. The surface's contents are undefined to the game afterwards.
+// Shows what was drawn. The contents of the surface are undefined afterwards.
 BOOL WINAPI SwapBuffers(HDC deviceContext);
 
-// Makes an OpenGL context on the surface, null on failure; binds it to this thread; deletes it.
+// Create an OpenGL context for the surface (null on failure); make it current, or none (null);
+// delete it.
 HGLRC WINAPI wglCreateContext(HDC deviceContext);
 BOOL WINAPI wglMakeCurrent(HDC deviceContext, HGLRC context);
 BOOL WINAPI wglDeleteContext(HGLRC context);
@@ -301,11 +309,11 @@ BOOL WINAPI wglDeleteContext(HGLRC context);
 inline constexpr DWORD SND_ASYNC = 0x00001;
 inline constexpr DWORD SND_FILENAME = 0x20000;
 
-// Starts a WAVE file and returns at once; a sound that still plays is cut off. Returns FALSE when
-// it cannot be played, which the game does not mind.
+// Plays a WAVE file and returns at once. A sound that is still playing is cut off. Returns FALSE
+// when the file cannot be played; the game ignores that.
 BOOL WINAPI PlaySoundA(const char* fileName, HMODULE module, DWORD flags);
 
-// Sounds a beep of the system; a type that it does not know gives the default one.
+// Plays one of the system's sounds; an unknown type plays the default one.
 BOOL WINAPI MessageBeep(UINT type);
 
 // The MIDI sequencer
@@ -343,9 +351,9 @@ struct MCI_PLAY_PARMS {
     DWORD dwTo;
 };
 
-// Commands a media device; `parameters` is the address of the record that belongs to the command.
-// Returns 0 or an error code. MCI_PLAY with MCI_NOTIFY posts MM_MCINOTIFY to the window when the
-// piece has ended by itself; closing it reports nothing.
+// Sends a command to a media device; `parameters` is the address of the command's record. Returns 0
+// or an error code. After MCI_PLAY with MCI_NOTIFY, MM_MCINOTIFY is posted to the window when the
+// piece has played to its end; closing it earlier posts nothing.
 MCIERROR WINAPI mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags,
                                 DWORD_PTR parameters);
 
@@ -355,7 +363,8 @@ union LARGE_INTEGER {
     LONGLONG QuadPart;
 };
 
-// Counts per second, and the count now. The count never stands still between two calls.
+// Give the counts per second, and the present count. Each call gives a higher count than the one
+// before: the game divides by the difference.
 BOOL WINAPI QueryPerformanceFrequency(LARGE_INTEGER* frequency);
 BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* counter);
 
@@ -374,11 +383,11 @@ HANDLE WINAPI CreateFileA(const char* fileName, DWORD access, DWORD share,
                           SECURITY_ATTRIBUTES* security, DWORD creation, DWORD attributes,
                           HANDLE templateFile);
 
-// Reads up to `wanted` bytes. Returns TRUE at the end of the file too, with fewer or no bytes got.
+// Reads up to `wanted` bytes. At the end of the file it returns TRUE with fewer bytes, or none.
 BOOL WINAPI ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED* overlapped);
 BOOL WINAPI CloseHandle(HANDLE file);
 
-// Errors in the system's words
+// Errors
 
 inline constexpr DWORD FORMAT_MESSAGE_ALLOCATE_BUFFER = 0x0100;
 inline constexpr DWORD FORMAT_MESSAGE_FROM_SYSTEM = 0x1000;
@@ -389,7 +398,7 @@ constexpr DWORD MAKELANGID(WORD language, WORD subLanguage) {
     return static_cast<DWORD>(subLanguage) << 10 | language;
 }
 
-// The code of the last failure on this thread.
+// Returns the code of the last failure on this thread.
 DWORD WINAPI GetLastError();
 
 // With the two flags above: stores the address of a new text for the error, at `*(char**)buffer`,

@@ -4,10 +4,10 @@ namespace {
 
 constexpr int glyphsInRow = 12;
 constexpr char firstCharacter = ' ';
-constexpr int characters = 96; // the last is the square for all others
+constexpr int characters = 96; // the last one is the square
 constexpr int cellWidth = glyphWidth + 1;
 
-// The printable characters of ASCII in their order, twelve beside each other.
+// The printable characters of ASCII in their order, twelve in a row.
 constexpr const char* sheet[characters / glyphsInRow * glyphHeight] = {
     // clang-format off
     "..... ..#.. .#.#. .#.#. ..#.. ##..# .##.. ..#.. ...#. .#... ..... .....",

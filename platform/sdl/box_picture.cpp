@@ -11,7 +11,7 @@ namespace {
 constexpr const char* buttonText = "OK";
 constexpr std::size_t mostColumns = 56;
 
-// In dots.
+// Lengths in dots of the typeface.
 constexpr int advance = glyphWidth + 1;
 constexpr int lineHeight = glyphHeight + 3;
 constexpr int margin = 10;
@@ -21,10 +21,10 @@ constexpr int buttonHeight = 19;
 constexpr int leastWidth = 130;
 constexpr int frame = 1;
 
-// The night, the glow and the grid of the title picture.
-constexpr SDL_Colour ground = {28, 14, 48, 255};
-constexpr SDL_Colour words = {244, 236, 250, 255};
-constexpr SDL_Colour dark = {28, 14, 48, 255};
+// Colours of the title picture.
+constexpr SDL_Colour background = {28, 14, 48, 255};
+constexpr SDL_Colour textColour = {244, 236, 250, 255};
+constexpr SDL_Colour darkTextColour = {28, 14, 48, 255};
 constexpr SDL_Colour noticeBand = {246, 160, 60, 255};
 constexpr SDL_Colour errorBand = {240, 90, 120, 255};
 
@@ -53,8 +53,8 @@ void measure(BoxLayout& layout) {
     layout.height = height * layout.scale;
 }
 
-BoxLayout layOutAt(const BoxContent& box, int scale, int roomWidth) {
-    const int room = (roomWidth / scale - 2 * margin) / advance;
+BoxLayout layOutAt(const BoxContent& box, int scale, int mostWidth) {
+    const int room = (mostWidth / scale - 2 * margin) / advance;
     const std::size_t columns = std::min(mostColumns, static_cast<std::size_t>(std::max(room, 1)));
     BoxLayout layout;
     layout.scale = scale;
@@ -64,20 +64,20 @@ BoxLayout layOutAt(const BoxContent& box, int scale, int roomWidth) {
     return layout;
 }
 
-void cutText(BoxLayout& layout, int roomHeight) {
-    while (layout.height > roomHeight && count(layout.text) > 1) {
+void cutText(BoxLayout& layout, int mostHeight) {
+    while (layout.height > mostHeight && count(layout.text) > 1) {
         layout.text.pop_back();
         layout.text.back() = "...";
         measure(layout);
     }
 }
 
-// Paints on one surface in dots, counted from the box's upper left corner.
+// Paints on a surface. Coordinates are dots from the upper left corner of the box.
 struct Brush {
     SDL_Surface& surface;
-    int left; // pixels
-    int top;
-    int scale;
+    int left;  // of the box, pixels
+    int top;   // of the box, pixels
+    int scale; // pixels in a dot
 
     SDL_Rect pixels(int x, int y, int width, int height) const {
         return {left + x * scale, top + y * scale, width * scale, height * scale};
@@ -108,12 +108,12 @@ struct Brush {
 
 } // namespace
 
-BoxLayout layOutBox(const BoxContent& box, int scale, int roomWidth, int roomHeight) {
+BoxLayout layOutBox(const BoxContent& box, int scale, int mostWidth, int mostHeight) {
     for (;; --scale) {
-        BoxLayout layout = layOutAt(box, scale, roomWidth);
-        if (layout.width <= roomWidth && layout.height <= roomHeight) { return layout; }
+        BoxLayout layout = layOutAt(box, scale, mostWidth);
+        if (layout.width <= mostWidth && layout.height <= mostHeight) { return layout; }
         if (scale <= 1) {
-            cutText(layout, roomHeight);
+            cutText(layout, mostHeight);
             return layout;
         }
     }
@@ -130,12 +130,13 @@ SDL_Rect paintBox(SDL_Surface& surface, const BoxContent& box, const BoxLayout& 
     const int buttonY = height - margin - buttonHeight;
     const int labelWidth = 2 * advance - 1;
 
-    SDL_FillRect(&surface, nullptr, SDL_MapRGB(surface.format, ground.r, ground.g, ground.b));
+    SDL_FillRect(&surface, nullptr,
+                 SDL_MapRGB(surface.format, background.r, background.g, background.b));
     brush.fill(0, 0, width, height, accent);
-    brush.fill(frame, band, width - 2 * frame, height - band - frame, ground);
-    brush.putLines(layout.caption, margin, bandPadding + 2, dark);
-    brush.putLines(layout.text, margin, band + margin, words);
+    brush.fill(frame, band, width - 2 * frame, height - band - frame, background);
+    brush.putLines(layout.caption, margin, bandPadding + 2, darkTextColour);
+    brush.putLines(layout.text, margin, band + margin, textColour);
     brush.fill(buttonX, buttonY, buttonWidth, buttonHeight, accent);
-    brush.putLines({buttonText}, (width - labelWidth) / 2, buttonY + 6, dark);
+    brush.putLines({buttonText}, (width - labelWidth) / 2, buttonY + 6, darkTextColour);
     return brush.pixels(buttonX, buttonY, buttonWidth, buttonHeight);
 }

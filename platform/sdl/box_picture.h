@@ -1,4 +1,4 @@
-// What a message box looks like: a caption on a coloured band, the text, and an "OK" button.
+// The looks of a message box: a caption on a coloured band, the text, and an "OK" button.
 #pragma once
 
 #include <string>
@@ -9,22 +9,21 @@
 struct BoxContent {
     std::string caption;
     std::string text;
-    bool isError = false; // an error rather than a notice
+    bool isError = false; // decides the colour of the band
 };
 
-// All lengths in pixels.
 struct BoxLayout {
-    int scale = 1; // pixels in one dot of the typeface, each way
-    std::vector<std::string> caption;
-    std::vector<std::string> text;
-    int width = 0;
-    int height = 0;
+    int scale = 1;                    // pixels in one dot of the typeface, each way
+    std::vector<std::string> caption; // lines
+    std::vector<std::string> text;    // lines
+    int width = 0;                    // pixels
+    int height = 0;                   // pixels
 };
 
-// The box at the largest scale, up to the one given, at which it fits into that room. Where even
-// scale 1 is too large, the text is cut and ends with "...".
-BoxLayout layOutBox(const BoxContent& words, int scale, int roomWidth, int roomHeight);
+// Returns the box at the largest scale, up to the one given, at which it is no larger than that
+// many pixels. If scale 1 is still too large, the text is cut and ends with "...".
+BoxLayout layOutBox(const BoxContent& box, int scale, int mostWidth, int mostHeight);
 
-// Paints the box in the middle of the surface, which it fills with the box's ground colour, and
-// returns where the button is.
-SDL_Rect paintBox(SDL_Surface& surface, const BoxContent& words, const BoxLayout& layout);
+// Fills the surface with the background colour and paints the box in its middle. Returns the place
+// of the button, in pixels of the surface.
+SDL_Rect paintBox(SDL_Surface& surface, const BoxContent& box, const BoxLayout& layout);

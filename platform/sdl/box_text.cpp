@@ -25,7 +25,8 @@ std::string plainText(const std::string& text) {
     return plain;
 }
 
-// Puts a word that is longer than a line on lines of its own; the last of them stays open.
+// Starts a new line with the word. A word that is longer than a line fills several; the next word
+// may follow on the last of them.
 void breakWord(std::string word, std::size_t columns, std::vector<std::string>& lines) {
     while (word.size() > columns) {
         lines.push_back(word.substr(0, columns));

@@ -15,7 +15,8 @@ BOOL WINAPI QueryPerformanceFrequency(LARGE_INTEGER* frequency) {
     return TRUE;
 }
 
-// A tick divides by its length, so the count goes on even where the system's clock stands still.
+// The game divides by the length of a tick, so the count increases even where the system's clock
+// does not.
 BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* counter) {
     static LONGLONG last = 0;
     const auto now = std::chrono::duration_cast<Count>(Clock::now().time_since_epoch()).count();

@@ -11,33 +11,33 @@
 
 namespace {
 
-constexpr int okButton = 1; // what the box answers when its one button is pressed
+constexpr int okButton = 1; // the result when the box has closed
 
-bool showOwnBox(const BoxContent& words, SDL_Window* over) {
+bool showOwnBox(const BoxContent& content, SDL_Window* over) {
     MessageBox box;
-    if (!box.open(words, over)) { return false; }
+    if (!box.open(content, over)) { return false; }
     box.wait();
     box.close();
     return true;
 }
 
-void showBoxOfSdl(const BoxContent& words, SDL_Window* over) {
-    const Uint32 icon = words.isError ? SDL_MESSAGEBOX_ERROR : SDL_MESSAGEBOX_INFORMATION;
-    SDL_ShowSimpleMessageBox(icon, words.caption.c_str(), words.text.c_str(), over);
+void showSdlBox(const BoxContent& content, SDL_Window* over) {
+    const Uint32 icon = content.isError ? SDL_MESSAGEBOX_ERROR : SDL_MESSAGEBOX_INFORMATION;
+    SDL_ShowSimpleMessageBox(icon, content.caption.c_str(), content.text.c_str(), over);
     SDL_ResetKeyboard();
 }
 
 } // namespace
 
-// A box without an owner belongs to the game's window too, or it would open behind the full screen.
-// Without a display its text is on standard error only.
+// A box without an owner belongs to the game's window too, or the full screen would cover it.
+// Without a display the text is on standard error only.
 int WINAPI MessageBoxA(HWND owner, const char* text, const char* caption, UINT type) {
-    const BoxContent words = {caption ? caption : "Error", text ? text : "",
-                              (type & MB_ICONHAND) != 0};
-    logError(words.caption + ": " + words.text);
+    const BoxContent content = {caption != nullptr ? caption : "Error", text != nullptr ? text : "",
+                                (type & MB_ICONHAND) != 0};
+    logError(content.caption + ": " + content.text);
     if (!startVideo()) { return okButton; }
-    const HWND parent = owner ? owner : currentWindow();
-    SDL_Window* over = parent ? parent->sdl : nullptr;
-    if (!showOwnBox(words, over)) { showBoxOfSdl(words, over); }
+    const HWND parent = owner != nullptr ? owner : currentWindow();
+    SDL_Window* over = parent != nullptr ? parent->sdl : nullptr;
+    if (!showOwnBox(content, over)) { showSdlBox(content, over); }
     return okButton;
 }

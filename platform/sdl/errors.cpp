@@ -12,17 +12,17 @@
 namespace {
 
 struct Errors {
-    std::vector<std::string> texts = {"There is no error."}; // by their code
-    DWORD last = 0;
+    std::vector<std::string> texts = {"There is no error."}; // the index is the code
+    DWORD last = 0;                                          // a code
     bool fatal = false;
-    std::set<std::string> logged;
+    std::set<std::string> logged; // by logErrorOnce
 };
 
 Errors errors;
 
 char* newText(const std::string& text) {
     auto* copy = static_cast<char*>(std::malloc(text.size() + 1));
-    if (copy) { std::memcpy(copy, text.c_str(), text.size() + 1); }
+    if (copy != nullptr) { std::memcpy(copy, text.c_str(), text.size() + 1); }
     return copy;
 }
 
@@ -62,13 +62,13 @@ DWORD WINAPI GetLastError() {
 DWORD WINAPI FormatMessageA(DWORD flags, const void*, DWORD error, DWORD, char* buffer, DWORD,
                             void*) {
     const DWORD needed = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM;
-    if ((flags & needed) != needed || !buffer) { return 0; }
+    if ((flags & needed) != needed || buffer == nullptr) { return 0; }
     const bool known = error < errors.texts.size();
     const std::string text = known ? errors.texts[error] : "Error " + std::to_string(error) + ".";
     char* copy = newText(text);
-    // The buffer is the address of the caller's pointer.
+    // `buffer` is the address of the caller's pointer.
     std::memcpy(buffer, static_cast<const void*>(&copy), sizeof copy);
-    return copy ? static_cast<DWORD>(text.size()) : 0;
+    return copy != nullptr ? static_cast<DWORD>(text.size()) : 0;
 }
 
 HLOCAL WINAPI LocalFree(HLOCAL memory) {

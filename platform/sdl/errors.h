@@ -1,21 +1,23 @@
-// What went wrong, in words: the system's last error for the game, one line on standard error for
-// whoever started it, and the fact that the machine itself failed for the exit code.
+// Errors as texts: the last error, which the game reads through GetLastError and FormatMessageA;
+// lines on standard error; and fatal errors, which decide the exit code.
 #pragma once
 
 #include <string>
 
-// Makes `text`, a whole English sentence, the last error: GetLastError gives its code and
-// FormatMessageA its text.
+// Sets the last error to a whole English sentence. GetLastError then returns a code for it, and
+// FormatMessageA returns the text for that code. Equal texts have equal codes.
 void setLastError(const std::string& text);
+
+// Returns the text of the last error; "There is no error." before the first one.
 const std::string& lastErrorText();
 
-// The same for a failure that no game survives, such as no display or no OpenGL; `hadFatalError`
-// is true ever after.
+// Sets the last error for a failure after which nothing can be shown, such as a missing display or
+// missing OpenGL. hadFatalError returns true from then on.
 void setFatalError(const std::string& text);
 bool hadFatalError();
 
 // Writes "glorbix: " and the text as one line on standard error.
 void logError(const std::string& text);
 
-// The same, but each text only once in the life of the process.
+// Does the same, but writes equal texts only once in the life of the process.
 void logErrorOnce(const std::string& text);

@@ -1,10 +1,10 @@
-// How fast the game runs. It draws a frame whenever no message waits, so the processor rests only
-// here, after a frame.
+// The frame rate. The game draws a frame whenever no message waits, so this is the only place where
+// it leaves the processor free.
 #pragma once
 
-// Returns 4 ms after the last return of this function at the earliest: 250 frames a second where no
-// vertical sync holds the game back.
+// Waits until at least 4 ms have passed since it last returned: 250 frames a second at most, where
+// vertical sync does not make it fewer.
 void waitForNextFrame();
 
-// For a game that nobody sees: returns after 0.1 s, or as soon as an event of SDL waits.
+// For a hidden or minimised window: waits for 0.1 s, or until an event of SDL waits.
 void waitWhileHidden();

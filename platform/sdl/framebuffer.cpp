@@ -13,7 +13,8 @@ bool load(Function& function, const char* name) {
     return function != nullptr;
 }
 
-// SDL_GL_GetProcAddress may return an address for any name, so the version or the extension decides.
+// SDL_GL_GetProcAddress may return an address for any name, so the version or the extension
+// decides.
 bool hasFramebufferObjects() {
     const auto* version = reinterpret_cast<const char*>(glGetString(GL_VERSION));
     return (version != nullptr && SDL_atoi(version) >= 3) ||

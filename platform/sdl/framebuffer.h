@@ -10,8 +10,8 @@
 
 struct Framebuffer {
     // Creates the object, binds it, and sets viewport and scissor box to all of it. Returns false
-    // with a whole sentence in `reason` when OpenGL has no fixed-function pipeline or no framebuffer
-    // objects, or when it refuses this one; nothing is allocated then.
+    // with a whole sentence in `reason` when OpenGL has no fixed-function pipeline or no
+    // framebuffer objects, or when it refuses this one; nothing is allocated then.
     bool create(std::string& reason);
 
     // Directs drawing and reading to the object.

@@ -1,7 +1,7 @@
-// Keys as the game names them.
+// Virtual-key codes of keys as SDL reports them.
 #pragma once
 
 #include <SDL.h>
 
-// The virtual-key code of a key that was pressed, 0 when it has none.
+// Returns the virtual-key code of a key, 0 when it has none.
 int virtualKeyOf(const SDL_Keysym& pressed);

@@ -13,8 +13,8 @@ struct PixelRect {
     int height;
 };
 
-// Returns the largest centred rectangle of the game's shape, 4:3, in an area of that many pixels. It
-// is empty when the area is.
+// Returns the largest centred rectangle of the game's shape, 4:3, in an area of that many pixels.
+// It is empty when the area is.
 constexpr PixelRect letterbox(int areaWidth, int areaHeight) {
     const int width = std::min(areaWidth, areaHeight * screenWidth / screenHeight);
     const int height = std::min(areaHeight, areaWidth * screenHeight / screenWidth);

@@ -1,4 +1,4 @@
-// Where the process starts: finds the game's data, runs the game, gives the machine back.
+// The start of the process: chooses the working directory, runs the game, shuts SDL down.
 
 #include <string>
 
@@ -11,17 +11,17 @@
 
 namespace {
 
-constexpr int failedStart = 1;
+constexpr int exitFailure = 1;
 
 int runGame() {
     std::string why;
     if (!chooseWorkingDirectory(why)) {
-        MessageBoxA(nullptr, why.c_str(), "Error", MB_ICONHAND);
-        return failedStart;
+        MessageBoxA(nullptr, why.c_str(), nullptr, MB_ICONHAND);
+        return exitFailure;
     }
     char noArguments[] = "";
     const int code = WinMain(nullptr, nullptr, noArguments, SW_SHOW);
-    return code == 0 && hadFatalError() ? failedStart : code;
+    return code == 0 && hadFatalError() ? exitFailure : code;
 }
 
 } // namespace

@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/sdl/desktop.h"
 #include "platform/sdl/input.h"
 #include "platform/sdl/video.h"
 
 namespace {
 
-constexpr int lookInterval = 100;         // milliseconds; a signal may wake no one
+constexpr int pollInterval = 100;         // milliseconds; a signal does not end a wait for events
 constexpr Uint64 firstRepeatWithin = 700; // milliseconds until a held key repeats
-constexpr int frameAllowance = 48;        // pixels for a title bar and borders
-constexpr double heightPerScale = 360.0;  // of the display, for each step of the scale
+constexpr double heightPerScale = 360.0;  // points of the display for each step of the scale
 constexpr int leastScale = 2;
 
 bool closesBox(const SDL_Keysym& key) {
@@ -35,7 +35,7 @@ std::bitset<SDL_NUM_SCANCODES> heldKeys() {
     return held;
 }
 
-// For SDL_FilterEvents: drops what was typed, and what the window that is gone still reports.
+// For SDL_FilterEvents: drops keys, and events of the box, which is closed.
 int keepForGame(void* boxWindow, SDL_Event* event) {
     const Uint32 box = *static_cast<const Uint32*>(boxWindow);
     switch (event->type) {
@@ -47,7 +47,7 @@ int keepForGame(void* boxWindow, SDL_Event* event) {
 }
 
 bool isShown(SDL_Window* window) {
-    return window && (SDL_GetWindowFlags(window) & SDL_WINDOW_SHOWN) != 0;
+    return window != nullptr && (SDL_GetWindowFlags(window) & SDL_WINDOW_SHOWN) != 0;
 }
 
 void requestEnd() {
@@ -59,31 +59,15 @@ void requestEnd() {
 } // namespace
 
 bool MessageBox::open(const BoxContent& box, SDL_Window* over) {
-    words = box;
-    gameWindow = isShown(over) ? over : nullptr;
-    drawnOn = SDL_GL_GetCurrentWindow();
-    context = SDL_GL_GetCurrentContext();
+    content = box;
+    parent = isShown(over) ? over : nullptr;
+    glWindow = SDL_GL_GetCurrentWindow();
+    glContext = SDL_GL_GetCurrentContext();
     opened = SDL_GetTicks64();
     heldBefore = heldKeys();
     cursor = SDL_ShowCursor(SDL_QUERY);
-
-    const int display = std::max(over ? SDL_GetWindowDisplayIndex(over) : 0, 0);
-    SDL_Rect room = {0, 0, 640, 480};
-    SDL_GetDisplayUsableBounds(display, &room);
-    scale = std::max(leastScale, static_cast<int>(std::lround(room.h / heightPerScale)));
-    const BoxLayout layout =
-        layOutBox(words, scale, room.w - frameAllowance, room.h - frameAllowance);
-    const auto centre =
-        static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(static_cast<unsigned>(display)));
-    sdl = SDL_CreateWindow(words.caption.c_str(), centre, centre, layout.width, layout.height,
-                           SDL_WINDOW_HIDDEN | SDL_WINDOW_ALWAYS_ON_TOP | SDL_WINDOW_ALLOW_HIGHDPI);
-    if (!sdl) { return false; }
-    // X11 wants to know before the window is shown, Wayland after.
-    const bool modal = !gameWindow || SDL_SetWindowModalFor(sdl, gameWindow) == 0;
-    SDL_ShowWindow(sdl);
-    if (!modal) { SDL_SetWindowModalFor(sdl, gameWindow); }
-    SDL_RaiseWindow(sdl);
-    SDL_ShowCursor(SDL_ENABLE);
+    if (!createWindow(displayOf(over))) { return false; }
+    show();
     if (!paint()) {
         close();
         return false;
@@ -91,14 +75,34 @@ bool MessageBox::open(const BoxContent& box, SDL_Window* over) {
     return true;
 }
 
+bool MessageBox::createWindow(int display) {
+    const SDL_Rect area = usableArea(display);
+    scale = std::max(leastScale, static_cast<int>(std::lround(area.h / heightPerScale)));
+    const BoxLayout layout =
+        layOutBox(content, scale, area.w - frameAllowance, area.h - frameAllowance);
+    const int centre = centreOf(display);
+    sdl = SDL_CreateWindow(content.caption.c_str(), centre, centre, layout.width, layout.height,
+                           SDL_WINDOW_HIDDEN | SDL_WINDOW_ALWAYS_ON_TOP | SDL_WINDOW_ALLOW_HIGHDPI);
+    return sdl != nullptr;
+}
+
+// X11 needs to know the parent before the window is shown, Wayland afterwards.
+void MessageBox::show() {
+    const bool modal = parent == nullptr || SDL_SetWindowModalFor(sdl, parent) == 0;
+    SDL_ShowWindow(sdl);
+    if (!modal) { SDL_SetWindowModalFor(sdl, parent); }
+    SDL_RaiseWindow(sdl);
+    SDL_ShowCursor(SDL_ENABLE);
+}
+
 bool MessageBox::paint() {
     SDL_Surface* surface = SDL_GetWindowSurface(sdl);
     int width = 0; // points
     SDL_GetWindowSize(sdl, &width, nullptr);
-    if (!surface || width <= 0) { return false; }
+    if (surface == nullptr || width <= 0) { return false; }
     const int pixelsInPoint = std::max(1, surface->w / width);
-    const BoxLayout layout = layOutBox(words, scale * pixelsInPoint, surface->w, surface->h);
-    button = paintBox(*surface, words, layout);
+    const BoxLayout layout = layOutBox(content, scale * pixelsInPoint, surface->w, surface->h);
+    button = paintBox(*surface, content, layout);
     return SDL_UpdateWindowSurface(sdl) == 0;
 }
 
@@ -106,8 +110,8 @@ void MessageBox::wait() {
     const bool answerable = isDisplayVisible();
     for (;;) {
         SDL_Event event;
-        const bool came = SDL_WaitEventTimeout(&event, answerable ? lookInterval : 1) != 0;
-        if (came ? handle(event) : !answerable) { return; }
+        const bool received = SDL_WaitEventTimeout(&event, answerable ? pollInterval : 1) != 0;
+        if (received ? handle(event) : !answerable) { return; }
     }
 }
 
@@ -140,12 +144,12 @@ bool MessageBox::handleWindowEvent(const SDL_WindowEvent& event) {
     }
 }
 
-// A key that is still down from the play before repeats as if it were pressed anew.
+// SDL may report a key that was held before the box opened as pressed again when it repeats.
 void MessageBox::handleKeyDown(const SDL_KeyboardEvent& event) {
     const SDL_Scancode key = event.keysym.scancode;
-    const bool still =
+    const bool heldSince =
         heldBefore[static_cast<std::size_t>(key)] && SDL_GetTicks64() - opened < firstRepeatWithin;
-    if (!event.repeat && !still && closesBox(event.keysym)) { pressed = key; }
+    if (!event.repeat && !heldSince && closesBox(event.keysym)) { pressed = key; }
 }
 
 bool MessageBox::isOnButton(const SDL_MouseButtonEvent& event) const {
@@ -153,7 +157,7 @@ bool MessageBox::isOnButton(const SDL_MouseButtonEvent& event) const {
     int width = 0; // points
     int height = 0;
     SDL_GetWindowSize(sdl, &width, &height);
-    if (!surface || width <= 0 || height <= 0 || event.windowID != SDL_GetWindowID(sdl)) {
+    if (surface == nullptr || width <= 0 || height <= 0 || event.windowID != SDL_GetWindowID(sdl)) {
         return false;
     }
     const SDL_Point at = {event.x * surface->w / width, event.y * surface->h / height};
@@ -165,11 +169,13 @@ void MessageBox::close() {
     const bool hadKeyboard = SDL_GetKeyboardFocus() == sdl;
     SDL_DestroyWindow(sdl);
     sdl = nullptr;
-    if (context && SDL_GL_GetCurrentContext() != context) { SDL_GL_MakeCurrent(drawnOn, context); }
+    if (glContext != nullptr && SDL_GL_GetCurrentContext() != glContext) {
+        SDL_GL_MakeCurrent(glWindow, glContext);
+    }
     SDL_ShowCursor(cursor);
-    if (gameWindow && hadKeyboard) {
-        SDL_RaiseWindow(gameWindow);
-        SDL_SetWindowInputFocus(gameWindow); // where no window manager does it
+    if (parent != nullptr && hadKeyboard) {
+        SDL_RaiseWindow(parent);
+        SDL_SetWindowInputFocus(parent); // for desktops without a window manager
     }
     SDL_PumpEvents();
     SDL_ResetKeyboard();

@@ -1,13 +1,14 @@
-// The message box of the provider's own: a window without OpenGL that it paints itself, so that a
-// box appears on any display, with no font and no helper program installed.
+// A message box that needs no installed font, no helper program and no OpenGL: a window of its own,
+// painted with the typeface of box_font.h.
 //
-// Return, Enter on the keypad, space, Escape and a click on "OK" close the box when they are let
-// go, so that nothing of them is left for the game; the close button and Alt+F4 do the same. A
-// request to end the program (SIGTERM, or the close button of the game's window) closes it too and
-// stays in SDL's queue for the game. All other input is swallowed, and no key counts as held
-// afterwards. Music plays on; timers wait.
+// Return, Enter on the keypad, Space, Escape, Alt+F4 and a click on "OK" close the box when the key
+// or the button is released, so that the game sees nothing of them. The close button of the box
+// closes it at once. So does a request to end the program (SIGTERM, SIGINT, or the close button of
+// the game's window), which stays in SDL's queue for the game. All other keys and clicks are
+// dropped, and no key counts as held afterwards. Music plays on. Timers do not fire while the box
+// is open.
 //
-// Where nobody can see or answer (SDL's offscreen and dummy drivers) the box takes the events that
+// Where nobody can see or answer the box (isDisplayVisible in video.h), it handles the events that
 // wait already and closes.
 #pragma once
 
@@ -18,36 +19,39 @@
 #include "platform/sdl/box_picture.h"
 
 struct MessageBox {
-    // Opens and paints the box, in front of the game's window `over` (null: there is none).
-    // Returns false where no window can be opened or painted; nothing is left then.
+    // Opens and paints the box, in front of the game's window `over` (null: there is none). Returns
+    // false when no window can be opened or painted; the box is closed then.
     bool open(const BoxContent& box, SDL_Window* over);
 
-    // Waits, without keeping the processor busy, until an event closes the box.
+    // Handles events until one of them closes the box. Uses no processor time between them.
     void wait();
 
-    // Acts on one event. Returns true when it closes the box.
+    // Handles one event. Returns true when it closes the box.
     bool handle(const SDL_Event& event);
 
-    // Closes the window, and gives the keyboard back to the game's window where the box had it.
+    // Closes the window. The game's window gets the keyboard focus if the box had it, and OpenGL
+    // draws on the same window as before.
     void close();
 
     SDL_Window* sdl = nullptr; // null while the box is closed
-    SDL_Rect button = {};      // pixels of the window's surface
+    SDL_Rect button = {};      // "OK", in pixels of the window's surface
 
 private:
+    bool createWindow(int display);
+    void show();
     bool paint();
     bool handleWindowEvent(const SDL_WindowEvent& event);
     void handleKeyDown(const SDL_KeyboardEvent& event);
     bool isOnButton(const SDL_MouseButtonEvent& event) const;
 
-    BoxContent words;
-    int scale = 1; // wanted, on a display of one pixel a point
-    SDL_Window* gameWindow = nullptr;
-    SDL_Window* drawnOn = nullptr; // where OpenGL drew before the box opened
-    SDL_GLContext context = nullptr;
-    int cursor = SDL_DISABLE;
-    Uint64 opened = 0; // milliseconds since the start of SDL
-    std::bitset<SDL_NUM_SCANCODES> heldBefore;
-    SDL_Scancode pressed = SDL_SCANCODE_UNKNOWN; // closes the box when it is let go
-    bool clicking = false;                       // the mouse went down on the button
+    BoxContent content;
+    int scale = 1;                  // of the typeface, on a display with one pixel in a point
+    SDL_Window* parent = nullptr;   // the game's window; null: there is none, or it is hidden
+    SDL_Window* glWindow = nullptr; // where OpenGL drew before the box opened
+    SDL_GLContext glContext = nullptr;
+    int cursor = SDL_DISABLE;                    // as it was before
+    Uint64 opened = 0;                           // milliseconds since the start of SDL
+    std::bitset<SDL_NUM_SCANCODES> heldBefore;   // keys that were down when the box opened
+    SDL_Scancode pressed = SDL_SCANCODE_UNKNOWN; // closes the box when it is released
+    bool clicking = false;                       // the mouse button went down on "OK"
 };

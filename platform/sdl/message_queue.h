@@ -1,5 +1,6 @@
-// The messages that wait for the game: posted ones, the request to quit, and input, each kind in the
-// order of its arrival. message_pump.cpp takes them for PeekMessageA and adds painting and timers.
+// The messages that wait for the game: posted ones, the request to quit, and input, each kind in
+// the order of its arrival. message_pump.cpp takes them for PeekMessageA and adds painting and
+// timers.
 //
 // A kind holds up to 10,000 messages; input beyond that is dropped, and PostMessageA then fails.
 #pragma once
@@ -25,8 +26,8 @@ void postInput(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 void removePostedMessages(UINT message, WPARAM wParam);
 
 // Each copies the first message of its kind that the filter accepts to `taken`, and removes it from
-// the queue where `remove` says so. Returns false, leaving `taken` as it is, when there is none. The
-// request to quit, WM_QUIT, passes every filter.
+// the queue where `remove` says so. Returns false, leaving `taken` as it is, when there is none.
+// The request to quit, WM_QUIT, passes every filter.
 bool takePosted(const MessageFilter& filter, bool remove, MSG* taken);
 bool takeQuit(bool remove, MSG* taken);
 bool takeInput(const MessageFilter& filter, bool remove, MSG* taken);

@@ -1,27 +1,30 @@
-// Music that keeps neither the game nor the audio device waiting: a thread of its own loads the
-// instruments and renders up to 1.5 seconds ahead, and the device only copies. The music goes on
-// while the game does not look for messages.
+// Plays music without keeping the game or the audio device waiting. Three threads take part:
 //
-// All operations belong to the game's thread.
+//   game    calls every operation below; none of them waits for rendering, except stopMusicStream
+//   music   started by the first playMusic; loads the sound font, renders up to 1.5 seconds ahead
+//   device  SDL_mixer's own; copies samples that are rendered already, or silence
+//
+// So music plays on while the game takes no messages. The audio device must be open (startSound).
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
 
-// Plays a MIDI file from its start, with the first of the sound fonts that is not broken, in place
-// of the current piece. It sounds as soon as its first half second is rendered. The audio device has
-// to be open. Returns false when there is no thread to be had.
+// Plays a MIDI file from its start, with the first of the sound fonts that can be read, in place of
+// the current piece. The sound starts when half a second is rendered. A piece that cannot be played
+// stays silent and never finishes. Returns false when the music thread cannot be started.
 bool playMusic(std::vector<std::uint8_t> piece, std::vector<std::string> soundFonts);
 
-// Silence, at once.
+// Stops the piece at once.
 void haltMusic();
 
-// True when the piece has been played to its end.
+// Returns true when the device has played the piece to its end.
 bool isMusicFinished();
 
-// What went wrong since the last call, one line each.
+// Returns the errors of the music thread since the last call, one line each.
 std::vector<std::string> takeMusicErrors();
 
-// Silence, and gives the instruments back. Call it before the audio device is closed.
+// Stops the piece, ends the music thread and releases the sound font. Call it before the audio
+// device is closed.
 void stopMusicStream();

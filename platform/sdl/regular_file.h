@@ -20,7 +20,7 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 // there is no such file, it may not be read, or it is not a regular file.
 File openRegularFile(const std::string& fileName, std::string& why);
 
-// Returns the bytes of a whole file; nothing, with the cause in `why`, when it cannot be opened, has
-// more than `limit` bytes, or the disk fails.
+// Returns the bytes of a whole file; nothing, with the cause in `why`, when it cannot be opened,
+// has more than `limit` bytes, or the disk fails.
 std::optional<std::vector<std::uint8_t>> readRegularFile(const std::string& fileName,
                                                          std::size_t limit, std::string& why);

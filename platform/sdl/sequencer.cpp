@@ -18,7 +18,7 @@
 
 namespace {
 
-// Error codes of the media system.
+// Error codes of mciSendCommandA.
 constexpr MCIERROR wrongDevice = 257;
 constexpr MCIERROR unknownParameter = 258;
 constexpr MCIERROR unknownCommand = 261;
@@ -27,13 +27,14 @@ constexpr MCIERROR fileNotFound = 275;
 constexpr MCIERROR deviceNotReady = 276;
 constexpr MCIERROR badFile = 296;
 
-constexpr std::size_t largestPiece = 1 << 20; // bytes; a larger one would take too long to try out
+constexpr std::size_t largestPiece = 1
+                                     << 20; // bytes; isPlayableMidi takes too long for a larger one
 
 struct Piece {
-    MCIDEVICEID device = 0; // 0: none
+    MCIDEVICEID device = 0; // 0: no piece is open
     std::vector<std::uint8_t> file;
     std::vector<std::string> soundFonts;
-    HWND listener = nullptr; // who hears of the end; null: nobody
+    HWND listener = nullptr; // gets MM_MCINOTIFY; null: nobody
 };
 
 Piece open;
@@ -51,8 +52,9 @@ void close() {
 }
 
 MCIERROR openPiece(DWORD_PTR flags, MCI_OPEN_PARMSA* request) {
-    const bool complete = (flags & MCI_OPEN_TYPE) && (flags & MCI_OPEN_ELEMENT) && request &&
-                          request->lpstrDeviceType && request->lpstrElementName;
+    const bool complete = (flags & MCI_OPEN_TYPE) != 0 && (flags & MCI_OPEN_ELEMENT) != 0 &&
+                          request != nullptr && request->lpstrDeviceType != nullptr &&
+                          request->lpstrElementName != nullptr;
     if (!complete) { return unknownParameter; }
     if (std::string(request->lpstrDeviceType) != "sequencer") { return unknownDeviceType; }
     const std::string fileName = request->lpstrElementName;
@@ -72,17 +74,18 @@ MCIERROR openPiece(DWORD_PTR flags, MCI_OPEN_PARMSA* request) {
 }
 
 MCIERROR playPiece(DWORD_PTR flags, const MCI_PLAY_PARMS* request) {
-    if ((flags & MCI_NOTIFY) && !request) { return unknownParameter; }
+    const bool notify = (flags & MCI_NOTIFY) != 0;
+    if (notify && request == nullptr) { return unknownParameter; }
     if (!playMusic(open.file, open.soundFonts)) {
         return refuse(deviceNotReady, "the system gives no thread to play it");
     }
-    open.listener = (flags & MCI_NOTIFY) ? reinterpret_cast<HWND>(request->dwCallback) : nullptr;
+    open.listener = notify ? reinterpret_cast<HWND>(request->dwCallback) : nullptr;
     return 0;
 }
 
 MCIERROR reportStatus(DWORD_PTR flags, MCI_STATUS_PARMS* request) {
-    const bool asksPort =
-        (flags & MCI_STATUS_ITEM) && request && request->dwItem == MCI_SEQ_STATUS_PORT;
+    const bool asksPort = (flags & MCI_STATUS_ITEM) != 0 && request != nullptr &&
+                          request->dwItem == MCI_SEQ_STATUS_PORT;
     if (!asksPort) { return unknownParameter; }
     request->dwReturn = 0; // the first and only port
     return 0;
@@ -91,10 +94,10 @@ MCIERROR reportStatus(DWORD_PTR flags, MCI_STATUS_PARMS* request) {
 } // namespace
 
 void updateSequencer() {
-    for (const std::string& problem : takeMusicErrors()) {
-        logErrorOnce(problem);
+    for (const std::string& error : takeMusicErrors()) {
+        logErrorOnce(error);
     }
-    if (!open.listener || !isMusicFinished()) { return; }
+    if (open.listener == nullptr || !isMusicFinished()) { return; }
     PostMessageA(open.listener, MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL,
                  static_cast<LPARAM>(open.device));
     open.listener = nullptr;

@@ -1,9 +1,9 @@
-// MIDI music beside the effects: one piece at a time, and word to the game when it is over.
+// The MIDI sequencer: mciSendCommandA in sequencer.cpp opens, plays and closes one piece at a time.
 #pragma once
 
-// Posts MM_MCINOTIFY for a piece that is over, and says on standard error what the music lacks. The
-// message queue calls it whenever the game looks for messages.
+// Posts MM_MCINOTIFY when the piece has ended, and writes errors of the music thread on standard
+// error. PeekMessageA calls it every time.
 void updateSequencer();
 
-// Ends the music without a message.
+// Closes the piece without a message, and ends the music thread.
 void stopSequencer();

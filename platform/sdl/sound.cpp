@@ -12,20 +12,19 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 
+#include "platform/sdl/audio_format.h"
 #include "platform/sdl/errors.h"
 #include "platform/sdl/regular_file.h"
 #include "platform/windows_api.h"
 
 namespace {
 
-constexpr int samplesPerSecond = 44100;
-constexpr int speakers = 2;
-constexpr int samplesPerBuffer = 1024; // 23 ms from the event to the ear
-constexpr int effectChannel = 0;
+constexpr int framesPerBuffer = 1024;           // 23 ms from the call to the sound
+constexpr int effectChannel = 0;                // of the mixer
 constexpr std::size_t largestEffect = 64 << 20; // bytes
 constexpr double beepFrequency = 880.0;         // hertz
 constexpr double beepLength = 0.15;             // seconds
-constexpr double beepAttack = 0.005;            // seconds; shorter ones click
+constexpr double beepAttack = 0.005;            // seconds; a shorter one clicks
 constexpr double beepVolume = 0.3;              // of the loudest possible
 
 struct ChunkDeleter {
@@ -35,20 +34,19 @@ struct ChunkDeleter {
 using Chunk = std::unique_ptr<Mix_Chunk, ChunkDeleter>;
 
 struct Sound {
-    bool tried = false;
-    bool open = false;
+    bool tried = false;                   // startSound was called
+    bool open = false;                    // the device is
     std::map<std::string, Chunk> effects; // by file name; null: the file cannot be played
     std::vector<std::int16_t> beepSamples;
-    Chunk beep;
+    Chunk beep; // plays beepSamples; null before the first beep
 };
 
 Sound sound;
 
 bool openDevice() {
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Glorbix");
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0 ||
-        Mix_OpenAudioDevice(samplesPerSecond, AUDIO_S16SYS, speakers, samplesPerBuffer, nullptr,
-                            0) != 0) {
+        Mix_OpenAudioDevice(sampleRate, AUDIO_S16SYS, channelCount, framesPerBuffer, nullptr, 0) !=
+            0) {
         logError(std::string("no sound: ") + SDL_GetError());
         return false;
     }
@@ -60,8 +58,8 @@ Chunk load(const std::string& fileName, std::string& why) {
     const auto file = readRegularFile(fileName, largestEffect, why);
     if (!file) { return {}; }
     SDL_RWops* bytes = SDL_RWFromConstMem(file->data(), static_cast<int>(file->size()));
-    Chunk loaded(bytes ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
-    if (!loaded) { why = SDL_GetError(); }
+    Chunk loaded(bytes != nullptr ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
+    if (loaded == nullptr) { why = SDL_GetError(); }
     return loaded;
 }
 
@@ -70,23 +68,23 @@ Mix_Chunk* effectNamed(const std::string& fileName) {
     if (known != sound.effects.end()) { return known->second.get(); }
     std::string why;
     Chunk loaded = load(fileName, why);
-    if (!loaded) { logError("cannot play " + fileName + ": " + why); }
+    if (loaded == nullptr) { logError("cannot play " + fileName + ": " + why); }
     return sound.effects.emplace(fileName, std::move(loaded)).first->second.get();
 }
 
-// Rises quickly and fades to nothing, so that neither end clicks.
+// Rises quickly and fades out, so that neither end clicks.
 double beepLoudness(double seconds) {
     return seconds < beepAttack ? seconds / beepAttack
                                 : (beepLength - seconds) / (beepLength - beepAttack);
 }
 
 void makeBeep() {
-    const auto frames = static_cast<int>(beepLength * samplesPerSecond);
+    const auto frames = static_cast<int>(beepLength * sampleRate);
     for (int i = 0; i < frames; ++i) {
-        const double seconds = static_cast<double>(i) / samplesPerSecond;
+        const double seconds = static_cast<double>(i) / sampleRate;
         const double wave = std::sin(2.0 * std::numbers::pi * beepFrequency * seconds);
         const double value = INT16_MAX * beepVolume * beepLoudness(seconds) * wave;
-        sound.beepSamples.insert(sound.beepSamples.end(), speakers,
+        sound.beepSamples.insert(sound.beepSamples.end(), channelCount,
                                  static_cast<std::int16_t>(value));
     }
     const std::size_t bytes = sound.beepSamples.size() * sizeof(std::int16_t);
@@ -95,7 +93,7 @@ void makeBeep() {
 }
 
 BOOL play(Mix_Chunk* chunk) {
-    return chunk && Mix_PlayChannel(effectChannel, chunk, 0) >= 0 ? TRUE : FALSE;
+    return chunk != nullptr && Mix_PlayChannel(effectChannel, chunk, 0) >= 0 ? TRUE : FALSE;
 }
 
 } // namespace
@@ -117,12 +115,12 @@ void stopSound() {
 
 BOOL WINAPI PlaySoundA(const char* fileName, HMODULE, DWORD flags) {
     const DWORD needed = SND_ASYNC | SND_FILENAME;
-    if (!fileName || (flags & needed) != needed || !startSound()) { return FALSE; }
+    if (fileName == nullptr || (flags & needed) != needed || !startSound()) { return FALSE; }
     return play(effectNamed(fileName));
 }
 
 BOOL WINAPI MessageBeep(UINT) {
     if (!startSound()) { return FALSE; }
-    if (!sound.beep) { makeBeep(); }
+    if (sound.beep == nullptr) { makeBeep(); }
     return play(sound.beep.get());
 }

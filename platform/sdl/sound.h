@@ -1,9 +1,10 @@
-// The mixer, which effects and music share. Effects have one channel: a new one cuts off the last.
+// The audio device and the effects. Effects share one channel of the mixer, so a new one cuts off
+// the one before; the music (music_stream.h) has its own. Call everything on the game's thread.
 #pragma once
 
-// Opens the audio device at the first call. Returns false, after one line on standard error, where
-// there is none; it is not tried again.
+// Opens the audio device at the first call; later calls return the first result. Returns false,
+// after one line on standard error, when there is no device.
 bool startSound();
 
-// Releases every loaded effect and the device.
+// Releases the effects that were loaded, and closes the device. A later startSound opens it again.
 void stopSound();

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr const char* usualPlaces[] = {
+constexpr const char* usualPaths[] = {
     "/usr/share/sounds/sf2/default-GM.sf2",    "/usr/share/sounds/sf3/default-GM.sf3",
     "/usr/share/soundfonts/default.sf2",       "/usr/share/soundfonts/default.sf3",
     "/usr/share/sounds/sf2/FluidR3_GM.sf2",    "/usr/share/soundfonts/FluidR3_GM.sf2",
@@ -33,7 +33,7 @@ void addExisting(std::vector<std::string>& fonts, const std::string& path) {
     if (exists(path)) { fonts.push_back(path); }
 }
 
-// A path may hold a ':' itself.
+// A path may contain ':', so a part that exists as a whole is not split at it.
 std::vector<std::string> fontsIn(const std::string& list) {
     std::vector<std::string> fonts;
     for (const std::string& part : split(list, ';')) {
@@ -49,14 +49,14 @@ std::vector<std::string> fontsIn(const std::string& list) {
 
 std::vector<std::string> findSoundFonts(std::string& why) {
     const char* chosen = std::getenv("SDL_SOUNDFONTS");
-    if (chosen && *chosen) {
+    if (chosen != nullptr && *chosen != '\0') {
         why = "SDL_SOUNDFONTS names no file that exists";
         return fontsIn(chosen);
     }
     why = "no General MIDI sound font is installed";
     std::vector<std::string> fonts;
-    for (const char* place : usualPlaces) {
-        addExisting(fonts, place);
+    for (const char* path : usualPaths) {
+        addExisting(fonts, path);
     }
     return fonts;
 }

@@ -50,8 +50,8 @@ HWND windowOf(HDC deviceContext) {
     return window != nullptr && deviceContext == &window->deviceContext ? window : nullptr;
 }
 
-// The game needs the fixed-function pipeline, which a compatibility profile has. Systems that do not
-// know profiles refuse the attribute, and have the pipeline without it.
+// The game needs the fixed-function pipeline, which a compatibility profile has. Systems that do
+// not know profiles refuse the attribute, and have the pipeline without it.
 SDL_GLContext openContext(SDL_Window* window) {
     SDL_GL_SetAttribute(SDL_GL_CONTEXT_PROFILE_MASK, SDL_GL_CONTEXT_PROFILE_COMPATIBILITY);
     SDL_GLContext context = SDL_GL_CreateContext(window);

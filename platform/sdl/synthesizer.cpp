@@ -5,23 +5,25 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/sdl/audio_format.h"
+
 namespace {
 
-// The effects stay on top of the music, and the loudest piece does not clip.
+// Effects can be heard above the music, and the loudest piece does not clip.
 constexpr double musicGain = 0.3;
 
 constexpr double fadeTime = 0.5; // seconds after the last event of a piece
-constexpr int fadeFrames = static_cast<int>(fadeTime * Synthesizer::samplesPerSecond);
+constexpr int fadeFrames = static_cast<int>(fadeTime * sampleRate);
 
-// How a piece is tried out: without a sound, at a thousand times its speed.
+// isPlayableMidi plays the piece without instruments, at a thousand times its speed.
 constexpr double trialSpeed = 1000.0;
-constexpr int trialRate = 8000;         // samples a second; the lowest
-constexpr int trialBlock = 64;          // frames; 8 seconds of the piece
+constexpr int trialRate = 8000;         // frames a second, the lowest that FluidSynth offers
+constexpr int trialBlock = 64;          // frames; they take 8 seconds of the piece
 constexpr double longestPiece = 3600.0; // seconds
-constexpr double playerDelay = 2.0;     // seconds that the player waits for echoes, at any speed
+constexpr double playerDelay = 2.0;     // seconds that the player waits for reverb, at any speed
 constexpr double longestTrial = longestPiece / trialSpeed + playerDelay; // seconds
 
-// Its own lines would come beside the game's.
+// FluidSynth would write lines of its own on standard error.
 void silenceLog() {
     for (int level = FLUID_PANIC; level < LAST_LOG_LEVEL; ++level) {
         fluid_set_log_function(level, nullptr, nullptr);
@@ -33,7 +35,7 @@ bool isRegularFile(const std::string& path) {
     return std::filesystem::is_regular_file(path, ignored);
 }
 
-bool makeSynthesizer(Synthesizer& made, int rate, bool echo) {
+bool makeSynthesizer(Synthesizer& made, int rate, bool reverb) {
     made = {};
     made.settings.reset(new_fluid_settings());
     fluid_settings_t* settings = made.settings.get();
@@ -41,8 +43,8 @@ bool makeSynthesizer(Synthesizer& made, int rate, bool echo) {
     fluid_settings_setnum(settings, "synth.gain", musicGain);
     fluid_settings_setint(settings, "synth.dynamic-sample-loading", 1);
     fluid_settings_setint(settings, "synth.lock-memory", 0);
-    fluid_settings_setint(settings, "synth.reverb.active", echo);
-    fluid_settings_setint(settings, "synth.chorus.active", echo);
+    fluid_settings_setint(settings, "synth.reverb.active", reverb);
+    fluid_settings_setint(settings, "synth.chorus.active", reverb);
     fluid_settings_setstr(settings, "player.timing-source", "sample");
     made.synth.reset(settings ? new_fluid_synth(settings) : nullptr);
     return made.synth != nullptr;
@@ -52,13 +54,13 @@ bool isDone(const Synthesizer& synthesizer) {
     return fluid_player_get_status(synthesizer.player.get()) == FLUID_PLAYER_DONE;
 }
 
-// The player's status alone comes seconds too late: it waits for the longest echo.
+// The player's status changes seconds too late, because the player waits for reverb to end.
 bool hasEnded(const Synthesizer& synthesizer) {
     const int tick = fluid_player_get_current_tick(synthesizer.player.get());
     return isDone(synthesizer) || (synthesizer.lastTick > 0 && tick >= synthesizer.lastTick);
 }
 
-// The time of a piece needs the number of ticks a beat, which ends the header.
+// The division is the last field of the header: the ticks in a quarter note. 0 is not valid.
 bool hasDivision(std::span<const std::uint8_t> file) {
     return file.size() >= 14 && (file[12] != 0 || file[13] != 0);
 }
@@ -77,7 +79,7 @@ bool isPlayableMidi(std::span<const std::uint8_t> file) {
         !trial.startPiece(file)) {
         return false;
     }
-    int events = 0; // stays 0 when the player refuses the file
+    int events = 0; // stays 0 when the player cannot read the file
     fluid_player_set_playback_callback(trial.player.get(), countEvent, &events);
     fluid_player_set_tempo(trial.player.get(), FLUID_PLAYER_TEMPO_INTERNAL, trialSpeed);
     std::array<std::int16_t, trialBlock * 2> samples;
@@ -90,7 +92,7 @@ bool isPlayableMidi(std::span<const std::uint8_t> file) {
 
 bool Synthesizer::loadSoundFont(std::span<const std::string> fonts,
                                 void (*report)(const std::string&)) {
-    if (!makeSynthesizer(*this, samplesPerSecond, true)) {
+    if (!makeSynthesizer(*this, sampleRate, true)) {
         report("no music: the synthesizer cannot be started");
         return false;
     }
@@ -119,12 +121,12 @@ void Synthesizer::render(std::span<std::int16_t> samples) {
     const auto frames = static_cast<int>(samples.size() / 2);
     fluid_synth_write_s16(synth.get(), frames, samples.data(), 0, 2, samples.data(), 1, 2);
     if (lastTick == 0) {
-        lastTick = fluid_player_get_total_ticks(player.get()); // the first block has read the file
+        lastTick = fluid_player_get_total_ticks(player.get()); // known after the first block
     }
     for (std::size_t i = 0; fading && i + 1 < samples.size(); i += 2) {
-        const double part = static_cast<double>(fadeLeft) / fadeFrames;
-        samples[i] = static_cast<std::int16_t>(samples[i] * part);
-        samples[i + 1] = static_cast<std::int16_t>(samples[i + 1] * part);
+        const double gain = static_cast<double>(fadeLeft) / fadeFrames;
+        samples[i] = static_cast<std::int16_t>(samples[i] * gain);
+        samples[i + 1] = static_cast<std::int16_t>(samples[i + 1] * gain);
         fadeLeft -= fadeLeft > 0 ? 1 : 0;
     }
 }

@@ -1,4 +1,4 @@
-// MIDI music through FluidSynth. A synthesizer is used by one thread at a time.
+// Renders MIDI files to samples with FluidSynth. Each synthesizer belongs to one thread at a time.
 #pragma once
 
 #include <cstdint>
@@ -14,33 +14,33 @@ struct FluidDeleter {
     void operator()(fluid_player_t* player) const { delete_fluid_player(player); }
 };
 
-// True when the bytes are a whole MIDI file with music in it that lasts up to an hour, which takes a
-// few milliseconds to find out. The first call has to come before any synthesizer is used.
+// Returns true when the bytes are a complete MIDI file with at least one event and a length of one
+// tick to one hour. Takes some milliseconds. Also turns FluidSynth's own log off, so call it on the
+// game's thread before the first synthesizer is used.
 bool isPlayableMidi(std::span<const std::uint8_t> file);
 
 struct Synthesizer {
-    static constexpr int samplesPerSecond = 44100;
-
-    // Loads the first of the fonts that is not broken; samples are loaded as a piece asks for them.
-    // Calls `report` with one line for each broken font. Returns false when there is none left.
+    // Starts the synthesizer with the first font that can be read. The samples of an instrument are
+    // loaded when a piece selects it. Calls `report` with one line for each font that cannot be
+    // read. Returns false when that is all of them, or when there is no memory.
     bool loadSoundFont(std::span<const std::string> fonts, void (*report)(const std::string&));
     bool hasSoundFont() const { return synth != nullptr; }
 
-    // Begins a piece in place of the current one, all instruments as after power-on. The bytes are
-    // copied. Returns false when there is no memory.
+    // Starts a piece from its beginning, in place of the current one, after a system reset. The
+    // bytes are copied. Returns false when there is no memory.
     bool startPiece(std::span<const std::uint8_t> file);
 
-    // Renders the next part of the piece: pairs of samples, left and right. Takes up to some tens
-    // of milliseconds where the piece changes instruments.
+    // Renders the next part of the piece into frames of two samples, left and right. Takes up to
+    // some tens of milliseconds where instruments are loaded.
     void render(std::span<std::int16_t> samples);
 
-    // True when the last notes have faded away.
+    // Returns true when the piece has ended and its last notes have faded out.
     bool isOver() const { return fadeLeft == 0; }
 
-    // In the order of their making; each needs those above it.
+    // In the order of their creation; each needs those above it.
     std::unique_ptr<fluid_settings_t, FluidDeleter> settings;
-    std::unique_ptr<fluid_synth_t, FluidDeleter> synth; // null: no instruments yet
+    std::unique_ptr<fluid_synth_t, FluidDeleter> synth; // null: no sound font is loaded
     std::unique_ptr<fluid_player_t, FluidDeleter> player;
-    int lastTick = 0; // of the piece; 0: not known before the first rendering
-    int fadeLeft = 0; // frames
+    int lastTick = 0; // length of the piece in MIDI ticks; 0 until the first call of render
+    int fadeLeft = 0; // frames of the fade-out that are still to come
 };

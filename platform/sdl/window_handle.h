@@ -1,5 +1,5 @@
-// The record of the game's one window. window.h opens and closes the window; full_screen.h places it
-// on the desktop; surface.h gives it OpenGL; input.h follows its focus.
+// The record of the game's one window. window.h opens and closes the window; full_screen.h places
+// it on the desktop; surface.h gives it OpenGL; input.h follows its focus.
 #pragma once
 
 #include <string>

@@ -24,51 +24,51 @@ using SdlText = std::unique_ptr<char, SdlFree>;
 
 fs::path folderOfProgram() {
     const SdlText folder(SDL_GetBasePath());
-    return folder ? fs::path(folder.get()) : fs::path();
+    return folder != nullptr ? fs::path(folder.get()) : fs::path();
 }
 
-// Beside the program, beside a build tree with the program in it or one folder deeper, installed
-// and perhaps moved since, installed.
-std::vector<fs::path> placesOfData() {
-    std::vector<fs::path> places = {fs::path(".")};
+// In this order: the current folder; beside the program; beside a build folder with the program in
+// it or one level deeper; installed, perhaps moved since; installed.
+std::vector<fs::path> candidateFolders() {
+    std::vector<fs::path> candidates = {fs::path(".")};
     const fs::path program = folderOfProgram();
     if (!program.empty()) {
-        for (const char* way : {"game", "../game", "../../game", GLORBIX_DATA_FROM_PROGRAM}) {
-            places.push_back(program / way);
+        for (const char* relative : {"game", "../game", "../../game", GLORBIX_DATA_FROM_PROGRAM}) {
+            candidates.push_back(program / relative);
         }
     }
-    places.emplace_back(GLORBIX_DATA_DIR);
-    return places;
+    candidates.emplace_back(GLORBIX_DATA_DIR);
+    return candidates;
 }
 
-// The player's own folder, which is made where it is missing; empty, and why, when that fails.
+// Returns the player's own folder, which is made if it is missing; an empty path when that fails.
 fs::path makeOwnFolder(std::string& why) {
     const char* home = std::getenv("XDG_DATA_HOME");
-    if (home && *home != '/') {
-        unsetenv("XDG_DATA_HOME"); // a relative path is not valid there
+    if (home != nullptr && *home != '/') {
+        unsetenv("XDG_DATA_HOME"); // a relative path is not valid in it
     }
     const SdlText folder(SDL_GetPrefPath(nullptr, "glorbix"));
-    if (folder) { return folder.get(); }
+    if (folder != nullptr) { return folder.get(); }
     why = std::string("there is no folder for the player's files: ") + SDL_GetError();
     return {};
 }
 
-// A link of ours has a lone dot in its target, which tells it from the player's own.
+// Links of the game have a "." in their target (data/./maps), which marks them as such.
 fs::path targetOfLink(const fs::path& data, const char* folder) {
     return data / "." / folder;
 }
 
-bool isOurTarget(const fs::path& target) {
+bool isGameTarget(const fs::path& target) {
     return target.parent_path().filename() == ".";
 }
 
-bool linkOne(const fs::path& target, const fs::path& link, std::error_code& error) {
+bool makeLink(const fs::path& target, const fs::path& link, std::error_code& error) {
     const bool isLink = fs::is_symlink(fs::symlink_status(link, error));
     if (isLink) {
-        const fs::path before = fs::read_symlink(link, error);
-        const bool leadsNowhere = !fs::exists(link, error);
-        if (before == target || (!isOurTarget(before) && !leadsNowhere)) { return true; }
-        if (!isOurTarget(before)) { logError(link.string() + " led nowhere, and is linked anew"); }
+        const fs::path current = fs::read_symlink(link, error);
+        const bool isBroken = !fs::exists(link, error);
+        if (current == target || (!isGameTarget(current) && !isBroken)) { return true; }
+        if (!isGameTarget(current)) { logError(link.string() + " led nowhere and was replaced"); }
         if (!fs::remove(link, error)) { return false; }
     } else if (fs::exists(link, error)) {
         return true;
@@ -108,7 +108,7 @@ std::optional<fs::path> findGameData(const std::vector<fs::path>& folders) {
 bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
     for (const char* folder : dataFolders) {
         std::error_code error;
-        if (linkOne(targetOfLink(data, folder), own / folder, error)) { continue; }
+        if (makeLink(targetOfLink(data, folder), own / folder, error)) { continue; }
         why = "cannot make the link " + (own / folder).string() + ": " + error.message();
         return false;
     }
@@ -125,14 +125,14 @@ bool enterPlayerFolder(const fs::path& data, std::string& why) {
 }
 
 bool chooseWorkingDirectory(std::string& why) {
-    const std::vector<fs::path> places = placesOfData();
-    const std::optional<fs::path> found = findGameData(places);
+    const std::vector<fs::path> candidates = candidateFolders();
+    const std::optional<fs::path> found = findGameData(candidates);
     if (!found) {
         why = std::string("The game's data (") + listOfLevels +
               ") was found neither here, nor beside the program, nor in " GLORBIX_DATA_DIR ".";
         return false;
     }
-    if (*found == places.front() && canWriteHere()) { return true; }
+    if (*found == candidates.front() && canWriteHere()) { return true; }
     std::error_code error;
     const fs::path data = fs::canonical(*found, error);
     return enterPlayerFolder(error ? *found : data, why);
