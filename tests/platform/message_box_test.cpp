@@ -14,7 +14,7 @@ TEST(BoxText, BreaksBetweenWordsAndWithinPathsAndIsCutWhereTheDisplayEnds) {
               (Lines{"in", "/usr/share", "/glorbix/m", "aps it"}));
     EXPECT_EQ(wrapText("one\r\n\nZo\xC3\xAB\tt\n", 10), (Lines{"one", "", "Zo\x7F t"}));
     EXPECT_EQ(wrapText("", 10), Lines{""});
-    const BoxWords words = {"Error", "There is no " + std::string(540, '/'), false};
+    const BoxContent words = {"Error", "There is no " + std::string(540, '/'), false};
     EXPECT_EQ(layOutBox(words, 3, 640, 480).scale, 2);
     const BoxLayout cut = layOutBox(words, 3, 160, 120);
     EXPECT_LE(cut.height, 120);
@@ -34,7 +34,7 @@ struct Boxes : OnSdl {
         for (SDL_Event event : events) {
             EXPECT_FALSE(closed);
             event.window.windowID = SDL_GetWindowID(box.sdl);
-            closed = box.take(event);
+            closed = box.handle(event);
         }
         return closed;
     }

@@ -4,7 +4,8 @@
 #include <utility>
 
 #include "platform/sdl/errors.h"
-#include "platform/sdl/machine.h"
+#include "platform/sdl/shutdown.h"
+#include "platform/sdl/window.h"
 #include "platform/sdl_machine.h"
 
 namespace {
@@ -107,14 +108,14 @@ void findNoDisplay() {
     DEVMODEA mode = {0, 0, 16, 640, 480};
     EXPECT_EQ(ChangeDisplaySettingsA(&mode, 0), DISP_CHANGE_FAILED);
     EXPECT_EQ(openTestWindow(), nullptr);
-    EXPECT_TRUE(machineFailed());
+    EXPECT_TRUE(hadFatalError());
 }
 
 void findNoOpenGl() {
     const HDC surface = GetDC(openTestWindow());
     const PIXELFORMATDESCRIPTOR wanted = {};
     EXPECT_FALSE(ChoosePixelFormat(surface, &wanted) || wglCreateContext(surface));
-    EXPECT_TRUE(machineFailed());
+    EXPECT_TRUE(hadFatalError());
     std::fputs(lastErrorWords().c_str(), stderr);
 }
 
@@ -122,7 +123,7 @@ void startAndStop() {
     EXPECT_NE(openTestWindow(), nullptr);
     EXPECT_FALSE(SDL_IsTextInputActive()) << "an input method would take the letters";
     EXPECT_FALSE(SDL_GetHintBoolean(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, SDL_TRUE));
-    stopMachine();
+    shutDown();
     EXPECT_EQ(SDL_WasInit(0), 0U);
 }
 
