@@ -222,6 +222,8 @@ TEST_F(MarbleOnScreen, PointsItsArrowsUpAndDownhill) {
         machine.drawn.clear();
         marble.draw(viewFrame, level, true);
         const GlCalls points = only({"glVertex3f"});
+        EXPECT_EQ(alone, 16U * (3 + 3 + 6)); // disc, ghost, outline; the centre is nearer
+        EXPECT_NEAR(points[0].numbers[2], 1 / (onScreen(centre).z - 20.0), 1e-7);
         EXPECT_EQ(GlCalls(points.begin() + static_cast<long>(alone), points.end()), expected);
     }
 }

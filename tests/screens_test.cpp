@@ -1,4 +1,8 @@
 // What is on each screen: pictures, head-up display, menu, and in which order it is drawn.
+#include <GL/gl.h>
+
+#include <algorithm>
+
 #include "fakes/play.h"
 #include "state/menu.h"
 
@@ -155,6 +159,9 @@ TEST_F(Screens, LevelIsDrawnFromTheGroundToTheMenu) {
                             "Quit"}));
     EXPECT_EQ(only({"glVertex3f", "glVertex2f"}).front().name, "glVertex3f");
     EXPECT_EQ(Game.framesThisSecond, 1);
+    const GlCalls gauge = only({"glDisable", "glColor3f"}); // it is never culled
+    const auto frame = std::find(gauge.begin(), gauge.end(), GlCall("glColor3f", 1, 1, 1));
+    EXPECT_EQ(std::count(frame - 5, frame, GlCall("glDisable", GL_CULL_FACE)), 1);
     for (const double sky : {1, 0}) { // the colour of the fog, or black
         const GlCalls end(drawn().end() - 3, drawn().end());
         EXPECT_EQ(end, (GlCalls{{"SwapBuffers"},

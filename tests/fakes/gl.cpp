@@ -25,8 +25,6 @@ void glHint(GLenum, GLenum) {}
 void glLineWidth(GLfloat) {}
 void glFlush() {}
 void glEnable(GLenum) {}
-void glDisable(GLenum) {}
-void glColor3f(GLfloat, GLfloat, GLfloat) {}
 void glEnd() {}
 void glFogf(GLenum, GLfloat) {}
 void glFogfv(GLenum, const GLfloat*) {}
@@ -35,6 +33,12 @@ void glTexEnvf(GLenum, GLenum, GLfloat) {}
 void glTexParameterf(GLenum, GLenum, GLfloat) {}
 void glDeleteTextures(GLsizei, const GLuint*) {}
 
+void glDisable(GLenum what) {
+    draw("glDisable", what);
+}
+void glColor3f(GLfloat r, GLfloat g, GLfloat b) {
+    draw("glColor3f", r, g, b);
+}
 void glClearColor(GLclampf r, GLclampf g, GLclampf b, GLclampf a) {
     draw("glClearColor", r, g, b, a);
 }

@@ -187,6 +187,8 @@ TEST_F(OnScreen, MarbleBehindAHillIsAGhost) {
 }
 
 TEST_F(OnScreen, TitleIsDarkenedUnderTheMenu) {
+    load({});
+    level.drawGround(viewFrame, false, true); // whatever state a level leaves
     Game.screen = Screen::Title;
     GameWindowProc(Game.window, WM_PAINT, 0, 0);
     expectLike(photograph(), paint([](int x, int y) { return pixelOf(titleAt(x, y)); }), "title",
