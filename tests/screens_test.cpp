@@ -161,7 +161,7 @@ TEST_F(Screens, LevelIsDrawnFromTheGroundToTheMenu) {
     EXPECT_EQ(Game.framesThisSecond, 1);
     const GlCalls gauge = only({"glDisable", "glColor3f"}); // it is never culled
     const auto frame = std::find(gauge.begin(), gauge.end(), GlCall("glColor3f", 1, 1, 1));
-    EXPECT_EQ(std::count(frame - 5, frame, GlCall("glDisable", GL_CULL_FACE)), 1);
+    EXPECT_EQ(std::count(frame - 6, frame, GlCall("glDisable", GL_CULL_FACE)), 2); // text, gauge
     for (const double sky : {1, 0}) { // the colour of the fog, or black
         const GlCalls end(drawn().end() - 3, drawn().end());
         EXPECT_EQ(end, (GlCalls{{"SwapBuffers"},
