@@ -92,7 +92,8 @@ bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error)
     for (int number = 1; std::getline(lines, line); ++number) {
         const std::string wrong = takeLine(line, into);
         if (!wrong.empty()) {
-            error = fileName + ":" + std::to_string(number) + ": " + wrong;
+            error = fileName + ":" + std::to_string(number) + ": ";
+            error += wrong;
             return false;
         }
     }

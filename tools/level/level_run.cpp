@@ -28,7 +28,7 @@ bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_
     const std::int64_t bytes = pixelBytes(parseBitmapInfo(infoHeader));
     if (bytes < 0 || bytes > capacity) { return false; }
     const std::size_t there = std::min(file.size() - headers, static_cast<std::size_t>(bytes));
-    std::memcpy(pixels, file.data() + headers, there);
+    std::copy_n(file.begin() + headers, there, pixels);
     swapRedAndBlue(pixels, bytes);
     return true;
 }
