@@ -53,20 +53,22 @@ fs::path makeOwnFolder(std::string& why) {
     return {};
 }
 
-// Links of the game have a "." in their target (data/./maps), which marks them as such.
+// Links of the game have a "." in their target (/usr/share/glorbix/./maps), which marks them as
+// such. A relative one (./maps) is the player's.
 fs::path targetOfLink(const fs::path& data, const char* folder) {
     return data / "." / folder;
 }
 
 bool isGameTarget(const fs::path& target) {
-    return target.parent_path().filename() == ".";
+    return target.is_absolute() && target.parent_path().filename() == ".";
 }
 
 bool makeLink(const fs::path& target, const fs::path& link, std::error_code& error) {
     const bool isLink = fs::is_symlink(fs::symlink_status(link, error));
     if (isLink) {
         const fs::path current = fs::read_symlink(link, error);
-        const bool isBroken = !fs::exists(link, error);
+        // A target that may not be looked at is not broken.
+        const bool isBroken = fs::status(link, error).type() == fs::file_type::not_found;
         if (current == target || (!isGameTarget(current) && !isBroken)) { return true; }
         if (!isGameTarget(current)) { logError(link.string() + " led nowhere and was replaced"); }
         if (!fs::remove(link, error)) { return false; }

@@ -102,14 +102,17 @@ TEST_F(Folders, OfThePlayerHaveLinksToTheData) {
 TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {
     complaintOnEntering();
     fs::create_directories(root / "mine/graphics");
+    fs::create_directory(own / "mine");
     fs::remove(own / "graphics");
+    fs::remove(own / "maps");
     fs::remove(own / "sounds");
     fs::create_directory_symlink(root / "mine/graphics", own / "graphics");
     fs::create_directory(own / "sounds");
+    fs::create_directory_symlink("./mine", own / "maps");
     fs::rename(data, root / "moved"); // installed a second time, elsewhere
     data = root / "moved";
     EXPECT_EQ(complaintOnEntering(), "");
-    EXPECT_EQ(seen("maps"), data / "maps");
+    EXPECT_EQ(seen("maps"), own / "mine");
     EXPECT_EQ(seen("graphics"), root / "mine/graphics");
     EXPECT_EQ(seen("sounds"), own / "sounds");
     fs::remove_all(root / "mine");
