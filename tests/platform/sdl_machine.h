@@ -17,12 +17,19 @@
 
 using Numbers = std::vector<UINT>; // of messages
 
-inline std::optional<Uint64> stoppedClock; // milliseconds; without a value SDL's clock runs
+inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
+inline std::optional<SDL_Rect> roomOnDesktop; // without a value the display's own
 inline int framesShown = 0;
 
 // The linker takes these instead of SDL's. Without a screen there is nothing to swap.
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetTicks64() {
     return stoppedClock.value_or(SDL_GetTicks());
+}
+
+[[gnu::used]] inline int SDLCALL SDL_GetDisplayUsableBounds(int display, SDL_Rect* room) {
+    if (!roomOnDesktop) { return SDL_GetDisplayBounds(display, room); }
+    *room = *roomOnDesktop;
+    return 0;
 }
 
 [[gnu::used]] inline void SDLCALL SDL_GL_SwapWindow(SDL_Window*) {

@@ -79,10 +79,24 @@ TEST_F(TheWindow, HearsOfFocusAndRequestsToCloseOnce) {
     EXPECT_FALSE(currentWindow() || SDL_GL_GetCurrentWindow() || GetFocus() || GetDC(window));
 }
 
+TEST_F(TheWindow, IsTwiceTheDisplayWhereTheDesktopHasRoom) {
+    const std::pair<SDL_Rect, Size> cases[] = {{{0, 0, 1920, 1040}, {1280, 960}},
+                                               {{0, 0, 1280, 2000}, ownSize}, // no room for borders
+                                               {{0, 0, 2000, 960}, ownSize}};
+    for (const auto& [room, size] : cases) {
+        roomOnDesktop = room;
+        closeWindow();
+        openTestWindow();
+        EXPECT_EQ(sizeOfWindow(), size) << room.w;
+    }
+    roomOnDesktop.reset();
+}
+
 TEST_F(TheWindow, CoversTheScreenInTheOneDisplayMode) {
     DEVMODEA mode = {};
     ASSERT_TRUE(EnumDisplaySettingsA(nullptr, 0, &mode));
     EXPECT_FALSE(EnumDisplaySettingsA(nullptr, 1, &mode)) << "there is no other";
+    EXPECT_EQ(mode.dmSize, sizeof mode);
     EXPECT_EQ(mode.dmFields, DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT);
     EXPECT_EQ(mode.dmBitsPerPel, 16U);
     EXPECT_EQ(Size(mode.dmPelsWidth, mode.dmPelsHeight), ownSize);
