@@ -21,7 +21,8 @@ BitmapInfo parseBitmapInfo(const std::uint8_t (&infoHeader)[bitmapInfoHeaderSize
 std::int64_t pixelBytes(const BitmapInfo& info) {
     if (info.bitsPerPixel != 8 * bytesPerPixel) { return -1; }
     if (info.width < 0 || info.height < 0) { return -1; }
-    return std::int64_t{bytesPerPixel} * info.width * info.height;
+    const std::int64_t pixels = std::int64_t{info.width} * info.height;
+    return pixels <= INT32_MAX / bytesPerPixel ? bytesPerPixel * pixels : -1;
 }
 
 void swapRedAndBlue(std::uint8_t* pixels, std::int64_t byteCount) {

@@ -21,7 +21,7 @@ struct BitmapInfo {
 BitmapInfo parseBitmapInfo(const std::uint8_t (&infoHeader)[bitmapInfoHeaderSize]);
 
 // Returns the number of bytes that the pixels take, or -1 for a picture that the game cannot show:
-// of another depth, or with its rows stored from the top.
+// of another depth, with its rows stored from the top, or of more bytes than 31 bits count.
 std::int64_t pixelBytes(const BitmapInfo& info);
 
 // Converts pixels from the file's order blue, green, red to red, green, blue, or back.
