@@ -1,0 +1,284 @@
+#!/usr/bin/env python3
+"""Plays the page in Chromium: page_test.py PAGE DESKTOP_PICTURES SCENARIO
+
+Compares its pictures with those that the desktop's program wrote into a folder, and leaves both in
+build/web-check/pictures.
+"""
+import base64
+import functools
+import http.server
+import pathlib
+import sys
+import threading
+import time
+import unittest
+
+import pictures
+from webdriver import Browser
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+STEPPER = pathlib.Path(__file__).with_name("stepper.js").read_text()
+PAGE, DESKTOP, SCENARIO = map(pathlib.Path, sys.argv[1:4])
+PICTURES = ROOT / "build/web-check/pictures"
+SUB_PATH = "/some/where/"  # the page works in any folder of a server
+KEY_CODES = {"ArrowUp": 38, "ArrowLeft": 37, "Shift": 16, "Enter": 13, "Escape": 27, "F1": 112,
+             "F3": 114, "F4": 115, "F5": 116}
+MOST_DRAW_CALLS = 20  # a frame
+MOST_MISSES = 0.0005  # of all pixels
+
+
+class Server:
+    """Shows the page below SUB_PATH of this machine's own address."""
+
+    class Handler(http.server.SimpleHTTPRequestHandler):
+        def translate_path(self, path):
+            inside = path.startswith(SUB_PATH)
+            return super().translate_path(path[len(SUB_PATH) - 1:] if inside else "/none")
+
+        def log_message(self, *_):
+            pass
+
+    def __init__(self):
+        handler = functools.partial(self.Handler, directory=str(PAGE))
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+        self.address = f"http://127.0.0.1:{self.server.server_port}{SUB_PATH}"
+
+    def stop(self):
+        self.server.shutdown()
+        self.server.server_close()
+
+
+class PageStory(unittest.TestCase):
+    """A visitor opens the page."""
+
+    before_page = ""  # a script
+
+    def setUp(self):
+        self.browser = Browser()
+        self.addCleanup(self.browser.close)
+        if self.before_page:
+            self.browser.before_each_page(self.before_page)
+        self.server = Server()
+        self.browser.go(self.server.address)
+
+    def answer_box(self, text):
+        shown = "document.querySelector('dialog[open]')?.textContent"
+        self.browser.wait(shown)
+        self.assertIn(text, self.browser.run(f"return {shown}"))
+        self.browser.press("Enter")
+        self.browser.wait(f"!{shown}?.includes('{text}')")
+
+    def notice(self):
+        """What the page says instead of a picture; nothing while it shows one."""
+        return self.browser.run("""
+            const notice = document.getElementById('notice');
+            return notice.hidden ? '' : notice.textContent.trim();""")
+
+
+class Stepped(PageStory):
+    """Time stands still between the frames of the test."""
+
+    before_page = STEPPER
+
+    def setUp(self):
+        super().setUp()
+        self.browser.wait("window.glorbix?.keys")
+
+    def pixels(self):
+        """The picture of the last frame."""
+        encoded = self.browser.run("""
+            let text = '';
+            for (let i = 0; i < lastPicture.length; i += 8192) {
+                text += String.fromCharCode(...lastPicture.subarray(i, i + 8192));
+            }
+            return btoa(text);""")
+        return pictures.without_opacity(base64.b64decode(encoded))
+
+    def pass_frames(self, count):
+        """Keeps the picture of the last one. A script must not take too long."""
+        for done in range(0, count - 1, 20):
+            self.browser.run("return passFrames(arguments[0])", min(20, count - 1 - done))
+        self.browser.run("""
+            glorbix.screen.onPicture = (screen) => { lastPicture = screen.pixels(); };
+            return passFrames(1).then(() => { glorbix.screen.onPicture = null; });""")
+
+    def send(self, kind, key):
+        code = {"Shift": "ShiftLeft"}.get(key, key)
+        self.browser.run("sendKey(...arguments)", kind, code, KEY_CODES[key])
+
+    def press(self, key):
+        self.send("keydown", key)
+        self.send("keyup", key)
+
+
+class Picture(Stepped):
+    def do_step(self, word, value):
+        if word == "frames":
+            self.pass_frames(int(value))
+        elif word == "picture":
+            self.compare(value)
+        elif word == "press":
+            self.press(value)
+        else:
+            self.send("keydown" if word == "hold" else "keyup", value)
+
+    def compare(self, name):
+        """The picture of the last frame against that of the desktop."""
+        expected = (DESKTOP / f"{name}.rgb").read_bytes()
+        actual = self.pixels()
+        tolerance, allowed = (1, 0) if name == "title" else (16, MOST_MISSES)
+        missed = pictures.misses(actual, expected, tolerance)
+        share = missed / (pictures.WIDTH * pictures.HEIGHT)
+        print(f"{name}: {missed} pixels differ by more than {tolerance}, {100 * (1 - share):.3f} % "
+              f"are alike; the largest difference is {pictures.largest_difference(actual, expected)}")
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        pictures.save(actual, PICTURES / f"{name}-page.png")
+        pictures.save(expected, PICTURES / f"{name}-desktop.png")
+        self.assertLessEqual(share, allowed, f"{name}: see {PICTURES}")
+
+    def test_is_that_of_the_desktop_all_through_a_game(self):
+        for line in SCENARIO.read_text().splitlines():
+            if line and not line.startswith("#"):
+                with self.subTest(line):
+                    self.do_step(*line.split())
+        most = self.browser.run("return glorbix.screen.counts.most")
+        print(f"at most {most} draw calls a frame")
+        self.assertLessEqual(most, MOST_DRAW_CALLS)
+
+    def test_comes_back_after_the_graphics_were_lost(self):
+        self.browser.run("""
+            losing = glorbix.screen.gl.getExtension('WEBGL_lose_context');
+            losing.loseContext();""")
+        self.browser.wait("!document.getElementById('notice').hidden")
+        self.assertIn("graphics of this browser have stopped", self.notice())
+        self.pass_frames(3)
+        self.browser.run("losing.restoreContext()")
+        self.browser.wait("document.getElementById('notice').hidden")
+        self.pass_frames(3)
+        self.compare("title")
+
+
+class Focus(Stepped):
+    def start_rolling(self):
+        for key in ("Escape", "Enter", "F1"):
+            self.press(key)
+            self.pass_frames(3)
+        self.pass_frames(110)
+        self.send("keydown", "ArrowUp")
+        self.pass_frames(5)
+
+    def set_focus(self, here):
+        self.browser.run("""
+            document.hasFocus = () => arguments[0];
+            dispatchEvent(new Event(arguments[0] ? 'focus' : 'blur'));""", here)
+
+    def picture_after(self, frames):
+        self.pass_frames(frames)
+        return self.pixels()
+
+    def test_pauses_the_game_and_releases_its_keys(self):
+        self.start_rolling()
+        self.set_focus(False)
+        stopped = self.picture_after(3)
+        self.assertEqual(self.picture_after(20), stopped)
+        self.set_focus(True)
+        self.assertNotEqual(self.picture_after(20), stopped)
+        self.assertEqual(self.browser.run("return glorbix.keys.isHeld(38)"), False)
+
+
+class Visitor(PageStory):
+    def start_game(self):
+        self.browser.press("Escape", "Enter")
+
+    def wait_for_game(self):
+        self.browser.wait("window.glorbix?.screen?.counts.frames > 2")
+
+    def say_frame_rate(self):
+        time.sleep(3)
+        rate = self.browser.run("""
+            const {counts} = glorbix.screen;
+            const before = counts.frames;
+            const seconds = 3;
+            return new Promise((resolve) => {
+                setTimeout(() => resolve((counts.frames - before) / seconds), 1000 * seconds);
+            });""")
+        print(f"the page shows {rate:.1f} frames a second of a level")
+
+    def press_each_in_its_frame(self, *keys):
+        for key in keys:
+            frames = self.browser.run("return glorbix.screen.counts.frames")
+            self.browser.press(key)
+            self.browser.wait(f"glorbix.screen.counts.frames > {frames} + 2")
+
+    def kept_times(self):
+        return self.browser.run("return localStorage.getItem('glorbix-best-times')")
+
+    def set_times(self, text, waits=True):
+        self.browser.run("localStorage.setItem('glorbix-best-times', arguments[0])", text)
+        self.browser.go(self.server.address)
+        if waits:
+            self.wait_for_game()
+
+    def test_hears_music_that_goes_on_with_the_next_piece(self):
+        self.wait_for_game()
+        self.assertEqual(self.browser.run("return glorbix.music.time()"), 0)
+        self.start_game()
+        self.browser.wait("glorbix.music.time() > 1")
+        self.say_frame_rate()
+        first = self.browser.run("return glorbix.music.piece()")
+        self.browser.run("glorbix.music.skipTo(-0.5)")
+        self.browser.wait(f"glorbix.music.piece() !== '{first}' && glorbix.music.time() > 0.5")
+        self.assertEqual(self.notice(), "")
+
+    def test_finds_the_best_times_again(self):
+        self.wait_for_game()
+        rivals = self.browser.run("return glorbix.files.readFile('highScore.dat', {encoding: 'utf8'})")
+        self.assertEqual(rivals, (ROOT / "game/rivals.dat").read_text())
+        self.set_times("500 zzz " * 10)
+        self.start_game()
+        self.press_each_in_its_frame(*["F1"] * 10, "a", "b", "c")
+        self.browser.press("Escape", "ArrowUp", "Enter")
+        self.browser.wait("!document.getElementById('notice').hidden")
+        self.assertIn("The game is over", self.notice())
+        self.assertEqual(self.kept_times(), "450 ABC " + "500 zzz " * 9)
+        self.browser.press("Enter")
+        self.browser.wait("document.getElementById('notice').hidden")
+        self.wait_for_game()
+        self.assertFalse(self.browser.run("return glorbix.boxes.isOpen()"))
+        self.assertTrue(self.kept_times().startswith("450 ABC "))
+
+    def test_plays_without_a_network_later(self):
+        self.browser.wait("navigator.serviceWorker.controller")
+        self.server.stop()
+        self.browser.go(self.server.address)
+        self.wait_for_game()
+
+    def test_answers_a_message_box_before_the_game_goes_on(self):
+        self.set_times("rubbish", waits=False)
+        self.browser.wait("document.querySelector('dialog[open]')")
+        time.sleep(0.5)
+        self.assertEqual(self.browser.run("return glorbix.screen.counts.frames"), 0)
+        self.answer_box("Creating new highScores file")
+        self.wait_for_game()
+        self.assertEqual(self.notice(), "")
+
+
+class VisitorWithoutStorage(PageStory):
+    before_page = "Storage.prototype.getItem = () => { throw new Error('it is forbidden'); };"
+
+    def test_is_told_so_once(self):
+        self.answer_box("does not keep the best times: it is forbidden")
+        self.browser.press("Escape")
+        self.assertFalse(self.browser.run("return glorbix.boxes.isOpen()"))
+
+
+class VisitorWithoutWebGl(PageStory):
+    before_page = "HTMLCanvasElement.prototype.getContext = () => null;"
+
+    def test_is_told_so(self):
+        self.browser.wait("document.getElementById('notice').textContent.includes('WebGL 2')")
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1] + sys.argv[4:], verbosity=2)
