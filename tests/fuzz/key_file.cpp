@@ -1,0 +1,14 @@
+// Files of drives.
+#include <cstddef>
+#include <cstdint>
+
+#include "fuzz/input_file.h"
+#include "tools/level/key_file.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    writeInput("drive.keys", data, size);
+    KeyFile drive;
+    std::string error;
+    readKeyFile("drive.keys", drive, error);
+    return 0;
+}
