@@ -1,7 +1,6 @@
 #include "app/bitmap_file.h"
 
-#include <cstring>
-
+#include "data/bitmap.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -50,17 +49,4 @@ bool readBitmapOfSize(const char* fileName, std::int32_t width, std::int32_t hei
     return readIfAccepted(fileName, pixels, [width, height](const BitmapInfo& info) {
         return info.width == width && info.height == height;
     });
-}
-
-bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slots,
-                  std::string& picture) {
-    picture = baseName;
-    if (std::strlen(baseName) >= mipBaseNameCapacity) { return false; }
-    const std::size_t slot = slotSize(chain);
-    for (int k = 0; k < chain.levels; ++k) {
-        picture = mipFileName(baseName, k);
-        std::uint8_t* pixels = slots + static_cast<std::size_t>(k) * slot;
-        if (!readBitmap(picture.c_str(), pixels, static_cast<std::int32_t>(slot))) { return false; }
-    }
-    return true;
 }

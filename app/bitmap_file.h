@@ -2,9 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
-
-#include "data/mip_chain.h"
 
 // Reads a picture whose pixels take at most `capacity` bytes, whatever its width and height, as
 // red, green, blue. Returns false, without a message, when the file cannot be read, or when it
@@ -16,10 +13,3 @@ bool readBitmap(const char* fileName, std::uint8_t* pixels, std::int32_t capacit
 // The same for a picture of exactly width x height pixels; one of another size is refused.
 bool readBitmapOfSize(const char* fileName, std::int32_t width, std::int32_t height,
                       std::uint8_t* pixels);
-
-// Reads all files of a chain into its slots. A picture of another size is accepted when its bytes
-// fit the slot; they then count as those of a picture of the level's size. Returns false at the
-// first file that cannot be read, or when the base name is too long for a file name, with that name
-// in `picture`.
-bool readMipChain(const MipChain& chain, const char* baseName, std::uint8_t* slots,
-                  std::string& picture);

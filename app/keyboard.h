@@ -5,6 +5,6 @@
 #include "platform/windows_api.h"
 
 // Handles a key-down message: stores the key for the name entry, then runs its command. A menu line
-// that does the same as a key posts that key to the window, so its command runs with a later
-// message.
+// that does the same as a key posts that key to the window, so its command runs when that message
+// arrives.
 void handleKeyDown(WPARAM key);

@@ -16,7 +16,7 @@ bool registerWindowClass(HINSTANCE instance) {
     WNDCLASSA windowClass = {};
     windowClass.lpfnWndProc = GameWindowProc;
     windowClass.hInstance = instance;
-    windowClass.hIcon = LoadIconA(instance, "OpenGL Demo"); // the program has none
+    windowClass.hIcon = LoadIconA(instance, "OpenGL Demo"); // only on Windows there is one
     windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<UINT_PTR>(COLOR_WINDOW + 1));
     windowClass.lpszMenuName = gameName;

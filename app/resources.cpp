@@ -6,6 +6,7 @@
 #include "data/best_times.h"
 #include "data/font.h"
 #include "data/level_file.h"
+#include "data/mip_chain.h"
 #include "platform/windows_api.h"
 #include "render/textures.h"
 #include "sim/level.h"
@@ -20,7 +21,9 @@ bool refuse(const std::string& text) {
 
 // Uploads the texture at once: it stays even when a later part of the level file is refused.
 bool loadGroundTexture(Level& into, const char* baseName, std::string& picture) {
-    if (!readMipChain(groundChain, baseName, into.texturePixels[0], picture)) { return false; }
+    if (!readMipChain(groundChain, baseName, readBitmap, into.texturePixels[0], picture)) {
+        return false;
+    }
     uploadGroundTexture(into);
     return true;
 }
@@ -49,7 +52,9 @@ bool Level::load(const char* fileName, Marble& playerMarble) {
 
 bool Font::load(const char* baseName, const char* metricsName) {
     std::string picture;
-    if (!readMipChain(fontChain, baseName, imageLevels[0], picture)) { return refuse(picture); }
+    if (!readMipChain(fontChain, baseName, readBitmap, imageLevels[0], picture)) {
+        return refuse(picture);
+    }
     uploadFontTexture(*this);
     if (!readMetrics(metricsName)) { return false; }
     loaded = true;

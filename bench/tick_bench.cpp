@@ -45,7 +45,7 @@ void settle(benchmark::State& state) {
 void heightAt(benchmark::State& state) {
     settle(state);
     float x = 0.0F;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(level.heightAt(x, 0.0F));
         x += 0.01F;
     }
@@ -55,7 +55,7 @@ void simulateTick(benchmark::State& state) {
     settle(state);
     marble.setVelocity(Vector3(0.0F, 1.0F, 0.0F));
     const Marble rolling = marble;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         marble = rolling; // otherwise it would reach a hole, where a tick is cheap
         stepWorld({});
         benchmark::DoNotOptimize(marble.position);
@@ -64,7 +64,7 @@ void simulateTick(benchmark::State& state) {
 
 void moveCamera(benchmark::State& state) {
     settle(state);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         updateCamera();
         benchmark::DoNotOptimize(viewFrame);
     }
@@ -74,7 +74,7 @@ void drawGround(benchmark::State& state) {
     settle(state);
     level.buildMesh();
     std::int32_t triangles = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         triangles = level.drawGround(viewFrame, false, true);
     }
     state.counters["triangles"] = triangles;
@@ -82,7 +82,7 @@ void drawGround(benchmark::State& state) {
 
 void buildLevelMesh(benchmark::State& state) {
     settle(state);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         level.buildMesh();
     }
 }

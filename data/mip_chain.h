@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "data/bitmap.h"
@@ -32,3 +33,14 @@ constexpr std::size_t slotSize(const MipChain& chain) {
     return static_cast<std::size_t>(chain.size) * static_cast<std::size_t>(chain.size) *
            bytesPerPixel;
 }
+
+// Reads one picture of at most `capacity` bytes as red, green, blue. Returns false when it cannot
+// be read or is too large.
+using PictureReader = bool (*)(const char* fileName, std::uint8_t* pixels, std::int32_t capacity);
+
+// Reads all files of a chain into its slots, level 0 first. A picture of another size is accepted
+// when its bytes fit the slot; they then count as those of a picture of the level's size. Returns
+// false at the first file that cannot be read, or when the base name is too long for a file name,
+// with that name in `picture`.
+bool readMipChain(const MipChain& chain, const std::string& baseName, PictureReader readPicture,
+                  std::uint8_t* slots, std::string& picture);

@@ -1,13 +1,32 @@
 // The functions of Windows that the game calls, with their types and constants: the same names,
-// signatures and values as there, and what the game expects of each. The game draws with OpenGL
-// (<GL/gl.h>) besides.
+// signatures, record layouts and values as there, and what the game expects of each. The game draws
+// with OpenGL (<GL/gl.h>) besides.
+//
+// The program for Windows defines GLORBIX_SYSTEM_WINDOWS and gets the system's own headers. All
+// others, such as the tests on Windows too, get the declarations below: the system imports its
+// functions from its libraries, and the linker cannot put fakes in their place.
+// platform/windows_api_check.cpp compares both with the same list.
 //
 // The linker chooses the implementation: platform/sdl for play, tests/fakes for the tests. No
 // function is thread-safe; the game calls them all from the thread that runs WinMain. Texts are
 // bytes; platform/sdl takes them as UTF-8.
 #pragma once
 
+#ifdef GLORBIX_SYSTEM_WINDOWS
+
+#ifndef NOMINMAX
+#define NOMINMAX // windows.h would define min and max as macros
+#endif
+
+#include <windows.h>
+
+#include <mmsystem.h>
+
+#else
+
+#include <cstdarg>
 #include <cstdint>
+#include <type_traits>
 
 #define WINAPI
 #define CALLBACK
@@ -16,10 +35,10 @@ using BOOL = int; // FALSE or TRUE; the game tests for zero and not zero
 using BYTE = std::uint8_t;
 using WORD = std::uint16_t;
 using SHORT = std::int16_t;
-using DWORD = std::uint32_t;
 using UINT = std::uint32_t;
-using LONG = std::int32_t;
-using LONGLONG = std::int64_t;
+using LONG = std::conditional_t<sizeof(long) == 4, long, std::int32_t>; // long on Windows
+using DWORD = std::make_unsigned_t<LONG>;
+using LONGLONG = long long;
 using UINT_PTR = std::uintptr_t;
 using DWORD_PTR = std::uintptr_t;
 using WPARAM = std::uintptr_t;
@@ -32,18 +51,29 @@ using MCIERROR = DWORD;
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
 
-// Handles are opaque; null means "none".
+// Handles are opaque; null means "none". On Windows they have the system's types, because the
+// program there links glorbix_world, which is compiled with these declarations.
 using HANDLE = void*;
 using HLOCAL = void*;
+#ifdef _WIN32
+using HWND = struct HWND__*;
+using HDC = struct HDC__*;
+using HGLRC = struct HGLRC__*;
+using HINSTANCE = struct HINSTANCE__*;
+using HICON = struct HICON__*;
+using HBRUSH = struct HBRUSH__*;
+using HMENU = struct HMENU__*;
+#else
 using HWND = struct WindowHandle*;
 using HDC = struct DeviceContextHandle*;
 using HGLRC = struct GlContextHandle*;
 using HINSTANCE = struct InstanceHandle*;
-using HMODULE = HINSTANCE;
 using HICON = struct IconHandle*;
-using HCURSOR = HICON;
 using HBRUSH = struct BrushHandle*;
 using HMENU = struct MenuHandle*;
+#endif
+using HMODULE = HINSTANCE;
+using HCURSOR = HICON;
 
 using WNDPROC = LRESULT(CALLBACK*)(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 using TIMERPROC = void(CALLBACK*)(HWND window, UINT message, UINT_PTR timer, DWORD time);
@@ -224,13 +254,37 @@ inline constexpr LONG DISP_CHANGE_RESTART = 1;
 inline constexpr LONG DISP_CHANGE_FAILED = -1;
 inline constexpr LONG DISP_CHANGE_BADMODE = -2;
 
-// A display mode: those fields of the system's record that the game uses.
+// A display mode. Most fields are about printers; the game uses those with a comment.
 struct DEVMODEA {
-    WORD dmSize;        // bytes of this record
-    DWORD dmFields;     // which of the fields below are given, a set of DM_ bits
+    BYTE dmDeviceName[32];
+    WORD dmSpecVersion;
+    WORD dmDriverVersion;
+    WORD dmSize; // bytes of this record
+    WORD dmDriverExtra;
+    DWORD dmFields; // which fields are given, a set of DM_ bits
+    POINT dmPosition;
+    DWORD dmDisplayOrientation;
+    DWORD dmDisplayFixedOutput;
+    SHORT dmColor;
+    SHORT dmDuplex;
+    SHORT dmYResolution;
+    SHORT dmTTOption;
+    SHORT dmCollate;
+    BYTE dmFormName[32];
+    WORD dmLogPixels;
     DWORD dmBitsPerPel; // bits per pixel
     DWORD dmPelsWidth;  // pixels
     DWORD dmPelsHeight; // pixels
+    DWORD dmDisplayFlags;
+    DWORD dmDisplayFrequency;
+    DWORD dmICMMethod;
+    DWORD dmICMIntent;
+    DWORD dmMediaType;
+    DWORD dmDitherType;
+    DWORD dmReserved1;
+    DWORD dmReserved2;
+    DWORD dmPanningWidth;
+    DWORD dmPanningHeight;
 };
 
 // Copies the mode with that index (0, 1, 2, ...) of the display (null: the primary one) to `mode`.
@@ -277,7 +331,6 @@ struct PIXELFORMATDESCRIPTOR {
     DWORD dwVisibleMask;
     DWORD dwDamageMask;
 };
-static_assert(sizeof(PIXELFORMATDESCRIPTOR) == 40);
 
 // Returns and releases the window's drawing surface: 640 x 480 pixels of 16-bit colour with a
 // 16-bit depth buffer. The viewport is all of it at first.
@@ -328,8 +381,11 @@ inline constexpr DWORD_PTR MCI_STATUS_ITEM = 0x0100;
 inline constexpr DWORD_PTR MCI_OPEN_ELEMENT = 0x0200;
 inline constexpr DWORD_PTR MCI_OPEN_TYPE = 0x2000;
 inline constexpr DWORD MCI_SEQ_STATUS_PORT = 0x4003;
-inline constexpr WPARAM MCI_NOTIFY_SUCCESSFUL = 1;
+inline constexpr WPARAM MCI_NOTIFY_SUCCESSFUL = 1; // the piece has played to its end
+inline constexpr WPARAM MCI_NOTIFY_ABORTED = 4;    // it was closed before
 
+// The system packs these records.
+#pragma pack(push, 1)
 struct MCI_OPEN_PARMSA {
     DWORD_PTR dwCallback;
     MCIDEVICEID wDeviceID;        // out: the device that was opened
@@ -350,10 +406,14 @@ struct MCI_PLAY_PARMS {
     DWORD dwFrom;
     DWORD dwTo;
 };
+#pragma pack(pop)
 
 // Sends a command to a media device; `parameters` is the address of the command's record. Returns 0
-// or an error code. After MCI_PLAY with MCI_NOTIFY, MM_MCINOTIFY is posted to the window when the
-// piece has played to its end; closing it earlier posts nothing.
+// or an error code. After MCI_PLAY with MCI_NOTIFY, MM_MCINOTIFY is posted to the window once, with
+// the device as its lParam: with MCI_NOTIFY_SUCCESSFUL when the piece has played to its end, or
+// with MCI_NOTIFY_ABORTED before MCI_CLOSE returns when it is closed earlier. The game does not look
+// at the code: it clears Game.musicPlaying with the close, and handles this message before any that
+// it posts later.
 MCIERROR WINAPI mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags,
                                 DWORD_PTR parameters);
 
@@ -363,8 +423,8 @@ union LARGE_INTEGER {
     LONGLONG QuadPart;
 };
 
-// Give the counts per second, and the present count. Each call gives a higher count than the one
-// before: the game divides by the difference.
+// Give the counts per second, and the present count. The count never falls, but two calls may give
+// the same one, and a tick then has no length.
 BOOL WINAPI QueryPerformanceFrequency(LARGE_INTEGER* frequency);
 BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* counter);
 
@@ -404,5 +464,7 @@ DWORD WINAPI GetLastError();
 // With the two flags above: stores the address of a new text for the error, at `*(char**)buffer`,
 // and returns its length, 0 on failure. LocalFree releases the text and returns null.
 DWORD WINAPI FormatMessageA(DWORD flags, const void* source, DWORD error, DWORD language,
-                            char* buffer, DWORD size, void* arguments);
+                            char* buffer, DWORD size, va_list* arguments);
 HLOCAL WINAPI LocalFree(HLOCAL memory);
+
+#endif

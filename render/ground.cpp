@@ -154,7 +154,7 @@ void traverseQuadrant(GroundTraversal& traversal, Quadrant quadrant) {
     }
 }
 
-// Returns the column under the eye, or the nearest one when the eye is beside the mesh.
+// Returns the column under the eye, or the nearest one when the eye is off the mesh.
 int startColumnFor(const Vector3& eye) {
     const double column = eye.x * spacingsPerUnit + groundCentreColumn;
     if (!(column > 0.0)) { return 0; }

@@ -2,7 +2,8 @@
 # Functions that run the real game on a virtual display, press its keys and take pictures. Source
 # this file.
 #
-#   startGame BINARY DATA_FOLDER    starts the game in a folder of its own, $gameFolder
+#   startGame BINARY DATA_FOLDER    starts the game in a folder of its own, $gameFolder; a program
+#                                   for Windows (.exe) in Wine, with a copy of the whole folder
 #   answerBox TITLE                 waits for the message box and closes it by Return
 #   press KEY...                    presses keys one after the other, by their X names
 #   pressQuickly KEY...             the same, ten keys a second, also on a busy machine
@@ -11,19 +12,21 @@
 #   waitForEnd SECONDS              waits until the game has ended; returns its exit code
 #   stopGame                        ends game and display; call it from a trap as well
 #
-# The game's output is in $gameFolder/log.
+# The game's output is in $gameFolder/log. The display has the size $displaySize and $displayDepth bits
+# a pixel if these are set.
 
 gameDisplay=''
 gameFolder=''
 displayProcess=''
 gameProcess=''
+wine='' # the command that runs programs for Windows, if this is one
 
 # Without -noreset the server would reset itself whenever its last client leaves, such as a search
 # for a window before the game has connected.
 startDisplay() {
     local pipe="$gameFolder/display"
     mkfifo "$pipe"
-    Xvfb -displayfd 3 -screen 0 "${displaySize:-1280x960}x24" -nolisten tcp -noreset \
+    Xvfb -displayfd 3 -screen 0 "${displaySize:-1280x960}x${displayDepth:-24}" -nolisten tcp -noreset \
         3> "$pipe" > /dev/null 2>&1 &
     displayProcess=$!
     read -r -t 20 gameDisplay < "$pipe" || {
@@ -47,11 +50,19 @@ hasKeyboard() {
         [ $((window)) -eq "$(DISPLAY=$gameDisplay xdotool getwindowfocus 2> /dev/null || echo 0)" ]
 }
 
+# Wine leaves that to the window manager.
+giveKeyboard() {
+    local window
+    window=$(windowOf "$1" || true)
+    [ -z "$window" ] || DISPLAY=$gameDisplay xdotool windowfocus "$window" 2> /dev/null || true
+}
+
 # Waits until a window of that title has the keyboard; up to a minute, for a busy machine.
 waitForWindow() {
-    local patience=$((SECONDS + 60))
-    while [ "$SECONDS" -lt "$patience" ]; do
+    local deadline=$((SECONDS + 60))
+    while [ "$SECONDS" -lt "$deadline" ]; do
         ! hasKeyboard "$1" || return 0
+        [ -z "$wine" ] || giveKeyboard "$1"
         if ! kill -0 "$gameProcess" 2> /dev/null; then
             echo "the game ended before it showed '$1':" >&2
             cat "$gameFolder/log" >&2
@@ -69,12 +80,32 @@ startGame() {
     binary=$(realpath "$1")
     data=$(realpath "$2")
     gameFolder=$(mktemp -d)
+    if [[ $binary == *.exe ]]; then
+        startInWine "$binary"
+        return
+    fi
     ln -s "$data/maps" "$data/graphics" "$data/sounds" "$gameFolder/"
     startDisplay
     (
         cd "$gameFolder" || exit 1
         unset WAYLAND_DISPLAY SDL_VIDEODRIVER
         exec env DISPLAY="$gameDisplay" SDL_AUDIODRIVER="${SDL_AUDIODRIVER:-dummy}" "$binary"
+    ) > "$gameFolder/log" 2>&1 &
+    gameProcess=$!
+}
+
+# The game is started from another folder than its own, as by a link on the desktop. Wine switches no
+# modes of a virtual display, which therefore has the one that the game asks for.
+startInWine() {
+    wine=$(realpath "$(dirname "${BASH_SOURCE[0]}")/wine")
+    displaySize=640x480
+    displayDepth=16
+    "$wine" --stop # the desktop of an earlier program may have no display
+    cp -r "$(dirname "$1")/." "$gameFolder"
+    startDisplay
+    (
+        cd / || exit 1
+        DISPLAY=$gameDisplay exec "$wine" "$gameFolder/$(basename "$1")"
     ) > "$gameFolder/log" 2>&1 &
     gameProcess=$!
 }
@@ -119,8 +150,9 @@ stopGame() {
     [ -z "$gameProcess" ] || pkill -KILL -P "$gameProcess" 2> /dev/null || true
     [ -z "$gameProcess" ] || kill -KILL "$gameProcess" 2> /dev/null || true
     [ -z "$gameProcess" ] || wait "$gameProcess" 2> /dev/null || true
+    [ -z "$wine" ] || "$wine" --stop
     [ -z "$displayProcess" ] || kill "$displayProcess" 2> /dev/null || true
     [ -z "$displayProcess" ] || wait "$displayProcess" 2> /dev/null || true
     [ -z "$gameFolder" ] || rm -rf "$gameFolder"
-    gameProcess='' displayProcess='' gameFolder=''
+    gameProcess='' displayProcess='' gameFolder='' wine=''
 }

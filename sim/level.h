@@ -26,7 +26,7 @@ struct Hole {
 // A hole catches the marble within this distance of its centre, in widths.
 inline constexpr double catchRadiusInWidths = 1.5;
 
-// A point is near a hole, see holeAt, within this distance of its centre, in world units.
+// A point is near a hole (holeAt) within this distance of its centre, in world units.
 inline constexpr float nearHole = 250.0F;
 
 // The ground mesh: vertex (column c, row r) has the index r * groundColumns + c and is at

@@ -8,8 +8,7 @@ constexpr Vector3 weight(0.0F, 0.0F, static_cast<float>(gravity) * marbleMass);
 constexpr float accelerationPerForce = 1.0F / marbleMass;
 
 Vector3 limitSpeed(const Vector3& velocity, double topSpeed) {
-    // After a step of 0 s velocity.z is undefined, and so is the length: x and y must then stay.
-    if (!(velocity.length() > topSpeed)) { return velocity; }
+    if (velocity.length() <= topSpeed) { return velocity; }
     return velocity.unit() * static_cast<float>(topSpeed);
 }
 
@@ -27,6 +26,7 @@ void Marble::step(const Level& ground, const Vector3& force, float dt) {
     const Vector3 old = position;
     position += velocity * static_cast<float>(reach);
     position.z = ground.heightAt(position.x, position.y);
+    if (reach == 0.0) { return; } // two ticks at the same count of the clock
     // Does not move the marble, which stays on the ground, but counts for drag and top speed.
     velocity.z = static_cast<float>((old.z - position.z) / reach);
 }

@@ -26,8 +26,7 @@ struct Marble {
     }
 
     // Rolls over the ground for dt seconds under the steering force, gravity along the slope, and
-    // drag; the speed is limited by the power. A dt of 0 leaves velocity.z undefined until the next
-    // step.
+    // drag; the speed is limited by the power. With a dt of 0 it neither moves nor accelerates.
     void step(const Level& ground, const Vector3& force, float dt);
 
     // Draws it as a shaded disc that faces the viewer, faintly where a hill hides it, and with

@@ -1,4 +1,4 @@
-// The music: when it starts, what follows, when it stops.
+// The music: when it starts, which piece follows, when it stops.
 #include "fakes/play.h"
 
 namespace {
@@ -10,15 +10,28 @@ struct Music : Story {
     }
 };
 
-// A piece that starts on the nth device.
+// Returns the calls that start a piece on the nth device.
 Lines started(const std::string& file, int device) {
     const std::string n = std::to_string(device);
     return {"open " + file, "status " + n, "play " + n};
 }
 
+// A piece that is stopped while it plays. The notification of that closes the device once more, and
+// nothing follows.
+Lines closed(int device) {
+    const std::string n = std::to_string(device);
+    return {"close " + n, "close stale " + n};
+}
+
 Lines operator+(Lines a, const Lines& b) {
     a.insert(a.end(), b.begin(), b.end());
     return a;
+}
+
+// The piece that plays has come to its end.
+void endPiece() {
+    machine.playingDevice = 0;
+    send(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
 }
 
 const std::string first = "sounds/midi1.mid";
@@ -31,15 +44,15 @@ TEST_F(Music, RotatesWhileALevelIsPlayed) {
     EXPECT_EQ(music(), expected);
     int device = 1;
     for (const char* next : {"sounds/drwho2.mid", "sounds/midi3.mid", "sounds/midi1.mid"}) {
-        send(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
+        endPiece();
         expected = expected + Lines{"close " + std::to_string(device)} + started(next, device + 1);
         EXPECT_EQ(music(), expected);
         ++device;
     }
-    pressKey(VK_F1); // the next level does not disturb it
+    pressKey(VK_F1); // the next level does not change it
     EXPECT_EQ(music(), expected);
     failNext("MCI_OPEN");
-    send(MM_MCINOTIFY); // the piece that follows is missing
+    endPiece(); // the piece that follows is missing
     EXPECT_TRUE(machine.devices.empty());
     pressKey(VK_F6);
     EXPECT_EQ(music().back(), "close stale 4"); // the device opened last
@@ -52,23 +65,25 @@ TEST_F(Music, IsSwitchedWithF6) {
     startGame();
     EXPECT_EQ(music(), Lines{});
     pressKeys({VK_F6, VK_F6});
-    EXPECT_EQ(music(), started(first, 1) + Lines{"close 1"});
+    EXPECT_EQ(music(), started(first, 1) + closed(1));
     EXPECT_EQ(Game.musicPlaying, 0);
-    send(MM_MCINOTIFY); // a late one
-    EXPECT_EQ(music().back(), "close stale 1");
 }
 
 TEST_F(Music, StopsWithTheLevel) {
     startGame();
     Game.screen = Screen::Title;
     tick(0.1);
-    EXPECT_EQ(music().back(), "close 1");
+    EXPECT_EQ(music(), started(first, 1) + closed(1));
     startGame();
     machine.lines.clear();
-    startGame(); // a new run begins with the first piece
-    EXPECT_EQ(music(), Lines{"close 2"} + started(first, 3));
+    startGame(); // a new run begins with the first piece, and the rotation has not moved
+    EXPECT_EQ(music(), closed(2) + started(first, 3));
+    machine.lines.clear();
+    endPiece();
+    EXPECT_EQ(music(), Lines{"close 3"} + started("sounds/drwho2.mid", 4));
+    machine.lines.clear();
     send(WM_CLOSE);
-    EXPECT_EQ(music().back(), "close 3");
+    EXPECT_EQ(music(), closed(4));
     EXPECT_TRUE(machine.devices.empty() && !Game.musicPlaying);
 }
 
@@ -78,8 +93,8 @@ TEST_F(Music, EndsDuringTheNameEntry) {
     ASSERT_EQ(Game.screen, Screen::NameEntry);
     tick(0.1);
     EXPECT_EQ(music(), started(first, 1));
-    send(MM_MCINOTIFY);
-    EXPECT_EQ(music().back(), "close 1"); // and nothing follows
+    endPiece();
+    EXPECT_EQ(music().back(), "close 1"); // and no piece follows
     Game.screen = Screen::BestTimes;
     tick(0.1);
     EXPECT_EQ(Game.musicPlaying, 0);
@@ -87,7 +102,7 @@ TEST_F(Music, EndsDuringTheNameEntry) {
 
 TEST_F(Music, LeavesNothingOpenAfterAnError) {
     for (const char* command : {"MCI_OPEN", "MCI_STATUS", "MCI_PLAY"}) {
-        startAfresh();
+        restartAll();
         ASSERT_TRUE(startUp());
         failNext(command);
         startGame();

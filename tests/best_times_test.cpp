@@ -1,9 +1,11 @@
 // The ten best runs: their file, the place of a new one, its name, and the table on the screen.
 #include "data/best_times.h"
 
+#ifndef _WIN32
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 #include <csignal>
 #include <fstream>
@@ -16,7 +18,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// While it lives, no file may be longer than a thousand bytes.
+#ifdef _WIN32
+constexpr const char* missing =
+    "Windows limits no file's size, and has no pipes and links in folders";
+struct FullDisk {};
+void mkfifo(const char*, int) {}
+void alarm(unsigned) {}
+#else
+constexpr const char* missing = nullptr;
+
+// For its lifetime no file may be longer than a thousand bytes.
 struct FullDisk {
     rlimit before = {};
 
@@ -28,6 +39,7 @@ struct FullDisk {
     }
     ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
 };
+#endif
 
 struct TenBest : Story {
     TenBest() {
@@ -36,7 +48,7 @@ struct TenBest : Story {
         machine.lines.clear();
     }
 
-    // A run of three levels ends.
+    // Ends a run of three levels with these times.
     static void finish(float a, float b, float c) {
         startGame();
         pressKeys({VK_F1, VK_F1});
@@ -53,7 +65,7 @@ struct TenBest : Story {
         }
     }
 
-    // The reason on standard error.
+    // Saves and expects a failure. Returns the reason on standard error.
     template <class Trouble>
     static std::string failedSave(const Trouble&) {
         testing::internal::CaptureStderr();
@@ -91,6 +103,7 @@ TEST_F(TenBest, ReadBackAsTheyWereSaved) {
 
 TEST_F(TenBest, StartAgainWithoutAWholeFile) {
     const std::string nine = tenRecords.substr(0, tenRecords.find("1e+06"));
+    writeFile("rivals.dat", tenRecords); // they are no concern of the game itself
     for (const std::string& content :
          {std::string(), nine, nine + "150", nine + "x m", nine + "nan m", nine + "1e99 m",
           nine + "150 " + std::string(256, 'n'), std::string("no file")}) {
@@ -108,42 +121,49 @@ TEST_F(TenBest, StartAgainWithoutAWholeFile) {
     EXPECT_EQ(names()[9], std::string(255, 'n'));
 }
 
-TEST_F(TenBest, TakeThePlaceOfTheOldFileAsAWhole) {
+TEST_F(TenBest, ReplaceTheOldFileAsAWhole) {
+    if (missing != nullptr) { GTEST_SKIP() << missing; }
     const std::string before = readFile("highScore.dat");
-    writeFile("other.dat", "a player's own");
+    writeFile("other.dat", "another file");
     fs::create_symlink("other.dat", "highScore.dat.new"); // no save of ours made that
     fs::permissions("highScore.dat", fs::perms(0640));
     std::ifstream reader("highScore.dat");
     bestTimes.slots[0].time = 1;
     ASSERT_TRUE(saveBestTimes());
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), before);
-    EXPECT_EQ(readFile("other.dat"), "a player's own");
+    EXPECT_EQ(readFile("other.dat"), "another file");
     EXPECT_EQ(fs::status("highScore.dat").permissions(), fs::perms(0640));
 
     writeFile("highScore.dat.new", std::string(9000, '9')); // a save that was killed
     fs::create_directory("kept");
-    fs::rename("highScore.dat", "kept/a.dat"); // the player keeps it elsewhere
+    fs::rename("highScore.dat", "kept/a.dat"); // the player has moved it
     fs::create_symlink("kept/a.dat", "highScore.dat");
     for (const float time : {2.0F, 3.0F}) {
         bestTimes.slots[0].time = time;
         ASSERT_TRUE(saveBestTimes());
         EXPECT_TRUE(fs::is_symlink("highScore.dat"));
         EXPECT_TRUE(readFile("kept/a.dat").starts_with(std::to_string(int(time)) + " aaa "));
-        fs::remove("kept/a.dat"); // the link is left, and makes the file again
+        fs::remove("kept/a.dat"); // the link stays, and saving creates the file again
     }
     EXPECT_TRUE(fs::is_empty("kept"));
 }
 
-TEST_F(TenBest, AreWrittenOverWhereNoFileCanBeMade) {
+TEST_F(TenBest, AreOverwrittenWhereNoFileCanBeMade) {
     fs::create_directory("highScore.dat.new");
     for (const std::string& name : {std::string(200, 'n'), std::string("b")}) {
         std::snprintf(bestTimes.slots[9].name, tokenCapacity, "%s", name.c_str());
         ASSERT_TRUE(saveBestTimes());
         EXPECT_TRUE(readFile("highScore.dat").ends_with("180 iii 190 " + name + " "));
     }
+    fs::remove("highScore.dat.new");
+    const std::ifstream reader(
+        "highScore.dat"); // on Windows no file takes the place of an open one
+    ASSERT_TRUE(saveBestTimes());
+    EXPECT_FALSE(fs::exists("highScore.dat.new"));
 }
 
 TEST_F(TenBest, LoseNothingOnAFullDisk) {
+    if (missing != nullptr) { GTEST_SKIP() << missing; }
     const std::string before = readFile("highScore.dat");
     for (BestTimeEntry& entry : bestTimes.slots) {
         std::snprintf(entry.name, tokenCapacity, "%s", std::string(250, 'n').c_str());
@@ -160,7 +180,8 @@ TEST_F(TenBest, LoseNothingOnAFullDisk) {
     EXPECT_FALSE(fs::exists("highScore.dat") || fs::exists("highScore.dat.new"));
 }
 
-TEST_F(TenBest, GoOnWhereTheirFileIsSomethingElse) {
+TEST_F(TenBest, WorkWithoutAFileWhereItsNameIsTaken) {
+    if (missing != nullptr) { GTEST_SKIP() << missing; }
     alarm(10); // a pipe must not keep the game waiting
     for (int kind = 0; kind < 3; ++kind) {
         fs::remove("highScore.dat");
@@ -173,14 +194,6 @@ TEST_F(TenBest, GoOnWhereTheirFileIsSomethingElse) {
         EXPECT_EQ(failedSave(0), "it is not a file\n");
     }
     alarm(0);
-}
-
-TEST_F(TenBest, TakeARunAtItsPlace) {
-    finish(40, 40, 35.5F);
-    EXPECT_TRUE(Game.screen == Screen::NameEntry && Game.newBestEntry == 2);
-    EXPECT_EQ(names(), (Lines{"aaa", "bbb", "_", "ccc", "ddd", "eee", "fff", "ggg", "hhh", "iii"}));
-    EXPECT_EQ(bestTimes.slots[2].time, 115.5F);
-    EXPECT_STREQ(bestTimes.slots[10].name, "jjj");
 }
 
 TEST_F(TenBest, LeaveOutARunThatIsSlower) {
@@ -199,7 +212,7 @@ TEST_F(TenBest, AskForANameOfThreeLetters) {
     machine.lines.clear();
     tick(0.1);
     type({VK_RETURN, VK_SPACE, '7', 64, 123, 255});
-    EXPECT_EQ(said("MessageBeep"), Lines(6, "10000"));
+    EXPECT_EQ(linesOf("MessageBeep"), Lines(6, "10000"));
     EXPECT_EQ(names()[0], "_");
     type({'J'});
     EXPECT_EQ(names()[0], "J_");
@@ -216,7 +229,7 @@ TEST_F(TenBest, AskForANameOfThreeLetters) {
     finish(30, 30, 29);
     type({'A', VK_ESCAPE, VK_DOWN, VK_RETURN}); // the player looks at the table instead
     EXPECT_EQ(Game.screen, Screen::BestTimes);
-    finish(30, 30, 28); // the next name starts with its first letter all the same
+    finish(30, 30, 28); // the next name still starts with its first letter
     type({'B'});
     EXPECT_EQ(names()[0], "B_");
     EXPECT_EQ(names()[2], "JzE");

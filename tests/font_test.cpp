@@ -1,4 +1,4 @@
-// The font: its files, the glyphs that it draws, the room that they take.
+// The font: its files, the glyphs that it draws, and their size.
 #include "data/font.h"
 
 #include <GL/gl.h>
@@ -51,7 +51,6 @@ TEST_F(FontOnScreen, BreaksLinesAndLeavesGaps) {
                                                {"C", 100, 63, small, white},
                                                {"D", 100 + (c + 20) * small, 63, small, white}}));
     EXPECT_NEAR(font.penX, 100 + (c + 20 + testGlyphWidth('D')) * small, 1e-3);
-    EXPECT_EQ(font.textWidth(""), 0);
     EXPECT_NEAR(font.textWidth("C\xE4 D"), (c + 20 + testGlyphWidth('D')) * small, 1e-3);
     EXPECT_NEAR(font.textWidth("C\nCC\nC"), 2 * c * small, 1e-3); // the widest line
 }
@@ -93,16 +92,6 @@ TEST_F(FontFile, TakesACharacterAndItsNumbersWithoutBlanks) {
     EXPECT_EQ(font.glyphLeft[digit], 5.5F);
     EXPECT_EQ(font.textWidth("\xC3"), 10);  // codes from 128 on count as negative
     EXPECT_EQ(font.textWidth("AB"), 2 - 5); // a glyph that goes back
-}
-
-TEST_F(FontFile, HasABaseNameOfAtMost249Bytes) {
-    writeGameFiles();
-    const std::string longest = "deep/" + std::string(244, 'f'), tooLong = longest + 'f';
-    for (const std::string& base : {longest, tooLong}) {
-        writeMipChain(base, 256, 9);
-        EXPECT_EQ(font.load(base.c_str(), fontMetricsFile), base == longest);
-    }
-    EXPECT_EQ(boxes(), Lines{tooLong + " | error | nobody"});
 }
 
 TEST_F(FontFile, MayHavePicturesOfOtherSizes) {

@@ -1,4 +1,4 @@
-// The ground: its height, its catch radius, its slopes, and the walk over the cells in sight.
+// The ground: its height, its catch radius, and the cells that are drawn.
 #include "fakes/play.h"
 #include "sim/view_frame.h"
 
@@ -13,10 +13,8 @@ struct Ground : Story {
     }
 };
 
-const Hole well = {0, 0, 30, 100};
-
-// An eye and its angles, as the camera holds them, with what it sees: triangles, and the sum of the
-// cells in the order of drawing, each times its place in it.
+// A camera, and what it sees: the number of triangles, and the sum of the cells, each times its
+// place in the order of drawing.
 struct View {
     const char* name;
     Vector3 eye;
@@ -47,28 +45,8 @@ std::vector<int> cellsDrawn() {
 
 } // namespace
 
-TEST_F(Ground, IsFlatWithoutHoles) {
-    EXPECT_EQ(level.heightAt(12, -3400), 0);
-    EXPECT_EQ(level.holeAt(0, 0), 0);
-    expectVector(level.normalAt(3, 4), 0, 0, -1);
-    EXPECT_EQ(level.downhillAt(3, 4).length(), 0);
-    expectVector(level.tangentXAt(3, 4), 1, 0, 0);
-    expectVector(level.tangentYAt(3, 4), 0, 1, 0);
-}
-
-TEST_F(Ground, AddsUpItsWells) {
-    make({well});
-    EXPECT_NEAR(level.heightAt(0, 0), 100, 1e-4);
-    EXPECT_NEAR(level.heightAt(0, -30), 70.71068, 1e-4);
-    EXPECT_NEAR(level.heightAt(90, 0), 31.62278, 1e-4);
-    make({well, {40, 0, 30, -50}});
-    EXPECT_NEAR(level.heightAt(0, 0), 100 - 50 * 30 / 50.0, 1e-4);
-    make({{0, 0, 30, 1e8F}, {0, 0, 30, 1}, {0, 0, 30, -1e8F}});
-    EXPECT_EQ(level.heightAt(0, 0), 1); // a sum in floats loses the one between the large
-}
-
 TEST_F(Ground, CatchesInHolesButNotOnMounds) {
-    const std::vector<Hole> pit = {well}, mounds = {{0, 0, 30, -100}, {600, 0, 30, 0}};
+    const std::vector<Hole> pit = {{0, 0, 30, 100}}, mounds = {{0, 0, 30, -100}, {600, 0, 30, 0}};
     const std::vector<Hole> wideFirst = {{0, 0, 60, 10}, {10, 0, 30, 90}};
     const std::vector<Hole> wideSecond = {wideFirst[1], wideFirst[0]};
     const struct {
@@ -82,16 +60,6 @@ TEST_F(Ground, CatchesInHolesButNotOnMounds) {
         make(c.holes);
         EXPECT_EQ(level.holeAt(c.x, c.y), c.expected) << c.x << ' ' << c.y;
     }
-}
-
-TEST_F(Ground, SlopesTowardsTheWell) {
-    make({well});
-    expectVector(level.normalAt(30, 0), -0.7650, -0.0126, -0.6439);
-    expectVector(level.downhillAt(30, 0), -0.9065, -0.0150, 0.4220);
-    expectVector(level.tangentXAt(30, 0), 0.6502, 0, -0.7598);
-    expectVector(level.tangentYAt(30, 0), 0, 0.9998, -0.0196);
-    EXPECT_GT(level.normalAt(-30, 0).x, 0);
-    EXPECT_GT(level.downhillAt(0, -30).y, 0);
 }
 
 TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {

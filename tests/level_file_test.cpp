@@ -1,4 +1,4 @@
-// Level files: what they set, when they are refused and with which words, and what then remains.
+// Level files: what they set, and when and with which message they are refused.
 #include <GL/gl.h>
 #include <array>
 
@@ -35,21 +35,6 @@ TEST_F(LevelFile, FillsTheLevelAndColoursTheMarble) {
     EXPECT_EQ(level.holeCount, 0);
     ASSERT_TRUE(load("marblecolor= 1"));
     EXPECT_EQ(level.getFogColourCode(), 8U);
-}
-
-TEST_F(LevelFile, BuildsTheMeshOverTheHoles) {
-    ASSERT_TRUE(load("holecount= 1 .data 0 0 30 100 .end"));
-    expectVector(level.groundPoints[0], -750, -6000, level.heightAt(-750, -6000), 0);
-    expectVector(level.groundPoints[200 * 50 + 25], 0, 0, 100);
-    expectVector(level.groundPoints[399 * 50 + 49], 720, 5970, level.heightAt(720, 5970), 0);
-    EXPECT_TRUE(level.groundTexCoords[0].x == -4.6875F && level.groundTexCoords[0].y == -50);
-}
-
-TEST_F(LevelFile, MakesTheGroundTexture) {
-    ASSERT_TRUE(load("texturefile= ground"));
-    EXPECT_EQ(count({"glTexImage2D", 7, 3, 1, 1, 0, GL_RGB, GL_UNSIGNED_BYTE, 8}), 1);
-    ASSERT_TRUE(load("texturefile= ground texturefile= ground"));
-    EXPECT_EQ(count("glTexImage2D"), 24);
 }
 
 TEST_F(LevelFile, SaysWhyItIsRefused) {

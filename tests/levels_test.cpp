@@ -1,21 +1,27 @@
-// The shipped courses can be played: an automatic driver, which has nothing but the five keys,
-// reaches every goal in time and without a catch, and recorded drives still end as they did.
+// The shipped courses can be played: an automatic driver, with the five keys only, reaches every
+// goal in time and without a catch, recorded drives end as before, and model players finish each
+// course less often than the one before.
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
 
+#include "data/best_times.h"
+#include "data/file_text.h"
 #include "data/level_list.h"
 #include "fakes/game_files.h"
+#include "sim/course.h"
 #include "state/game.h"
+#include "tools/level/colours.h"
 #include "tools/level/command_line.h"
 #include "tools/level/drive.h"
 #include "tools/level/driver.h"
 #include "tools/level/fault_text.h"
-#include "tools/level/return_spots.h"
+#include "tools/level/player.h"
 
 namespace {
 
@@ -70,16 +76,113 @@ TEST_P(Course, EndsARecordedDriveToTheLastBit) {
     const Drive drive = replay(keys);
     EXPECT_TRUE(drive.end.done);
     EXPECT_EQ(drive.keys.time, keys.time) << "physics or course have changed: record it again";
+    EXPECT_EQ(firstDifference(keys.checkpoints, drive.keys.checkpoints), 0)
+        << "up to this tick the marble has rolled differently, if only in a last bit";
 }
 
-TEST_P(Course, GivesEveryMarbleBackAndIsGood) {
-    for (const ReturnSpot& back : findReturnSpots()) {
-        EXPECT_TRUE(back.found) << "hole " << back.hole + 1;
-    }
+TEST_P(Course, IsGood) {
+    EXPECT_GE(marbleContrast(level), 1.8);
     EXPECT_EQ(checkLevels({{GetParam()}}), exitOk);
 }
 
-// A file of this test run, while it lives.
+// A player who holds a lane along one side, with turbo from the start.
+Keys keysInLane(float lane) {
+    const float wanted = std::clamp((lane - marble.position.x) / 250.0F, -3.0F, 3.0F);
+    const float missing = wanted - marble.velocity.x;
+    return upKey | turboKey | (missing < -0.2F ? leftKey : missing > 0.2F ? rightKey : noKey);
+}
+
+TEST_P(Course, PunishesNobodyWhoOnlyLooksOn) {
+    const Drive drive = driveToEnd(60, [](float) { return noKey; }); // up to the time-out
+    const auto go = drive.line.begin() + 90;
+    EXPECT_TRUE(std::none_of(go, go + 300, [](const LinePoint& p) { return p.caught; }));
+}
+
+TEST_P(Course, HasNoFastLaneAtItsSides) {
+    KeyFile par;
+    std::string error;
+    ASSERT_TRUE(readKeyFile(keyFile(), par, error)) << error;
+    if (GetParam() == shippedLevels().front()) { return; } // which is wide and easy
+    const RunState start = runState();
+    for (const float lane : {-640.0F, 640.0F}) {
+        setRunState(start);
+        const Drive drive = driveToEnd(60, [&](float) { return keysInLane(lane); });
+        EXPECT_TRUE(!drive.end.done || drive.end.result > 1.05F * par.time) << drive.end.result;
+    }
+}
+
+TEST_P(Course, EndsInAGateThatLetsAMarbleThrough) {
+    EXPECT_LT(level.heightAt(-230.0F, goalLine), level.heightAt(0.0F, goalLine) - 200.0F);
+    EXPECT_LT(level.heightAt(230.0F, goalLine), level.heightAt(0.0F, goalLine) - 200.0F);
+    RunState state = runState();
+    state.clock = levelTime;
+    state.rolling.position = {0.0F, 5300.0F, level.heightAt(0.0F, 5300.0F)};
+    state.rolling.velocity = {0.0F, 4.0F, 0.0F};
+    setRunState(state);
+    const Drive drive = driveToEnd(60, [](float) { return upKey; });
+    EXPECT_LT(drive.end.result, 0.8F);
+    EXPECT_LT(std::abs(drive.end.rolling.position.x), 30.0F);
+}
+
+RunState endOf(const PlayerSkill& skill, const RunState& start, const Guide& guide, unsigned seed) {
+    setRunState(start);
+    Player player(skill, guide, seed);
+    return driveToEnd(60, [&](float dt) { return player.keysFor(dt); }).end;
+}
+
+int finishesOf(const PlayerSkill& skill, int runs) {
+    const RunState start = runState();
+    const Guide guide(level, safeClearance);
+    int finishes = 0;
+    for (int run = 1; run <= runs; ++run) {
+        finishes += endOf(skill, start, guide, static_cast<unsigned>(run)).done ? 1 : 0;
+    }
+    EXPECT_EQ(endOf(skill, start, guide, 7).clock, endOf(skill, start, guide, 7).clock);
+    EXPECT_NE(endOf(skill, start, guide, 7).clock, endOf(skill, start, guide, 8).clock);
+    return finishes;
+}
+
+// Model players measure it: tools/level/player.h.
+TEST(Courses, GetHarderFromTheFirstToTheLast) {
+    constexpr int runs = 40;
+    std::filesystem::current_path(GLORBIX_GAME_DIR);
+    std::vector<int> average;
+    for (const std::string& name : shippedLevels()) {
+        LevelFileReport report;
+        ASSERT_TRUE(startRun(name.c_str(), report));
+        average.push_back(finishesOf(*findSkill("average"), runs));
+        startRun(name.c_str(), report);
+        EXPECT_GE(finishesOf(*findSkill("good"), runs), runs / 3) << name;
+        const std::size_t n = average.size();
+        if (n <= 6) { EXPECT_GE(average.back(), runs / 3) << name; }
+        if (n > 1) { EXPECT_LE(average[n - 1], average[n - 2] + runs * 15 / 100) << name; }
+    }
+    EXPECT_LT(average.back(), runs / 2) << "the last is hard";
+}
+
+TEST(Rivals, AreATableThatTheGameItselfCouldHaveWritten) {
+    std::filesystem::current_path(testing::TempDir());
+    std::filesystem::copy_file(GLORBIX_GAME_DIR "/rivals.dat", bestTimesFile,
+                               std::filesystem::copy_options::overwrite_existing);
+    ASSERT_TRUE(readBestTimes());
+    for (int i = 0; i < bestTimesShown; ++i) {
+        const std::string name = bestTimes.slots[i].name;
+        EXPECT_EQ(name.size(), 3U);
+        EXPECT_EQ(name.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), std::string::npos);
+        if (i > 0) { EXPECT_GT(bestTimes.slots[i].time, bestTimes.slots[i - 1].time + 20.0F); }
+    }
+    EXPECT_LT(bestTimes.slots[9].time, levelTime * static_cast<float>(shippedLevels().size()));
+    ASSERT_TRUE(saveBestTimes());
+    std::string shipped;
+    std::string saved;
+    std::string why;
+    ASSERT_TRUE(readWholeFile(GLORBIX_GAME_DIR "/rivals.dat", shipped, why) &&
+                readWholeFile(bestTimesFile, saved, why));
+    EXPECT_EQ(saved, shipped);
+    std::filesystem::remove(bestTimesFile);
+}
+
+// A file of this test run, removed at the end of its lifetime.
 struct HandWritten {
     std::string name = testing::TempDir() + "glorbix_" + std::to_string(getpid());
 
@@ -89,10 +192,10 @@ struct HandWritten {
 
 struct Fault {
     const char* text;
-    std::string told; // the beginning of what an author reads
+    std::string start; // of the message
 };
 
-TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
+TEST(LevelFaults, AreReportedWithLineAndColumn) {
     const std::string colour = "1:11: expected a whole number from 0 to 0xffffffff after "
                                "\"fogcolor=\", not ";
     const Fault faults[] = {
@@ -100,8 +203,6 @@ TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
         {"fogcolor=12", "1:1: there must be a blank after"},
         {"fogcolor= 1\nroom", "2:1: unknown word \"room\""},
         {"fogcolor= -1", colour + "\"-1\""},
-        {"fogcolor= 0x100000000", colour + "\"0x100000000\""},
-        {"marblecolor=", "1:13: the file ends after \"marblecolor=\""},
         {"holecount= 100001", "1:12: expected a whole number from 0 to 100000 after"},
         {"holecount= 1\n.data\n 1 2 x 4 .end", "3:6: expected number 3 of the 4"},
         {"holecount= 1 .data 1 2 3 4 5 .end", "1:28: expected .end after 1 holes, not \"5\""},
@@ -112,8 +213,25 @@ TEST(LevelAuthors, AreToldLineAndColumnOfAFault) {
         file.write(fault.text);
         LevelFileReport report;
         EXPECT_FALSE(startRun(file.name.c_str(), report)) << fault.text;
-        const std::string told = faultMessage(report.fault);
-        EXPECT_TRUE(told.starts_with(fault.told)) << told;
+        const std::string message = faultMessage(report.fault);
+        EXPECT_TRUE(message.starts_with(fault.start)) << message;
+    }
+}
+
+TEST(LevelAuthors, AreWarnedOfWhatAPlayerWouldSuffer) {
+    const Fault faults[] = {
+        {"fogcolor= 0x1b2450", "fogcolor= 0x1b2450 is not exact in 16 bits"},
+        {"marblecolor= 0xffc832", "the marble is hard to see on its ground: 1.2"},
+    };
+    std::filesystem::current_path(GLORBIX_GAME_DIR);
+    const HandWritten file;
+    for (const Fault& fault : faults) {
+        file.write("texturefile= graphics/ground/grid fogcolor= 0x192452 marblecolor= 0xff3018 " +
+                   std::string(fault.text) + " holecount= 1 .data 0 -6300 300 -90 .end");
+        testing::internal::CaptureStdout();
+        checkLevels({{file.name}});
+        const std::string printed = testing::internal::GetCapturedStdout();
+        EXPECT_NE(printed.find(fault.start), std::string::npos) << printed;
     }
 }
 
@@ -121,10 +239,10 @@ TEST(Drives, AreRefusedWithTheLineAndTheReason) {
     const std::string noRate = ":1: \"ticks\" takes one whole number, 10 to 10000";
     const Fault faults[] = {
         {"ticks 600000", noRate},
-        {"ticks 60 junk", noRate},
-        {"ticks 60\n\n12up", ":3: expected \"ticks N\", \"time T\", or a number of ticks"},
+        {"ticks 60\n\n12up", ":3: expected \"ticks N\", \"time T\", \"digest N D\", or"},
         {"12 up fly", ":1: unknown key \"fly\""},
         {"time 1 2", ":1: \"time\" takes one number"},
+        {"digest 100 0x1", ":1: \"digest\" takes a number of ticks and"},
         {"999999 up\n2 down", ":2: more than 1000000 ticks in all"},
         {"ticks 10000\ntime 12.5\n1000000 up left", ""},
     };
@@ -134,11 +252,14 @@ TEST(Drives, AreRefusedWithTheLineAndTheReason) {
     for (const Fault& fault : faults) {
         file.write(fault.text);
         keys = {};
-        EXPECT_EQ(readKeyFile(file.name, keys, error), fault.told.empty()) << fault.text;
-        EXPECT_TRUE(error.starts_with(fault.told.empty() ? "" : file.name + fault.told)) << error;
+        EXPECT_EQ(readKeyFile(file.name, keys, error), fault.start.empty()) << fault.text;
+        EXPECT_TRUE(error.starts_with(fault.start.empty() ? "" : file.name + fault.start)) << error;
     }
     EXPECT_FALSE(readKeyFile("/", keys, error));
-    EXPECT_EQ(driveLevel({{"any.lev", "--tick", "60junk"}}), exitUsage);
+    for (const auto& [option, value] : {std::pair{"--tick", "60junk"}, std::pair{"--runs", "0"},
+                                        std::pair{"--player", "bad"}, std::pair{"--seed", "2"}}) {
+        EXPECT_EQ(driveLevel({{"any.lev", option, value}}), exitUsage) << option;
+    }
 }
 
 TEST(Drives, EndForAMarbleThatIsCaughtForever) {

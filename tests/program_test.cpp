@@ -1,4 +1,4 @@
-// The start of the program with every way in which it can fail, its window's messages, its end.
+// The start of the program, every way in which it can fail, the window's messages, the end.
 #include "data/best_times.h"
 #include "data/font.h"
 #include "fakes/play.h"
@@ -10,7 +10,7 @@ struct Start : Story {
     Start() { writeGameFiles(); }
 };
 
-// The program runs until its queue is empty for the third time.
+// Runs the program until its queue is empty for the third time.
 int runBriefly() {
     return runProgram([idle = 0]() mutable {
         if (++idle == 3) { PostQuitMessage(5); }
@@ -21,7 +21,7 @@ using Window = Story;
 
 } // namespace
 
-// Of the three times that the queue is empty, two find a tick posted and one the end.
+// The queue is empty three times: twice a tick is posted, then the end.
 TEST_F(Start, TakesEveryStepInOrder) {
     EXPECT_EQ(runBriefly(), 5);
     std::string steps;
@@ -36,64 +36,55 @@ TEST_F(Start, TakesEveryStepInOrder) {
               "CreateFileA graphics/title.bmp; EndPaint; ShowCursor 0; PostMessageA 1025 0; "
               "PostMessageA 1025 0; PostQuitMessage 5; ChangeDisplaySettingsA restore; "
               "ShowCursor 1; ");
-    EXPECT_EQ(machine.cursorCount, 0);
-    EXPECT_EQ(Game.window, theWindow);
 }
 
 TEST_F(Start, GoesOnWhateverTheDisplaySays) {
-    const std::string unsupported = "640x480x65536 (16-bit color/Hicolor) is not supported";
-    const std::string found = "16 640 480 7", bySize = "16 640 480 1835008", restore = "restore";
-    const auto mode = [](DWORD depth, DWORD width, DWORD height) {
-        return DEVMODEA{sizeof(DEVMODEA), 7, depth, width, height};
-    };
-    const DEVMODEA right = mode(16, 640, 480);
+    const std::string stop = " | focus, stop", caption = " | Initialization Error" + stop;
+    const Lines found = {"16 640 480 7", "restore"};
+    const Lines bySize = {found[0], "16 640 480 1835008", "restore"};
+    const DEVMODEA right = modeOf(16, 640, 480);
     const struct {
         std::vector<DEVMODEA> modes;
         std::deque<LONG> results;
         Lines changes;
         std::string message;
     } cases[] = {
-        {{mode(16, 640, 400), mode(16, 720, 480), mode(32, 640, 480)},
+        {{modeOf(16, 640, 400), modeOf(16, 720, 480), modeOf(32, 640, 480)},
          {},
-         {restore},
-         unsupported + " | Initialization Error | focus, stop"},
-        {{mode(16, 320, 240), right}, {0}, {found, restore}, ""},
-        {{right}, {-1, 0}, {found, bySize, restore}, ""},
+         {"restore"},
+         "640x480x65536 (16-bit color/Hicolor) is not supported" + caption},
+        {{modeOf(16, 320, 240), right}, {0}, found, ""},
+        {{right}, {-1, 0}, bySize, ""},
         {{right},
          {-2, 1},
-         {found, bySize, restore},
+         bySize,
          "You must change your desktop to 16bit color (Hicolor) and then restart | Win95/non-16bit "
-         "color Init Error | focus, stop"},
-        {{right},
-         {1, -2},
-         {found, bySize, restore},
-         "The video mode 640x480x65536 is not supported | Initialization Error | focus, stop"},
-        {{right},
-         {-1, -1},
-         {found, bySize, restore},
-         "Hardware failed to change to 640x480x65536 | Initialization Error | focus, stop"}};
+         "color Init Error" +
+             stop},
+        {{right}, {1, -2}, bySize, "The video mode 640x480x65536 is not supported" + caption},
+        {{right}, {-1, -1}, bySize, "Hardware failed to change to 640x480x65536" + caption}};
     for (const auto& c : cases) {
-        startAfresh();
+        restartAll();
         machine.modes = c.modes;
         machine.switchResults = c.results;
         EXPECT_EQ(runBriefly(), 5);
         EXPECT_EQ(boxes(), c.message.empty() ? Lines{} : Lines{c.message});
-        EXPECT_EQ(said("ChangeDisplaySettingsA"), c.changes);
-        EXPECT_EQ(said("CreateWindowExA").size(), 1U);
+        EXPECT_EQ(linesOf("ChangeDisplaySettingsA"), c.changes);
+        EXPECT_EQ(linesOf("CreateWindowExA").size(), 1U);
     }
 }
 
-TEST_F(Start, WithoutAWindowGivesTheDisplayBack) {
+TEST_F(Start, WithoutAWindowRestoresTheDisplay) {
     for (const char* function : {"RegisterClassA", "CreateWindowExA"}) {
-        startAfresh();
+        restartAll();
         failNext(function);
         EXPECT_EQ(runBriefly(), 0) << function;
-        EXPECT_EQ(said("ChangeDisplaySettingsA").back(), "restore");
-        EXPECT_TRUE(said("ShowWindow").empty() && boxes().empty());
+        EXPECT_EQ(linesOf("ChangeDisplaySettingsA").back(), "restore");
+        EXPECT_TRUE(linesOf("ShowWindow").empty() && boxes().empty());
     }
 }
 
-TEST_F(Start, WithoutAPixelFormatFinishesAndEnds) {
+TEST_F(Start, WithoutAPixelFormatStartsAndEnds) {
     const struct {
         void (*spoil)();
         const char* message;
@@ -103,12 +94,12 @@ TEST_F(Start, WithoutAPixelFormatFinishesAndEnds) {
                  {[] { failNext("SetPixelFormat"); },
                   "in other words | SetPixelFormat failed GetLastError | nobody, info"}};
     for (const auto& c : cases) {
-        startAfresh();
+        restartAll();
         c.spoil();
         EXPECT_EQ(runProgram([] {}), 0);
         EXPECT_EQ(boxes(), Lines{c.message});
         EXPECT_TRUE(font.loaded);
-        EXPECT_EQ(said("ShowWindow").size(), 1U);
+        EXPECT_EQ(linesOf("ShowWindow").size(), 1U);
     }
 }
 
@@ -124,7 +115,7 @@ TEST_F(Start, WithoutItsDataEnds) {
                   100},
                  {"graphics/font/font.dat", {"could not initialize fonts | Error | nobody"}, 100}};
     for (const auto& c : cases) {
-        startAfresh();
+        restartAll();
         writeGameFiles();
         std::filesystem::remove(c.missing);
         EXPECT_EQ(runProgram([] {}), 0);
@@ -138,10 +129,10 @@ TEST_F(Start, WithoutItsDataEnds) {
 TEST_F(Window, LeavesOtherMessagesToTheSystem) {
     EXPECT_EQ(send(WM_KEYDOWN, 65), 0);
     EXPECT_EQ(send(WM_USER + 3, 5, 6), 77);
-    EXPECT_EQ(said("DefWindowProcA"), Lines{"1 1027 5 6"});
+    EXPECT_EQ(linesOf("DefWindowProcA"), Lines{"1 1027 5 6"});
 }
 
-TEST_F(Window, MeasuresTheTimeOfEveryTick) {
+TEST_F(Window, MeasuresTheTimeAndPauses) {
     playLevel();
     tick(0.5);
     EXPECT_EQ(Game.frameTime, 0.5F);
@@ -153,40 +144,27 @@ TEST_F(Window, MeasuresTheTimeOfEveryTick) {
     EXPECT_EQ(marble.getPosition().y, -5800);
     EXPECT_EQ(cameraPosition.y, before.y);
     EXPECT_EQ(count("SwapBuffers"), 1);
+    send(WM_SETFOCUS); // it has the focus already
+    EXPECT_EQ(Game.paused, 1);
     pressKey(VK_F12);
+    send(WM_KILLFOCUS);
+    EXPECT_TRUE(Game.paused && !Game.hasFocus);
+    send(WM_SETFOCUS);
     tick(0.25); // no long step follows a pause
     EXPECT_EQ(Game.clock, 44.25F);
 }
 
-TEST_F(Window, PausesWithoutTheFocus) {
-    playLevel();
-    send(WM_KILLFOCUS);
-    EXPECT_TRUE(Game.paused && !Game.hasFocus);
-    send(WM_SETFOCUS);
-    EXPECT_TRUE(!Game.paused && Game.hasFocus);
-    pressKey(VK_F12);
-    send(WM_SETFOCUS); // it has the focus already
-    EXPECT_EQ(Game.paused, 1);
-}
-
-TEST_F(Window, LatchesItsStatisticsOnceASecond) {
-    playLevel();
-    for (const int frames : {3, 1}) {
-        ticks(frames, 0.1);
-        const int triangles = Game.trianglesThisSecond;
-        send(WM_TIMER, 1);
-        EXPECT_TRUE(Game.fps == frames && Game.pps == triangles);
-    }
-    EXPECT_GT(Game.pps, 100);
-}
-
-TEST_F(Window, GivesTheMachineBackWhenItCloses) {
+TEST_F(Window, ReleasesEverythingAtTheEnd) {
     playLevel();
     bestTimes.slots[0].time = 1;
     machine.lines.clear();
     send(WM_CLOSE);
-    EXPECT_EQ(machine.lines,
-              (Lines{"wglDeleteContext", "ReleaseDC", "MCI close 1", "PostQuitMessage 0"}));
+    EXPECT_EQ(machine.lines, (Lines{"wglDeleteContext", "ReleaseDC", "MCI close 1",
+                                    "PostQuitMessage 0", "MCI close stale 1"}));
     EXPECT_TRUE(Game.stopped && !Game.hasFocus);
     EXPECT_TRUE(readFile("highScore.dat").starts_with("100 ")); // nothing is saved
+
+    pressKeys({VK_ESCAPE, VK_UP, VK_RETURN}); // "Quit" saves
+    EXPECT_TRUE(readFile("highScore.dat").starts_with("1 "));
+    EXPECT_EQ(linesOf("PostQuitMessage").size(), 2U);
 }

@@ -1,8 +1,9 @@
-// What is on each screen: pictures, head-up display, menu, and in which order it is drawn.
+// What each screen shows, and the order of drawing.
 #include <GL/gl.h>
 
 #include <algorithm>
 
+#include "data/font.h"
 #include "fakes/play.h"
 #include "state/menu.h"
 
@@ -33,7 +34,7 @@ struct Screens : Story {
     }
 };
 
-// The one text of the frame that begins so.
+// Returns the first text of the frame that begins with this.
 Text textLike(const std::string& start) {
     for (const Text& text : textsDrawn()) {
         if (text.text.starts_with(start)) { return text; }
@@ -62,7 +63,8 @@ TEST_F(Screens, PicturesAreReadOnceAndShadedUnderTheMenu) {
             EXPECT_FALSE(Game.paused);
         }
     }
-    EXPECT_EQ(said("CreateFileA").size(), 9U + 2U); // the font's pictures, the two of the screens
+    EXPECT_EQ(linesOf("CreateFileA").size(),
+              9U + 2U); // the font's pictures, the two of the screens
 }
 
 TEST_F(Screens, MissingPictureIsReportedOncePerVisit) {
@@ -113,25 +115,26 @@ TEST_F(Screens, ClockGoesFromGreenToRed) {
     EXPECT_EQ(textLike("9.00"), (Text{"9.00", 280, 0, 1, {0.8, 0.2, 0, 1}}));
 }
 
-TEST_F(Screens, StatisticsAreAnOption) {
+TEST_F(Screens, StatisticsOfTheLastSecondAreAnOption) {
     playLevel();
-    Game.fps = 60;
-    Game.pps = 12345;
     tick(0.1);
     EXPECT_EQ(textLike("FPS").text, "no FPS");
     pressKey(VK_F2);
+    ticks(3, 0.1);
+    const std::string triangles = std::to_string(Game.trianglesThisSecond);
+    send(WM_TIMER, 1);
     tick(0.1);
-    EXPECT_EQ(textLike("FPS"), (Text{"FPS: 60", 0, 0, 13.0 / 33, white}));
-    EXPECT_EQ(textLike("PPS"), (Text{"PPS: 12345", 0, 13, 13.0 / 33, white}));
+    EXPECT_EQ(textLike("FPS"), (Text{"FPS: 4", 0, 0, 13.0 / 33, white}));
+    EXPECT_EQ(textLike("PPS"), (Text{"PPS: " + triangles, 0, 13, 13.0 / 33, white}));
+    send(WM_TIMER, 1);
+    EXPECT_TRUE(Game.fps == 1 && Game.pps > 100 && Game.pps < std::stoi(triangles));
 }
 
 TEST_F(Screens, BannerOfALevelShrinksAway) {
     playLevel();
     Game.levelNumber = 12; // it is centred as if it had one digit
-    double width = 10;
-    for (const char c : std::string("Level1")) {
-        width += testGlyphWidth(c);
-    }
+    font.setScale(1);
+    const double width = font.textWidth("Level 1");
     for (const double scale : {3.0, 1.5, 0.75}) {
         tick(0.125);
         EXPECT_EQ(textLike("Level"),

@@ -39,8 +39,10 @@ double meanInk(const GlyphCell& cell, const Skeleton& skeleton, double column, d
     constexpr double boldness = 1.12;
     double sum = 0.0;
     for (int i = 0; i < samples * samples; ++i) {
-        const double dx = ((i % samples + 0.5) / samples - 0.5) * side;
-        const double dy = ((i / samples + 0.5) / samples - 0.5) * side;
+        const int across = i % samples;
+        const int down = i / samples;
+        const double dx = ((across + 0.5) / samples - 0.5) * side;
+        const double dy = ((down + 0.5) / samples - 0.5) * side;
         sum += inkAt(cell, skeleton, column + dx, row + dy);
     }
     return clamp01(sum / (samples * samples) * boldness);

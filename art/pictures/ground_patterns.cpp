@@ -32,6 +32,11 @@ constexpr double hexagonWidth = tileLength / 4;     // between two flat sides, a
 constexpr double hexagonColumn = tileWidth / 6;     // from column to column
 constexpr double flatSideTilt = 0.8660254037844386; // sine of 60 degrees
 
+// Returns 0..1. The tones are mixed evenly: each column has four, each row nearly so.
+double hexagonTone(int column, int row) {
+    return 0.1 + 0.25 * ((row + 2 * (column % 2) + column / 2) % 4) + 0.1 * hash01(column, row, 71);
+}
+
 HexagonSpot hexagonAt(double x, double y) {
     HexagonSpot spot{-1.0, 0.0, 0.0};
     const int nearest = static_cast<int>(std::floor(x / hexagonColumn + 0.5));
@@ -43,7 +48,7 @@ HexagonSpot hexagonAt(double x, double y) {
         const double slant = flatSideTilt * std::fabs(dx) + 0.5 * std::fabs(dy);
         const double toEdge = 1.0 - std::fmax(std::fabs(dy), slant);
         if (toEdge > spot.toEdge) {
-            spot = {toEdge, 0.5 * dx + 0.5 * dy, hash01((column + 6) % 6, (row + 4) % 4, 71)};
+            spot = {toEdge, 0.5 * dx + 0.5 * dy, hexagonTone((column + 6) % 6, (row + 4) % 4)};
         }
     }
     return spot;
@@ -69,17 +74,20 @@ Colour gridLight(double x, double y, const GridColours& colours) {
 
 // The copper traces. They continue across the edges of the tile.
 const Skeleton& traces() {
-    static const Skeleton copper =
-        readSkeleton("W 2.2 M 0 20 L 50 20 L 70 40 L 110 40 L 130 20 L 160 20 "
-                     "M 30 10 L 30 50 L 60 80 L 60 100 L 40 120 M 40 0 L 30 10 "
-                     "M 0 80 L 20 80 L 40 100 L 40 120 "
-                     "M 90 0 L 90 40 M 90 120 L 90 90 L 110 70 L 140 70 L 150 80 L 160 80 "
-                     "M 130 20 L 130 0 M 130 120 L 130 100");
+    static const Skeleton copper = readSkeleton(
+        "W 2.2 M 0 20 L 50 20 L 70 40 L 110 40 L 130 20 L 160 20 M 130 20 L 130 0 "
+        "M 30 10 L 30 50 L 60 80 L 60 100 L 40 120 M 40 0 L 30 10 M 0 80 L 20 80 L 40 100 L 40 120 "
+        "M 90 0 L 90 40 M 90 120 L 90 90 L 110 70 L 140 70 L 150 80 L 160 80 M 60 54 L 60 30 "
+        "M 130 120 L 130 100 L 160 100 M 0 100 L 8 108 L 18 108 M 130 20 L 130 40 L 142 52 L 156 "
+        "52 "
+        "M 60 8 L 75 8 L 90 23 M 110 0 L 110 40 M 110 120 L 110 108 M 75 108 L 75 95 L 60 80 "
+        "M 12 70 L 12 38 L 30 20");
     return copper;
 }
 
-constexpr Point pads[] = {{30, 20}, {70, 40},  {110, 40},  {130, 20}, {60, 80},
-                          {90, 90}, {140, 70}, {130, 100}, {20, 80},  {90, 64}};
+constexpr Point pads[] = {{30, 20},  {70, 40},   {110, 40}, {130, 20}, {60, 80},  {90, 90},
+                          {140, 70}, {130, 100}, {20, 80},  {90, 64},  {18, 108}, {142, 52},
+                          {60, 8},   {110, 12},  {75, 108}, {12, 50},  {110, 108}};
 
 double toPad(double x, double y) {
     double nearest = 1e9;
@@ -114,7 +122,7 @@ double fromStone(double x, double y) {
 } // namespace
 
 Colour gridPattern(double x, double y) {
-    static const GridColours colours{srgb(0x101a3e), srgb(0x24407e), srgb(0x2f8ee0),
+    static const GridColours colours{srgb(0x121d46), srgb(0x203a74), srgb(0x2f8ee0),
                                      srgb(0x8ff2ff)};
     return gridLight(x, y, colours);
 }
@@ -127,7 +135,7 @@ Colour emberPattern(double x, double y) {
 
 Colour hexagonPattern(double x, double y) {
     const HexagonSpot spot = hexagonAt(x, y);
-    const Colour enamel = lerp(srgb(0x0f6a6a), srgb(0x5fd0a8), spot.tone * spot.tone);
+    const Colour enamel = lerp(srgb(0x229eb4), srgb(0x4d9a67), spot.tone);
     const Colour shaded = enamel * (1.0 + 0.35 * spot.rise);
     const double rim = 1.0 - smoothstep(0.18, 0.30, spot.toEdge);
     const Colour tile = lerp(shaded, enamel * (1.5 + 0.9 * spot.rise), rim * 0.8);
@@ -144,7 +152,7 @@ Colour plankPattern(double x, double y) {
         std::fmin(fromMultiple(y, boardDepth), 0.8 * fromMultiple(shifted, boardLength));
     const double grain = fractalNoise({tileWidth, tileLength, 3, 24}, x, y, 90);
     const double veins = 0.5 + 0.5 * sine(2.0 * pi * (y / 4.0 + 2.4 * grain));
-    const double tone = hash01(row, board, 17);
+    const double tone = hash01(row, board, 21);
     const Colour wood = lerp(srgb(0x8a4a1c), srgb(0xe0a050), 0.25 + 0.6 * tone);
     const Colour grained = lerp(wood, wood * 0.62, 0.55 * veins * grain);
     const double upperEdge = smoothstep(0.78, 0.92, fraction(y / boardDepth));
@@ -175,13 +183,10 @@ Colour scalePattern(double x, double y) {
 }
 
 Colour circuitPattern(double x, double y) {
-    const int column = static_cast<int>(std::floor(x / 80.0));
-    const int row = static_cast<int>(std::floor(y / 60.0));
-    const Colour board = ((column + row) & 1) != 0 ? srgb(0x06301f) : srgb(0x0d4a30);
     const double copper = signedDistance(traces(), {x, y});
     const double pad = toPad(x, y);
-    const Colour traced = lerp(board, srgb(0xd89a30), 1.0 - smoothstep(-0.4, 0.6, copper));
-    const Colour glowing = traced + srgb(0x30ff90) * (0.5 * exponential(-pad / 6.0));
+    const Colour traced = lerp(srgb(0x0a4028), srgb(0xd89a30), 1.0 - smoothstep(-0.4, 0.6, copper));
+    const Colour glowing = traced + srgb(0x30ff90) * (0.3 * exponential(-pad / 6.0));
     const Colour ringed = lerp(glowing, srgb(0xffe090), 1.0 - smoothstep(5.5, 6.5, pad));
     return lerp(ringed, srgb(0x0a3020), 1.0 - smoothstep(2.2, 3.0, pad));
 }
@@ -211,36 +216,35 @@ Colour sandPattern(double x, double y) {
 }
 
 Colour pavingPattern(double x, double y) {
-    const VoronoiCell spot = roughCell(stoneLattice, x, y, 6.0, 400);
+    const VoronoiCell spot = roughCell(stoneLattice, x, y, 6.0, 436);
     const double grit = fractalNoise({tileWidth, tileLength, 24, 18}, x, y, 440);
-    const Colour stone = lerp(srgb(0x6d6a70), srgb(0xc9bfae), spot.tone);
+    const Colour stone = lerp(srgb(0x858688), srgb(0xb5a898), spot.tone);
     const double roundness = smoothstep(1.5, 8.0, spot.toEdge);
     const double side = clamp01(0.5 + (spot.dy - spot.dx) * 0.028);
     const Colour lit =
-        stone * ((0.55 + 0.45 * roundness) * (0.8 + 0.5 * side) * (0.8 + 0.4 * grit));
-    const Colour moss = lerp(srgb(0x16240f), srgb(0x3f5a22), grit);
+        stone * ((0.65 + 0.35 * roundness) * (0.8 + 0.5 * side) * (0.8 + 0.4 * grit));
+    const Colour moss = lerp(srgb(0x20301a), srgb(0x4a662c), grit);
     return lerp(moss, lit, smoothstep(1.3, 2.6, spot.toEdge));
 }
 
 Colour icePattern(double x, double y) {
-    const VoronoiCell floe = roughCell(floeLattice, x, y, 14.0, 600);
+    const VoronoiCell floe = roughCell(floeLattice, x, y, 14.0, 734);
     const VoronoiCell split = roughCell({tileWidth, tileLength, 6, 5}, x, y, 10.0, 640);
     const double cloud = fractalNoise(cloudLattice, x, y, 680);
-    const Colour deep = lerp(srgb(0x1d5f98), srgb(0x58a8d8), floe.tone);
-    const Colour body = lerp(deep, srgb(0xa8dcf4), 0.55 * cloud);
+    const Colour deep = lerp(srgb(0x2888cc), srgb(0x48829c), floe.tone);
+    const Colour body = lerp(deep, srgb(0xa8dcf4), 0.3 + 0.2 * cloud);
     const double hair = 1.0 - smoothstep(0.3, 1.2, split.toEdge);
     const double frost = exponential(-floe.toEdge / 5.0);
     const double crack = 1.0 - smoothstep(1.2, 2.4, floe.toEdge);
-    const Colour frosted =
-        lerp(lerp(body, srgb(0xd8f2ff), 0.45 * hair), srgb(0xd8f4ff), 0.5 * frost);
-    return lerp(frosted, srgb(0xffffff), crack);
+    const Colour pale = lerp(lerp(body, srgb(0xd8f2ff), 0.3 * hair), srgb(0xd8f4ff), 0.2 * frost);
+    return lerp(pale, srgb(0xf4fbff), crack);
 }
 
 Colour lavaPattern(double x, double y) {
-    const VoronoiCell plate = roughCell(plateLattice, x, y, 12.0, 800);
+    const VoronoiCell plate = roughCell(plateLattice, x, y, 12.0, 823);
     const double crust = fractalNoise({tileWidth, tileLength, 16, 12}, x, y, 840);
     const Colour rock =
-        lerp(srgb(0x1a1214), srgb(0x584648), 0.25 + 0.5 * crust) * (0.6 + 0.8 * plate.tone);
+        lerp(srgb(0x1a1214), srgb(0x584648), 0.25 + 0.5 * crust) * (0.8 + 0.4 * plate.tone);
     const double glow = exponential(-plate.toEdge / 4.0);
     const Colour heated = rock + srgb(0xc02a08) * (0.9 * glow);
     const Colour core = lerp(srgb(0xff6a10), srgb(0xffd860), crust);

@@ -26,7 +26,7 @@ std::array<float, 256> linearOfBytes() {
 }
 
 std::uint8_t toSrgb8(float light) {
-    return static_cast<std::uint8_t>(linearToSrgb(clamp01(light)) * 255.0 + 0.5);
+    return static_cast<std::uint8_t>(std::lround(linearToSrgb(clamp01(light)) * 255.0));
 }
 
 // Returns the byte nearest to a value 0..1 among those that the given number of bits can hold.
@@ -90,16 +90,17 @@ Image8 toSrgb8(const Image& image) {
 }
 
 Image8 ditherTo565(const Image& image) {
-    using Channel = float(Colour::*);
-    constexpr Channel channels[] = {&Colour::red, &Colour::green, &Colour::blue};
-    constexpr int bits[] = {5, 6, 5};
     Image8 result(image.width, image.height);
-    for (std::size_t c = 0; c < 3; ++c) {
+    using Channel = float Colour::*;
+    const auto dither = [&](Channel channel, int bits, std::size_t index) {
         Raster<double> values(image.width, image.height);
         std::transform(image.pixels.begin(), image.pixels.end(), values.pixels.begin(),
-                       [&](const Colour& p) { return linearToSrgb(clamp01(p.*channels[c])); });
-        ditherChannel(values, bits[c], c, result);
-    }
+                       [&](const Colour& p) { return linearToSrgb(clamp01(p.*channel)); });
+        ditherChannel(values, bits, index, result);
+    };
+    dither(&Colour::red, 5, 0);
+    dither(&Colour::green, 6, 1);
+    dither(&Colour::blue, 5, 2);
     return result;
 }
 

@@ -48,11 +48,33 @@ bool writeFont(const path& game) {
     return ByteWriter{fontMetrics(cells)}.writeTo(game / fontMetricsFile);
 }
 
+// OpenGL reads each row from a place that is a multiple of four bytes, but the game gives it rows
+// without padding, as the file has them. Of the 2 x 2 level it therefore takes bytes 0 to 5 and 8
+// to 13, and the last two are 0. Returns the texels to write so that OpenGL takes three equal ones
+// and a dark one, with the given mean, or a darker one of the same hue where they cannot reach it.
+Image8 smallestSquare(const Rgb8& mean) {
+    constexpr double most = 3.0 * 255.0;
+    const double gain = std::min(4.0, most / std::max(mean[1], mean[2]));
+    Rgb8 t{};
+    std::transform(mean.begin(), mean.end(), t.begin(), [&](std::uint8_t part) {
+        return static_cast<std::uint8_t>(std::lround(std::min(gain * part, most) / 3.0));
+    });
+    const auto redLeft = static_cast<std::uint8_t>(std::max(0.0, gain * mean[0] - most));
+    Image8 square(2, 2); // top row first; the file begins with the bottom row
+    square.at(0, 1) = square.at(1, 1) = t;
+    square.at(0, 0) = {0, 0, t[0]}; // bytes 6 to 8; the third texel begins at byte 8
+    square.at(1, 0) = {t[1], t[2], redLeft};
+    return square;
+}
+
 bool writeGround(const path& game, const Ground& ground) {
     const path base = game / groundFolder / ground.name;
+    const std::vector<Image> chain = groundMipChain(ground.pattern);
     int level = 0;
-    for (const Image& image : groundMipChain(ground.pattern)) {
-        if (!writeBitmap(toSrgb8(image), mipFileName(base.string(), level++))) { return false; }
+    for (const Image& image : chain) {
+        const Image8 texels =
+            image.width == 2 ? smallestSquare(toSrgb8(chain.back()).at(0, 0)) : toSrgb8(image);
+        if (!writeBitmap(texels, mipFileName(base.string(), level++))) { return false; }
     }
     return true;
 }
@@ -73,7 +95,7 @@ bool writeIcon(const path& file, int size) {
         for (int x = 0; x < size; ++x) {
             const double inside = coverage(x + 0.5, y + 0.5, size);
             pixels.insert(pixels.end(), image.at(x, y).begin(), image.at(x, y).end());
-            pixels.push_back(static_cast<std::uint8_t>(inside * 255.0 + 0.5));
+            pixels.push_back(static_cast<std::uint8_t>(std::lround(inside * 255.0)));
         }
     }
     std::string error;

@@ -61,12 +61,13 @@ MarbleShadow shadowOfMarbles(const Scene& scene, const Vector3& point, const Vec
         const double distance = to.length();
         const double facing = std::max(0.0, static_cast<double>(dot(to, normal)) / distance);
         const double size = marble.radius / distance;
-        shadow.sky *= 1.0 - 0.85 * facing * size * size;
+        const double touching = smoothstep(0.2, 0.85, size * facing); // 1 where it stands
+        shadow.sky *= (1.0 - 0.85 * facing * size * size) * (1.0 - touching);
         const double along = dot(to, sunDirection);
         if (along >= 0.0) {
             const Vector3 aside = to - sunDirection * static_cast<float>(along);
             const double off = aside.length() / marble.radius;
-            shadow.sun *= lerp(0.12, 1.0, smoothstep(0.80, 1.12, off));
+            shadow.sun *= lerp(0.05, 1.0, smoothstep(0.80, 1.12, off));
             shadow.caustic = shadow.caustic + marble.ribbon * (1.6 * exponential(-off * off * 7.0));
         }
     }
@@ -88,7 +89,7 @@ Colour shadeGround(const Scene& scene, const Ray& ray, double distance) {
     const double open = scene.land.ambientOcclusion(point.x, point.y) * shadow.sky;
     const Colour light = sky.sunlight * sun + sky.skylight * (open * (0.6 + 0.4 * normal.z)) +
                          shadow.caustic * facing;
-    const double unshaded = lerp(0.3, 1.0, shadow.sun * shadow.sky);
+    const double unshaded = shadow.sky * lerp(0.15, 1.0, shadow.sun);
     const Colour emitted = paint * paint * (3.0 * scene.glow * unshaded);
     return lerp(sky.haze, paint * light + emitted, transmittance);
 }
@@ -99,11 +100,11 @@ Colour highlight(const Sky& sky, const Vector3& reflected, double sharpness) {
     return sky.sunlight * (3.0 * power(towards, sharpness));
 }
 
-Colour shadeSign(const Scene& scene, const Ray& ray, double distance) {
+Colour shadeSign(const Scene& scene, const Sign& sign, const Ray& ray, double distance) {
     const Sky& sky = scene.sky;
     const Vector3 point = ray.at(distance);
-    const Vector3 normal = scene.sign->normalAt(point);
-    const double level = clamp01(scene.sign->levelOf(point));
+    const Vector3 normal = sign.normalAt(point);
+    const double level = clamp01(sign.levelOf(point));
     const Colour low = lerp(srgb(0xff1f6e), srgb(0xff7a1a), smoothstep(0.0, 0.5, level));
     const Colour paint = lerp(low, srgb(0xffe24a), smoothstep(0.4, 1.0, level));
     const double facing = clamp01(0.3 + 0.8 * dot(normal, sunDirection));
@@ -148,7 +149,9 @@ Colour trace(const Scene& scene, const Ray& ray) {
         }
     }
     const double toSign = scene.sign ? scene.sign->hit(ray) : -1.0;
-    if (toSign > 0.0 && toSign < nearest) { return shadeSign(scene, ray, toSign); }
+    if (scene.sign && toSign > 0.0 && toSign < nearest) {
+        return shadeSign(scene, *scene.sign, ray, toSign);
+    }
     if (marbleSeen != nullptr) { return shadeMarble(scene, *marbleSeen, ray, nearest); }
     if (nearest < farAway) { return shadeGround(scene, ray, nearest); }
     const Colour sky = scene.sky.lightFrom(ray.direction);
@@ -168,8 +171,10 @@ void renderRows(const Scene& scene, const Camera& camera, int samples, int first
         for (int column = 0; column < image.width; ++column) {
             Colour sum;
             for (int i = 0; i < samples * samples; ++i) {
-                const double x = column + (i % samples + 0.5) * share - 0.5 * image.width;
-                const double y = 0.5 * image.height - row - (i / samples + 0.5) * share;
+                const int across = i % samples;
+                const int down = i / samples;
+                const double x = column + (across + 0.5) * share - 0.5 * image.width;
+                const double y = 0.5 * image.height - row - (down + 0.5) * share;
                 const Vector3 direction = forward + up * static_cast<float>(y * pixel) +
                                           Vector3(static_cast<float>(x * pixel), 0.0F, 0.0F);
                 sum = sum + trace(scene, {camera.eye, direction.unit(), pixel, 0});
@@ -185,6 +190,7 @@ Image render(const Scene& scene, const Camera& camera, int width, int height, in
     Image image(width, height);
     const int count = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     std::vector<std::jthread> threads;
+    threads.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         threads.emplace_back([&, i] { renderRows(scene, camera, samples, i, count, image); });
     }

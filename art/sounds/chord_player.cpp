@@ -50,6 +50,7 @@ std::vector<int> voice(const Chord& chord, const std::vector<int>& previous, int
     int bestCost = INT_MAX;
     for (int bottom = lowest; bottom <= std::max(lowest, highest - 7); ++bottom) {
         std::vector<int> pitches;
+        pitches.reserve(chord.tones.size());
         for (const int tone : chord.tones) {
             pitches.push_back(pitchAbove(bottom, tone));
         }
@@ -124,6 +125,7 @@ std::vector<std::vector<WrittenNote>> playChords(const std::vector<Chord>& chord
                                                  int highest) {
     ChordPlayer player{chords, lowest, highest};
     std::vector<std::vector<WrittenNote>> notes;
+    notes.reserve(hits.size());
     for (const Hit& hit : hits) {
         notes.push_back(player.play(hit));
     }

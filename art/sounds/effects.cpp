@@ -8,6 +8,7 @@ namespace {
 constexpr double peakInDecibels = -3.0;
 // A blown tone sounds louder than a struck one of the same peak; this makes them equal.
 constexpr double blownPeakInDecibels = -6.5;
+constexpr double tickPeakInDecibels = -8.0; // the menu's tick is heard most often
 
 // MIDI pitches by name; a4 is 440 Hz.
 constexpr double d4 = 62, f4 = 65, a4 = 69, d5 = 74, fSharp5 = 78, a5 = 81, d6 = 86, fSharp6 = 90;
@@ -125,10 +126,10 @@ void blowHorn(SoundBuffer& sound, const Cue& cue, const HornShape& shape) {
 
 SoundBuffer menuTick() {
     SoundBuffer sound(0.11);
-    knock(sound, 0.0, 0.9);
-    strikeGlass(sound, {0.0, 97.3, 1.0, -0.1}, 0.011);
-    strikeGlass(sound, {0.047, 97.9, 0.3, 0.15}, 0.008);
-    sound.master(peakInDecibels, 0.03);
+    knock(sound, 0.0, 0.4);
+    strikeGlass(sound, {0.0, 83.3, 1.0, -0.1}, 0.014);
+    strikeGlass(sound, {0.047, 83.9, 0.3, 0.15}, 0.010);
+    sound.master(tickPeakInDecibels, 0.03);
     return sound;
 }
 

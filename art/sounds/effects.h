@@ -9,7 +9,7 @@ SoundBuffer menuTick();
 // The marble is free: a leap upwards into a bright open chord.
 SoundBuffer startSignal();
 
-// The time is over: three falling tones, the last of which sinks.
+// The time is over: three falling tones, of which the last one slides down.
 SoundBuffer timeUp();
 
 // The goal is reached: glass bells play a rising chord that rings on.

@@ -57,6 +57,7 @@ std::vector<int> tonesOf(int root, const std::string& quality) {
     for (const Quality& known : qualities) {
         if (quality == known.name) {
             std::vector<int> tones;
+            tones.reserve(known.steps.size());
             for (const int step : known.steps) {
                 tones.push_back((root + step) % 12);
             }

@@ -1,4 +1,4 @@
-// The looks of a message box: a caption on a coloured band, the text, and an "OK" button.
+// What a message box looks like: a caption on a coloured band, the text, and an "OK" button.
 #pragma once
 
 #include <string>

@@ -3,7 +3,7 @@
 
 #include <SDL.h>
 
-// Points that a title bar and borders take at most beside the inside of a window, each way.
+// The most points that a title bar and borders add to the width or height of a window.
 inline constexpr int frameAllowance = 48;
 
 // Returns the display that shows most of the window; 0 when it is null or not known.

@@ -2,8 +2,8 @@
 
 #include <SDL.h>
 
+#include "platform/common/errors.h"
 #include "platform/sdl/box_picture.h"
-#include "platform/sdl/errors.h"
 #include "platform/sdl/message_box.h"
 #include "platform/sdl/video.h"
 #include "platform/sdl/window_handle.h"

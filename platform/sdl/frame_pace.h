@@ -2,9 +2,15 @@
 // it leaves the processor free.
 #pragma once
 
-// Waits until at least 4 ms have passed since it last returned: 250 frames a second at most, where
-// vertical sync does not make it fewer.
-void waitForNextFrame();
+#include <SDL.h>
 
-// For a hidden or minimised window: waits for 0.1 s, or until an event of SDL waits.
+// Waits until the window's display is nearly due for another frame after this function last
+// returned, or for 4 ms where the display's rate is not known or above 250 frames a second. So
+// there are not more frames than the display can show, where vertical sync does not see to that.
+void waitForNextFrame(SDL_Window* window);
+
+// For a picture that stays the same: waits for 40 ms, or until an event of SDL waits.
+void waitWhileStill();
+
+// For a hidden or minimised window: waits for 0.1 s, or until SDL has an event.
 void waitWhileHidden();

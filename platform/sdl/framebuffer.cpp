@@ -3,7 +3,6 @@
 #include <SDL.h>
 
 #include "platform/display_mode.h"
-#include "platform/sdl/letterbox.h"
 
 namespace {
 
@@ -47,13 +46,20 @@ bool Framebuffer::loadFunctions() {
            load(renderbufferStorage, "glRenderbufferStorage");
 }
 
+// Makes the colours of the framebuffer object that is bound.
+GLuint Framebuffer::createColour(GLenum format, int width, int height) const {
+    GLuint buffer = 0;
+    genRenderbuffers(1, &buffer);
+    bindRenderbuffer(GL_RENDERBUFFER, buffer);
+    renderbufferStorage(GL_RENDERBUFFER, format, width, height);
+    framebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, buffer);
+    return buffer;
+}
+
 void Framebuffer::createBuffers() {
     genFramebuffers(1, &name);
     bindFramebuffer(GL_FRAMEBUFFER, name);
-    genRenderbuffers(1, &colour);
-    bindRenderbuffer(GL_RENDERBUFFER, colour);
-    renderbufferStorage(GL_RENDERBUFFER, GL_RGB565, screenWidth, screenHeight);
-    framebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, colour);
+    colour = createColour(GL_RGB565, screenWidth, screenHeight);
     genRenderbuffers(1, &depth);
     bindRenderbuffer(GL_RENDERBUFFER, depth);
     renderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT16, screenWidth, screenHeight);
@@ -85,26 +91,64 @@ void Framebuffer::bind() const {
     bindFramebuffer(GL_FRAMEBUFFER, name);
 }
 
-void Framebuffer::copyToWindow(int windowWidth, int windowHeight) const {
-    const PixelRect picture = letterbox(windowWidth, windowHeight);
-    const bool scaled = picture.width != screenWidth || picture.height != screenHeight;
+// Leaves the enlarged picture as the one to copy from. Returns false when OpenGL has no room for
+// it.
+bool Framebuffer::enlarge(int scale) {
+    const int width = scale * screenWidth;
+    const int height = scale * screenHeight;
+    if (enlargedScale != scale) {
+        releaseEnlarged();
+        genFramebuffers(1, &enlarged);
+        bindFramebuffer(GL_FRAMEBUFFER, enlarged);
+        enlargedColour = createColour(GL_RGB8, width, height);
+        enlargedScale = scale;
+    }
+    bindFramebuffer(GL_FRAMEBUFFER, enlarged);
+    const bool complete = checkFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
+    bindFramebuffer(GL_READ_FRAMEBUFFER, name);
+    if (!complete) { return false; }
+    blitFramebuffer(0, 0, screenWidth, screenHeight, 0, 0, width, height, GL_COLOR_BUFFER_BIT,
+                    GL_NEAREST);
+    bindFramebuffer(GL_READ_FRAMEBUFFER, enlarged);
+    return true;
+}
+
+void Framebuffer::copyPicture(const PixelRect& picture) {
+    const int scale = (picture.width + screenWidth - 1) / screenWidth;
+    const bool isWhole =
+        picture.width == scale * screenWidth && picture.height == scale * screenHeight;
+    const int size = scale > 1 && !isWhole && enlarge(scale) ? scale : 1;
+    bindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
+    blitFramebuffer(0, 0, size * screenWidth, size * screenHeight, picture.x, picture.y,
+                    picture.x + picture.width, picture.y + picture.height, GL_COLOR_BUFFER_BIT,
+                    isWhole ? GL_NEAREST : GL_LINEAR);
+}
+
+void Framebuffer::copyToWindow(int windowWidth, int windowHeight) {
     glPushAttrib(GL_COLOR_BUFFER_BIT | GL_SCISSOR_BIT);
     bindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
     glDisable(GL_SCISSOR_TEST);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
     glClear(GL_COLOR_BUFFER_BIT);
-    blitFramebuffer(0, 0, screenWidth, screenHeight, picture.x, picture.y,
-                    picture.x + picture.width, picture.y + picture.height, GL_COLOR_BUFFER_BIT,
-                    scaled ? GL_LINEAR : GL_NEAREST);
-    bindFramebuffer(GL_DRAW_FRAMEBUFFER, name); // glPopAttrib restores this one's draw buffer
+    copyPicture(letterbox(windowWidth, windowHeight));
+    bindFramebuffer(GL_FRAMEBUFFER, name); // glPopAttrib restores this one's draw buffer
     glPopAttrib();
     bindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
+}
+
+void Framebuffer::releaseEnlarged() {
+    if (enlarged == 0) { return; }
+    deleteFramebuffers(1, &enlarged);
+    deleteRenderbuffers(1, &enlargedColour);
+    enlarged = enlargedColour = 0;
+    enlargedScale = 0;
 }
 
 void Framebuffer::release() {
     if (name == 0) { return; }
     bindFramebuffer(GL_FRAMEBUFFER, 0);
+    releaseEnlarged();
     deleteFramebuffers(1, &name);
     deleteRenderbuffers(1, &colour);
     deleteRenderbuffers(1, &depth);

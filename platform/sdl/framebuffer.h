@@ -8,6 +8,8 @@
 #include <GL/gl.h>
 #include <GL/glext.h>
 
+#include "platform/sdl/letterbox.h"
+
 struct Framebuffer {
     // Creates the object, binds it, and sets viewport and scissor box to all of it. Returns false
     // with a whole sentence in `reason` when OpenGL has no fixed-function pipeline or no
@@ -18,8 +20,10 @@ struct Framebuffer {
     void bind() const;
 
     // Copies the picture into a window of that many pixels, scaled to 4:3, with black bars around
-    // it. Only the framebuffer binding differs afterwards: swap the window's buffers, then bind().
-    void copyToWindow(int windowWidth, int windowHeight) const;
+    // it. It is enlarged by a whole number first and then reduced linearly, so that its pixels have
+    // sharp edges at any size. Only the framebuffer binding differs afterwards: swap the window's
+    // buffers, then bind().
+    void copyToWindow(int windowWidth, int windowHeight);
 
     // Deletes the object, if there is one.
     void release();
@@ -27,10 +31,17 @@ struct Framebuffer {
 private:
     bool loadFunctions();
     void createBuffers();
+    GLuint createColour(GLenum format, int width, int height) const;
+    bool enlarge(int scale);
+    void releaseEnlarged();
+    void copyPicture(const PixelRect& picture);
 
     GLuint name = 0;   // of the framebuffer object; 0: there is none
     GLuint colour = 0; // renderbuffers
     GLuint depth = 0;
+    GLuint enlarged = 0;       // a framebuffer object for the enlarged picture
+    GLuint enlargedColour = 0; // its renderbuffer
+    int enlargedScale = 0;     // the size of that, in times of the picture; 0: there is none
     PFNGLGENFRAMEBUFFERSPROC genFramebuffers = nullptr;
     PFNGLDELETEFRAMEBUFFERSPROC deleteFramebuffers = nullptr;
     PFNGLBINDFRAMEBUFFERPROC bindFramebuffer = nullptr;

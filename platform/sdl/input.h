@@ -1,11 +1,10 @@
 // Turns SDL's events into messages: keys, focus, requests to close, parts that need painting.
+// pollInput (provider.h) takes all events; focus that is lost and regained with no key in between
+// posts nothing.
 #pragma once
 
 #include <SDL.h>
 
-// Takes all events that have happened since the last call and posts their messages as input. Does
-// nothing while there is no window.
-void pollInput();
-
-// Does the same for one event of the game's window, which somebody else has taken from SDL.
+// Handles one event of the game's window that another file has taken from SDL. A change of focus
+// is posted by the next pollInput().
 void handleGameWindowEvent(const SDL_WindowEvent& event);

@@ -1,5 +1,6 @@
 #include "platform/sdl/keyboard.h"
 
+#include "platform/sdl/gamepad.h"
 #include "platform/sdl/key_map.h"
 #include "platform/windows_api.h"
 
@@ -11,6 +12,7 @@ int virtualKeyOf(const SDL_Keysym& pressed) {
 SHORT WINAPI GetAsyncKeyState(int key) {
     constexpr auto held = static_cast<SHORT>(0x8000);
     if (SDL_WasInit(SDL_INIT_VIDEO) == 0) { return 0; }
+    if (isHeldOnGamepad(key)) { return held; }
     int count = 0;
     const Uint8* down = SDL_GetKeyboardState(&count);
     const bool numberLock = (SDL_GetModState() & KMOD_NUM) != 0;

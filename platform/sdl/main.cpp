@@ -1,10 +1,12 @@
-// The start of the process: chooses the working directory, runs the game, shuts SDL down.
+// The start of the process: answers questions about the program, chooses the working directory,
+// runs the game, shuts SDL down.
 
+#include <cstdio>
 #include <string>
 
 #include <SDL.h>
 
-#include "platform/sdl/errors.h"
+#include "platform/common/errors.h"
 #include "platform/sdl/shutdown.h"
 #include "platform/sdl/working_directory.h"
 #include "platform/windows_api.h"
@@ -12,6 +14,14 @@
 namespace {
 
 constexpr int exitFailure = 1;
+constexpr int exitUsage = 2;
+
+constexpr const char* usage = R"(usage: glorbix [--help | --version]
+
+Roll a marble down a course of soft wells, against the clock. Arrow keys or a
+gamepad steer, Shift is turbo, Escape opens the menu. The manual page names all
+keys, files and variables: man glorbix
+)";
 
 int runGame() {
     std::string why;
@@ -24,9 +34,20 @@ int runGame() {
     return code == 0 && hadFatalError() ? exitFailure : code;
 }
 
+int answer(const std::string& argument) {
+    if (argument == "--version") {
+        std::puts("glorbix " GLORBIX_VERSION);
+        return 0;
+    }
+    const bool asked = argument == "--help" || argument == "-h";
+    std::fputs(usage, asked ? stdout : stderr);
+    return asked ? 0 : exitUsage;
+}
+
 } // namespace
 
-int main(int, char*[]) {
+int main(int count, char* arguments[]) {
+    if (count > 1) { return answer(arguments[1]); }
     const int code = runGame();
     shutDown();
     return code;

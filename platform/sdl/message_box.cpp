@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/sdl/desktop.h"
+#include "platform/sdl/gamepad.h"
 #include "platform/sdl/input.h"
 #include "platform/sdl/video.h"
 
@@ -40,7 +41,8 @@ int keepForGame(void* boxWindow, SDL_Event* event) {
     const Uint32 box = *static_cast<const Uint32*>(boxWindow);
     switch (event->type) {
     case SDL_KEYDOWN:
-    case SDL_KEYUP: return 0;
+    case SDL_KEYUP:
+    case SDL_CONTROLLERBUTTONDOWN: return 0;
     case SDL_WINDOWEVENT: return event->window.windowID == box ? 0 : 1;
     default: return 1;
     }
@@ -54,6 +56,15 @@ void requestEnd() {
     SDL_Event quit = {};
     quit.type = SDL_QUIT;
     SDL_PushEvent(&quit);
+}
+
+// Drivers without a display may leave the keyboard with no window when the box closes.
+void giveKeyboard(SDL_Window* window) {
+    SDL_Event gained = {};
+    gained.type = SDL_WINDOWEVENT;
+    gained.window.event = SDL_WINDOWEVENT_FOCUS_GAINED;
+    gained.window.windowID = SDL_GetWindowID(window);
+    SDL_PushEvent(&gained);
 }
 
 } // namespace
@@ -123,7 +134,9 @@ bool MessageBox::handle(const SDL_Event& event) {
     case SDL_KEYUP: return pressed != SDL_SCANCODE_UNKNOWN && event.key.keysym.scancode == pressed;
     case SDL_MOUSEBUTTONDOWN: clicking = isOnButton(event.button); return false;
     case SDL_MOUSEBUTTONUP: return clicking && isOnButton(event.button);
-    default: return false;
+    case SDL_CONTROLLERBUTTONDOWN: pressing = answersBox(event.cbutton); return false;
+    case SDL_CONTROLLERBUTTONUP: return pressing && answersBox(event.cbutton);
+    default: followGamepads(event); return false;
     }
 }
 
@@ -180,4 +193,5 @@ void MessageBox::close() {
     SDL_PumpEvents();
     SDL_ResetKeyboard();
     SDL_FilterEvents(keepForGame, &id);
+    if (parent != nullptr && !isDisplayVisible()) { giveKeyboard(parent); }
 }

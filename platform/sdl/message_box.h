@@ -1,15 +1,15 @@
 // A message box that needs no installed font, no helper program and no OpenGL: a window of its own,
 // painted with the typeface of box_font.h.
 //
-// Return, Enter on the keypad, Space, Escape, Alt+F4 and a click on "OK" close the box when the key
-// or the button is released, so that the game sees nothing of them. The close button of the box
-// closes it at once. So does a request to end the program (SIGTERM, SIGINT, or the close button of
-// the game's window), which stays in SDL's queue for the game. All other keys and clicks are
-// dropped, and no key counts as held afterwards. Music plays on. Timers do not fire while the box
-// is open.
+// Return, Enter on the keypad, Space, Escape, Alt+F4, a click on "OK" and A, B or Start of a
+// gamepad close the box when the key or the button is released, so that the game sees nothing of
+// them. The close button of the box closes it at once. So does a request to end the program
+// (SIGTERM, SIGINT, or the close button of the game's window), which stays in SDL's queue for the
+// game. All other keys and clicks are dropped, and no key counts as held afterwards. Music plays
+// on. Timers do not fire while the box is open.
 //
 // Where nobody can see or answer the box (isDisplayVisible in video.h), it handles the events that
-// wait already and closes.
+// are waiting and closes.
 #pragma once
 
 #include <bitset>
@@ -53,5 +53,6 @@ private:
     Uint64 opened = 0;                           // milliseconds since the start of SDL
     std::bitset<SDL_NUM_SCANCODES> heldBefore;   // keys that were down when the box opened
     SDL_Scancode pressed = SDL_SCANCODE_UNKNOWN; // closes the box when it is released
+    bool pressing = false;                       // a button of a gamepad that closes the box
     bool clicking = false;                       // the mouse button went down on "OK"
 };

@@ -4,6 +4,7 @@
 #include <array>
 #include <condition_variable>
 #include <cstddef>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <mutex>
@@ -20,8 +21,9 @@ namespace {
 
 constexpr std::size_t samplesPerSecond = channelCount * sampleRate;
 constexpr std::size_t samplesAhead = samplesPerSecond * 3 / 2;
-constexpr std::size_t samplesToStart = samplesPerSecond / 2;
+constexpr std::size_t samplesToStart = samplesPerSecond / 4;
 constexpr std::size_t blockSamples = 2048; // 23 ms
+constexpr int quietLevel = 128;            // 48 dB below the loudest; a quieter sample is not heard
 
 // What playMusic was called with.
 struct Request {
@@ -59,9 +61,19 @@ struct Stream {
         rendered = false;
     }
 
+    // The last bar of a piece may end with a rest, and reverb fades out below what is heard.
+    // Without them the next piece follows at once.
+    void dropSilentEnd() {
+        const auto isHeard = [](std::int16_t sample) { return std::abs(sample) >= quietLevel; };
+        const auto lastHeard = std::find_if(queue.rbegin(), queue.rend(), isHeard);
+        const auto kept = (queue.rend() - lastHeard + channelCount - 1) / channelCount;
+        queue.resize(static_cast<std::size_t>(kept * channelCount));
+    }
+
     void append(std::span<const std::int16_t> block, bool isLast) {
         queue.insert(queue.end(), block.begin(), block.end());
         rendered = isLast;
+        if (rendered) { dropSilentEnd(); }
         if (rendered || queue.size() >= samplesToStart) { phase = Phase::Playing; }
     }
 };
@@ -97,7 +109,7 @@ int SDLCALL renderMusic(void*) {
         if (playable) { synthesizer.render(block); }
         lock.lock();
         if (stream.request != request) {
-            continue; // stopped or replaced meanwhile
+            continue; // stopped or replaced in the meantime
         }
         if (playable) {
             stream.append(block, synthesizer.isOver());

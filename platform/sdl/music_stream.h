@@ -12,8 +12,9 @@
 #include <vector>
 
 // Plays a MIDI file from its start, with the first of the sound fonts that can be read, in place of
-// the current piece. The sound starts when half a second is rendered. A piece that cannot be played
-// stays silent and never finishes. Returns false when the music thread cannot be started.
+// the current piece. The sound starts when a quarter of a second is rendered, and silence at the
+// end of the piece is left out. A piece that cannot be played stays silent and never finishes.
+// Returns false when the music thread cannot be started.
 bool playMusic(std::vector<std::uint8_t> piece, std::vector<std::string> soundFonts);
 
 // Stops the piece at once.

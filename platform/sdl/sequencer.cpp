@@ -7,10 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/sdl/errors.h"
-#include "platform/sdl/message_queue.h"
+#include "platform/common/errors.h"
+#include "platform/common/message_queue.h"
+#include "platform/common/provider.h"
+#include "platform/common/regular_file.h"
 #include "platform/sdl/music_stream.h"
-#include "platform/sdl/regular_file.h"
 #include "platform/sdl/sound.h"
 #include "platform/sdl/sound_font.h"
 #include "platform/sdl/synthesizer.h"
@@ -34,7 +35,7 @@ struct Piece {
     MCIDEVICEID device = 0; // 0: no piece is open
     std::vector<std::uint8_t> file;
     std::vector<std::string> soundFonts;
-    HWND listener = nullptr; // gets MM_MCINOTIFY; null: nobody
+    HWND listener = nullptr; // gets MM_MCINOTIFY; null: no window
 };
 
 Piece open;
@@ -49,6 +50,14 @@ void close() {
     haltMusic();
     removePostedMessages(MM_MCINOTIFY, MCI_NOTIFY_SUCCESSFUL);
     open = {};
+}
+
+MCIERROR closePiece() {
+    const HWND listener = isMusicFinished() ? nullptr : open.listener;
+    const auto device = static_cast<LPARAM>(open.device);
+    close();
+    if (listener != nullptr) { PostMessageA(listener, MM_MCINOTIFY, MCI_NOTIFY_ABORTED, device); }
+    return 0;
 }
 
 MCIERROR openPiece(DWORD_PTR flags, MCI_OPEN_PARMSA* request) {
@@ -77,7 +86,7 @@ MCIERROR playPiece(DWORD_PTR flags, const MCI_PLAY_PARMS* request) {
     const bool notify = (flags & MCI_NOTIFY) != 0;
     if (notify && request == nullptr) { return unknownParameter; }
     if (!playMusic(open.file, open.soundFonts)) {
-        return refuse(deviceNotReady, "the system gives no thread to play it");
+        return refuse(deviceNotReady, "its thread cannot be started");
     }
     open.listener = notify ? reinterpret_cast<HWND>(request->dwCallback) : nullptr;
     return 0;
@@ -115,7 +124,7 @@ MCIERROR WINAPI mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flag
     }
     if (device == 0 || device != open.device) { return wrongDevice; }
     switch (command) {
-    case MCI_CLOSE: close(); return 0;
+    case MCI_CLOSE: return closePiece();
     case MCI_PLAY: return playPiece(flags, reinterpret_cast<MCI_PLAY_PARMS*>(parameters));
     case MCI_STATUS: return reportStatus(flags, reinterpret_cast<MCI_STATUS_PARMS*>(parameters));
     default: return unknownCommand;

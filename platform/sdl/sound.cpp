@@ -12,15 +12,16 @@
 #include <SDL.h>
 #include <SDL_mixer.h>
 
+#include "platform/common/errors.h"
+#include "platform/common/regular_file.h"
 #include "platform/sdl/audio_format.h"
-#include "platform/sdl/errors.h"
-#include "platform/sdl/regular_file.h"
 #include "platform/windows_api.h"
 
 namespace {
 
 constexpr int framesPerBuffer = 1024;           // 23 ms from the call to the sound
 constexpr int effectChannel = 0;                // of the mixer
+constexpr int effectVolume = 102;               // of MIX_MAX_VOLUME: 2 dB below the files
 constexpr std::size_t largestEffect = 64 << 20; // bytes
 constexpr double beepFrequency = 880.0;         // hertz
 constexpr double beepLength = 0.15;             // seconds
@@ -51,6 +52,7 @@ bool openDevice() {
         return false;
     }
     Mix_AllocateChannels(effectChannel + 1);
+    Mix_Volume(effectChannel, effectVolume);
     return true;
 }
 
@@ -96,6 +98,10 @@ BOOL play(Mix_Chunk* chunk) {
     return chunk != nullptr && Mix_PlayChannel(effectChannel, chunk, 0) >= 0 ? TRUE : FALSE;
 }
 
+bool isPlaying(const Mix_Chunk* chunk) {
+    return Mix_Playing(effectChannel) != 0 && Mix_GetChunk(effectChannel) == chunk;
+}
+
 } // namespace
 
 bool startSound() {
@@ -122,5 +128,6 @@ BOOL WINAPI PlaySoundA(const char* fileName, HMODULE, DWORD flags) {
 BOOL WINAPI MessageBeep(UINT) {
     if (!startSound()) { return FALSE; }
     if (sound.beep == nullptr) { makeBeep(); }
+    if (isPlaying(sound.beep.get())) { return TRUE; }
     return play(sound.beep.get());
 }

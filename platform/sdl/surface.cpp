@@ -6,10 +6,11 @@
 
 #include <SDL.h>
 
+#include "platform/common/errors.h"
 #include "platform/display_mode.h"
-#include "platform/sdl/errors.h"
 #include "platform/sdl/frame_pace.h"
 #include "platform/sdl/framebuffer.h"
+#include "platform/sdl/still_picture.h"
 #include "platform/sdl/window_handle.h"
 #include "platform/windows_api.h"
 
@@ -77,6 +78,7 @@ bool prepareSurface(const WindowHandle& window) {
     }
     std::string reason;
     if (!surface.framebuffer.create(reason)) { return fail(reason); }
+    watchPictures();
     SDL_GL_SetSwapInterval(1);
     SDL_GL_MakeCurrent(window.sdl, nullptr);
     return true;
@@ -173,12 +175,14 @@ BOOL WINAPI wglDeleteContext(HGLRC context) {
 BOOL WINAPI SwapBuffers(HDC deviceContext) {
     const HWND window = windowOf(deviceContext);
     if (window == nullptr || !isCurrent()) { return FALSE; }
-    if (isWindowVisible()) {
-        showPicture(*window);
-        waitForNextFrame();
-    } else {
+    if (!isWindowVisible()) {
         glFlush(); // or the commands of hidden frames would pile up
         waitWhileHidden();
+    } else if (isPictureStill()) {
+        waitWhileStill();
+    } else {
+        showPicture(*window);
+        waitForNextFrame(window->sdl);
     }
     return TRUE;
 }

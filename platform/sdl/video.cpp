@@ -4,7 +4,8 @@
 
 #include <SDL.h>
 
-#include "platform/sdl/errors.h"
+#include "platform/common/errors.h"
+#include "platform/sdl/gamepad.h"
 
 namespace {
 
@@ -42,6 +43,7 @@ bool initVideo() {
     // SDL starts text input by itself; an input method would then keep the letters of the name
     // entry from the game.
     SDL_StopTextInput();
+    startGamepads();
     return true;
 }
 

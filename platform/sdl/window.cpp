@@ -4,8 +4,8 @@
 
 #include <SDL.h>
 
+#include "platform/common/errors.h"
 #include "platform/display_mode.h"
-#include "platform/sdl/errors.h"
 #include "platform/sdl/full_screen.h"
 #include "platform/sdl/surface.h"
 #include "platform/sdl/video.h"
@@ -104,6 +104,7 @@ BOOL WINAPI ShowWindow(HWND handle, int) {
     if (!isGameWindow(handle)) { return FALSE; }
     if (gameWindow.shown) { return TRUE; }
     showOnDesktop();
+    gameWindow.hasKeyboard = true;
     if (!gameWindow.focused) {
         gameWindow.focused = true;
         send(WM_SETFOCUS);

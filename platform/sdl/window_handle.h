@@ -6,6 +6,7 @@
 
 #include <SDL.h>
 
+#include "platform/common/provider.h"
 #include "platform/windows_api.h"
 
 // Stands for the window's drawing surface. Its address is what the game is given.
@@ -18,14 +19,12 @@ struct WindowHandle {
     std::string glFailure;             // why the window cannot show OpenGL; empty when it can
     DeviceContextHandle deviceContext; // what GetDC returns
     bool shown = false;                // on the desktop, perhaps minimised or covered
-    bool focused = false;              // the game has been told that it has the keyboard
+    bool hasKeyboard = false;          // as the window system reports it
+    bool focused = false;              // the last focus message posted was WM_SETFOCUS
     bool needsPaint = false;           // WM_PAINT is due
 };
 
 extern WindowHandle gameWindow;
-
-// Returns the game's window, null while there is none.
-HWND currentWindow();
 
 // Returns true when there is a window on the desktop that is neither hidden nor minimised.
 bool isWindowVisible();

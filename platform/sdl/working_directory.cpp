@@ -6,7 +6,7 @@
 #include <SDL.h>
 #include <unistd.h>
 
-#include "platform/sdl/errors.h"
+#include "platform/common/errors.h"
 
 namespace fs = std::filesystem;
 
@@ -14,6 +14,8 @@ namespace {
 
 constexpr const char* listOfLevels = "maps/maplist.dat";
 constexpr const char* dataFolders[] = {"maps", "graphics", "sounds"};
+constexpr const char* rivalsFile = "rivals.dat";
+constexpr const char* bestTimesFile = "highScore.dat";
 constexpr const char* timesMayBeLost = "; best times may be lost";
 
 struct SdlFree {
@@ -93,6 +95,8 @@ bool canWriteHere() {
 bool enterOwnFolder(const fs::path& data, std::string& why) {
     const fs::path own = makeOwnFolder(why);
     if (own.empty() || !linkGameData(data, own, why) || !enter(own, why)) { return false; }
+    std::string whyNoRivals;
+    if (!layOutRivals(data, own, whyNoRivals)) { logError(whyNoRivals); }
     if (!canWriteHere()) { logError("cannot write to " + own.string() + timesMayBeLost); }
     return true;
 }
@@ -115,6 +119,21 @@ bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
         return false;
     }
     return true;
+}
+
+bool layOutRivals(const fs::path& data, const fs::path& own, std::string& why) {
+    std::error_code error;
+    const fs::path times = own / bestTimesFile;
+    if (fs::exists(fs::symlink_status(times, error)) || !fs::exists(data / rivalsFile, error)) {
+        return true;
+    }
+    if (fs::copy_file(data / rivalsFile, times, error)) {
+        // Installed data may be read-only, the player's file is not.
+        fs::permissions(times, fs::perms::owner_write, fs::perm_options::add, error);
+        return true;
+    }
+    why = "cannot copy the rivals to " + times.string() + ": " + error.message();
+    return false;
 }
 
 bool enterPlayerFolder(const fs::path& data, std::string& why) {

@@ -20,8 +20,14 @@ findGameData(const std::vector<std::filesystem::path>& folders);
 bool linkGameData(const std::filesystem::path& data, const std::filesystem::path& own,
                   std::string& why);
 
+// Gives a player who has no best times yet a table to beat: copies the rivals of `data` to the file
+// of best times in `own`. Does nothing where that file, or a link of its name, is there already, or
+// where the data has no rivals. Returns false when it cannot be copied.
+bool layOutRivals(const std::filesystem::path& data, const std::filesystem::path& own,
+                  std::string& why);
+
 // Enters the player's own folder, $XDG_DATA_HOME/glorbix or ~/.local/share/glorbix, with links to
-// `data`. When that fails, writes the cause on standard error and enters `data` itself. Returns
+// `data` and best times to beat. When that fails, writes the cause on standard error and enters `data` itself. Returns
 // false, with a sentence, when that fails too.
 bool enterPlayerFolder(const std::filesystem::path& data, std::string& why);
 

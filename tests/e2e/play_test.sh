@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# One run of the real game in a real window: through the menu into a run, down the first course with
-# nothing but Up held, past the others, a name among the best times, and out by "Quit".
+# One run of the real game in a real window: starts a run from the menu, drives the first course
+# with nothing but Up held, skips the others, enters a name among the best times, and ends with
+# "Quit".
 #   play_test.sh BINARY DATA_FOLDER
-# Pictures of the stations are left in the working folder.
+# Leaves pictures of the steps in the working folder.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 # shellcheck source=scripts/virtual_game.sh
@@ -19,8 +20,8 @@ difference() { compare -metric AE -fuzz 5% "$1" "$2" null: 2>&1 || true; }
 
 # Takes pictures until one differs from the one before the last key.
 expectChange() { # BEFORE AFTER WHAT
-    local patience=$((SECONDS + 30)) changed=0
-    while [ "$SECONDS" -lt "$patience" ]; do
+    local deadline=$((SECONDS + 30)) changed=0
+    while [ "$SECONDS" -lt "$deadline" ]; do
         shoot "$2"
         changed=$(difference "$1" "$2")
         ! awk -v changed="$changed" 'BEGIN { exit !(changed > 300) }' || return 0
@@ -38,8 +39,8 @@ press Escape
 expectChange e2e_title.png e2e_menu.png "Escape does not open the menu"
 
 press Return
-# The first course takes some 15 seconds after a count-down of 7. Nobody finishes the second in the
-# seconds that are left, so the second runs now.
+# The first course takes some 15 seconds after a count-down of 7. The second cannot be finished in
+# the seconds that are left, so it is running now.
 hold Up
 sleep 27
 release Up

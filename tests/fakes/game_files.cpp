@@ -8,7 +8,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// One that no other run has, or ever had.
+// Returns a new folder, with a name that no other run uses.
 fs::path newFolder() {
     std::random_device random;
     for (;;) {
@@ -17,6 +17,16 @@ fs::path newFolder() {
             return fs::temp_directory_path() / name;
         }
     }
+}
+
+// Every glyph's left edge is its code, so that the text can be read from the quads.
+std::string testFontMetrics() {
+    std::ostringstream text;
+    text << "33 126";
+    for (char c = '!'; c <= '~'; ++c) {
+        text << '\n' << c << ' ' << +c << " 0 " << c + testGlyphWidth(c) << ' ' << testGlyphHeight;
+    }
+    return text.str();
 }
 
 } // namespace
@@ -78,20 +88,6 @@ std::string levelText(const std::vector<Hole>& holes, const std::string& head) {
     text << ".end";
     return text.str();
 }
-
-namespace {
-
-// Every glyph's left edge is its code, so that the quads that are drawn tell the text.
-std::string testFontMetrics() {
-    std::ostringstream text;
-    text << "33 126";
-    for (char c = '!'; c <= '~'; ++c) {
-        text << '\n' << c << ' ' << +c << " 0 " << c + testGlyphWidth(c) << ' ' << testGlyphHeight;
-    }
-    return text.str();
-}
-
-} // namespace
 
 void writeGameFiles(const std::vector<std::string>& levels) {
     std::string list = std::to_string(levels.size());

@@ -1,4 +1,4 @@
-// The game's files, as small as the game accepts them, for tests to change or take away.
+// The game's files, as small as the game accepts them, for tests to change or remove.
 #pragma once
 
 #include <filesystem>
@@ -8,7 +8,7 @@
 
 #include "sim/level.h"
 
-// The working directory while it lives; gone afterwards with all that is in it.
+// The working directory for its lifetime; removed afterwards with everything in it.
 class EmptyFolder {
 public:
     EmptyFolder();
@@ -29,16 +29,16 @@ constexpr double testGlyphWidth(char c) {
 void writeFile(const std::string& name, const std::string& content);
 std::string readFile(const std::string& name);
 
-// A picture whose pixels, counted from the lower left corner, have colours 0xRRGGBB; one of one
-// colour; and a mip chain of one colour, or whose level k has the colour k + 1.
+// Write a picture with colours 0xRRGGBB, counted from the lower left corner; a picture of one
+// colour; and a mip chain of one colour, or (colour 0) whose level k has the colour k + 1.
 void writeBitmap(const std::string& name, int width, int height,
                  const std::function<unsigned(int x, int y)>& colour);
 void writeBitmap(const std::string& name, int width, int height, unsigned colour = 0x102030);
 void writeMipChain(const std::string& base, int size, int levels, unsigned colour = 0);
 
-// A level file: what `head` says, the ground texture "ground", and holes of x, y, width, depth.
+// Returns a level file: `head`, the ground texture "ground", and these holes.
 std::string levelText(const std::vector<Hole>& holes, const std::string& head = "");
 
-// All files that the game needs, with these level files as its levels 1, 2, 3, ...; the best times
-// are 100, 110, ... 190 seconds, by aaa, bbb, ... jjj.
+// Writes all files that the game needs, with these level files as levels 1, 2, 3, ...; the best
+// times are 100, 110, ... 190 seconds, by aaa, bbb, ... jjj.
 void writeGameFiles(const std::vector<std::string>& levels = {levelText({})});

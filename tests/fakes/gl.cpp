@@ -1,5 +1,5 @@
-// OpenGL as the tests play it: nothing is drawn, and the calls that tests look at are recorded. The
-// pixel tests see what the others do.
+// OpenGL for the tests: nothing is drawn, and the calls that tests look at are recorded. The pixel
+// tests cover the others.
 #include <GL/gl.h>
 
 #include "fakes/trace.h"

@@ -12,9 +12,9 @@
 
 namespace {
 
-// As at program start: memory of zeros, then the constructor.
+// As at program start: zeroed memory, then the constructor.
 template <class Object>
-void renew(Object& object) {
+void reconstruct(Object& object) {
     object.~Object();
     std::memset(static_cast<void*>(&object), 0, sizeof object);
     new (&object) Object;
@@ -22,14 +22,14 @@ void renew(Object& object) {
 
 } // namespace
 
-void startAfresh() {
+void restartAll() {
     machine = MachineRecord{};
-    renew(Game);
+    reconstruct(Game);
     displayMode = {};
-    renew(viewFrame);
-    renew(level);
-    renew(marble);
-    renew(font);
+    reconstruct(viewFrame);
+    reconstruct(level);
+    reconstruct(marble);
+    reconstruct(font);
     bestTimes = {};
     cameraPosition = steeringForce = Vector3(0, 0, 0);
     cameraAngleX = cameraAngleY = cameraAngleZ = 0;

@@ -1,5 +1,5 @@
-// What a story is told with: a folder with the game's files, keys that are pressed, time that
-// passes. A story plays the game through its window procedure, as the machine would.
+// What tests need to play the game: a folder with its files, keys that are pressed, time that
+// passes. They play it through its window procedure, as Windows would.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -16,13 +16,13 @@
 
 inline constexpr LONGLONG counterFrequency = 10'000'000; // counts a second
 
-// The machine and the game as at program start.
-void startAfresh();
+// Resets the machine and the game to their state at program start.
+void restartAll();
 
-// A fresh machine and a fresh game, in an empty folder.
+// A test with machine and game as at program start, in an empty folder.
 class Story : public testing::Test {
 protected:
-    Story() { startAfresh(); }
+    Story() { restartAll(); }
     ~Story() override;
 
 private:
@@ -31,14 +31,14 @@ private:
 
 void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-4);
 
-// The window is made, as at program start; false when the game gave up.
+// Creates the window, as at program start. Returns false when the game wants to end.
 bool startUp();
 
-// The whole program from its entry to its end, which comes after some thousand turns at the latest.
-// `whenIdle` is called whenever the message queue is empty. Returns the exit code.
+// Runs the whole program from its entry to its end. Calls `whenIdle` whenever the message queue is
+// empty, at most some thousand times. Returns the exit code.
 int runProgram(const std::function<void()>& whenIdle);
 
-// Sends the window a message, and handles the messages that are posted meanwhile.
+// Sends the window a message, and handles the messages that it posts.
 LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 inline void pressKey(int key) {
@@ -50,12 +50,12 @@ inline void pressKeys(std::initializer_list<int> keys) {
     }
 }
 
-// Time passes and one tick happens; drawn() then is its frame.
+// Lets time pass, then sends a tick. drawn() then has its frame.
 void tick(double seconds);
 void ticks(int n, double seconds);
 
-// The player chooses a new game; level 1 begins with its count-down.
+// Chooses a new game: level 1 begins with its count-down.
 void startGame();
 
-// On level 1 of a game with this ground, the start signal due and the marble free to move.
+// Starts level 1 on this ground, with the start signal due and the marble free to move.
 void playLevel(const std::vector<Hole>& holes = {});

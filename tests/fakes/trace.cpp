@@ -9,6 +9,16 @@
 
 MachineRecord machine;
 
+DEVMODEA modeOf(DWORD bits, DWORD width, DWORD height) {
+    DEVMODEA mode = {};
+    mode.dmSize = sizeof mode;
+    mode.dmFields = 7;
+    mode.dmBitsPerPel = bits;
+    mode.dmPelsWidth = width;
+    mode.dmPelsHeight = height;
+    return mode;
+}
+
 void passTime(double seconds) {
     machine.counter += std::llround(seconds * static_cast<double>(counterFrequency));
 }
@@ -27,7 +37,7 @@ bool fails(std::string_view function) {
     return failing != 0;
 }
 
-Lines said(std::string_view function) {
+Lines linesOf(std::string_view function) {
     const std::string start = std::string(function) + ' ';
     Lines found;
     for (const std::string& line : machine.lines) {
@@ -52,12 +62,12 @@ GlCalls only(std::initializer_list<std::string_view> names) {
     return found;
 }
 
-long count(const GlCall& call) {
+std::ptrdiff_t count(const GlCall& call) {
     return std::count(drawn().begin(), drawn().end(), call);
 }
 
-long count(std::string_view name) {
-    return static_cast<long>(only({name}).size());
+std::ptrdiff_t count(std::string_view name) {
+    return std::ssize(only({name}));
 }
 
 namespace {

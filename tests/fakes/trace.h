@@ -1,11 +1,12 @@
-// The machine as the tests play it.
+// The machine that the tests simulate.
 //
 // tests/fakes defines every function of platform/windows_api.h and the OpenGL functions that the
-// game calls. Each of them records the call and gives a plausible answer, which a test scripts
-// through `machine`. `machine = MachineRecord{}` is a fresh machine with nothing recorded.
+// game calls. Each of them records the call and returns a plausible result, which a test can
+// change through `machine`. `machine = MachineRecord{}` resets it.
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <initializer_list>
@@ -34,28 +35,30 @@ using GlCalls = std::vector<GlCall>;
 // Same function, same numbers within the accuracy of a float.
 bool operator==(const GlCall& a, const GlCall& b);
 
-// What the game sees of the machine, and what it did to it.
+// A display mode of that many bits a pixel, which sets some fields itself.
+DEVMODEA modeOf(DWORD bits, DWORD width, DWORD height);
+
+// What the game sees of the machine, and what it has done to it.
 struct MachineRecord {
-    std::vector<DEVMODEA> modes = {{sizeof(DEVMODEA), 7, 8, 640, 480},
-                                   {sizeof(DEVMODEA), 7, 16, 640, 480}};
+    std::vector<DEVMODEA> modes = {modeOf(8, 640, 480), modeOf(16, 640, 480)};
     std::deque<LONG> switchResults; // of ChangeDisplaySettingsA, in turn; then success
     bool formatNeedsPalette = false;
 
     std::set<int> keysHeld;
     LONGLONG counter = 1'000'000; // changed by passTime only
 
-    // Runs when the message queue is found empty: here a test that plays WinMain acts.
+    // Called when the message queue is empty; a test that runs WinMain acts here.
     std::function<void()> whenIdle;
     std::deque<MSG> queue;
     bool quitPosted = false;
     int quitCode = -1;
     WNDCLASSA windowClass = {};
 
-    int cursorCount = 0;
     int openFiles = 0;
-    int systemTexts = 0;           // texts of FormatMessageA that LocalFree has not had yet
+    int systemTexts = 0;           // texts of FormatMessageA that LocalFree has not released yet
     std::set<MCIDEVICEID> devices; // open sequencers, numbered 1, 2, 3, ...
     MCIDEVICEID lastDevice = 0;
+    MCIDEVICEID playingDevice = 0; // 0: none
 
     std::map<std::string, std::deque<int>, std::less<>> failures; // see failNext
     Lines lines;   // the calls, a line each: the function, then the values that matter
@@ -63,7 +66,7 @@ struct MachineRecord {
 };
 extern MachineRecord machine;
 
-// The handles that the machine gives out.
+// The handles that the machine returns.
 extern const HWND theWindow;
 extern const HWND focusWindow; // has the focus before the game has a window
 extern const HDC theSurface;
@@ -77,29 +80,29 @@ void passTime(double seconds);
 // MCI_STATUS, MCI_PLAY.
 void failNext(std::string_view function, int skip = 0);
 
-// For the fakes: whether this call fails.
+// For the fakes: returns whether this call fails.
 bool fails(std::string_view function);
 
-// The recorded lines of a function, without its name.
-Lines said(std::string_view function);
+// Returns the recorded lines of a function, without its name.
+Lines linesOf(std::string_view function);
 
 inline Lines boxes() {
-    return said("MessageBoxA");
+    return linesOf("MessageBoxA");
 } // "text | caption | owner, icon"
 inline Lines sounds() {
-    return said("PlaySoundA");
+    return linesOf("PlaySoundA");
 }
 inline Lines music() {
-    return said("MCI");
+    return linesOf("MCI");
 } // "open sounds/midi1.mid", "play 1", "close 1"
 
-// The OpenGL calls of the last frame, and ways to look at them.
+// The OpenGL calls of the last frame: all of them, those of some functions, and how many.
 inline const GlCalls& drawn() {
     return machine.drawn;
 }
 GlCalls only(std::initializer_list<std::string_view> names);
-long count(const GlCall& call);
-long count(std::string_view name);
+std::ptrdiff_t count(const GlCall& call);
+std::ptrdiff_t count(std::string_view name);
 
 // A line of text on the screen, put together from glyphs of the test font (tests/fakes/play.h).
 struct Text {

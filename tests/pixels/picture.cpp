@@ -2,12 +2,12 @@
 
 #include <GL/gl.h>
 #include <gtest/gtest.h>
-#include <png.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <filesystem>
+
+#include "fakes/game_files.h"
 
 namespace {
 
@@ -19,15 +19,11 @@ std::size_t offsetOf(const Picture& picture, int x, int y) {
     return static_cast<std::size_t>(y * picture.width + x) * 3;
 }
 
-void savePng(const Picture& picture, const std::string& fileName) {
-    png_image image = {};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = static_cast<png_uint_32>(picture.width);
-    image.height = static_cast<png_uint_32>(picture.height);
-    image.format = PNG_FORMAT_RGB;
-    std::filesystem::create_directories(GLORBIX_PICTURES);
-    png_image_write_to_file(&image, (GLORBIX_PICTURES "/" + fileName).c_str(), 0,
-                            picture.bytes.data(), -3 * picture.width, nullptr);
+void save(const Picture& picture, const std::string& fileName) {
+    writeBitmap(GLORBIX_PICTURES "/" + fileName, picture.width, picture.height, [&](int x, int y) {
+        const std::uint8_t* p = &picture.bytes[offsetOf(picture, x, y)];
+        return static_cast<unsigned>(p[0] << 16 | p[1] << 8 | p[2]);
+    });
 }
 
 } // namespace
@@ -71,6 +67,6 @@ void expectLike(const Picture& actual, const Picture& expected, const std::strin
     }
     if (misses <= shareOfMisses * 640 * 480) { return; }
     ADD_FAILURE() << name << ": " << misses << " pixels differ, see " GLORBIX_PICTURES;
-    savePng(actual, name + "-actual.png");
-    savePng(expected, name + "-expected.png");
+    save(actual, name + "-actual.bmp");
+    save(expected, name + "-expected.bmp");
 }

@@ -28,13 +28,13 @@ struct Picture {
     void put(int x, int y, Pixel pixel);
 };
 
-// The surface as it is now.
+// Returns what is on the surface now.
 Picture photograph();
 
-// The picture whose pixels are these.
+// Returns the picture with these pixels.
 Picture paint(const std::function<Pixel(int x, int y)>& pixelAt);
 
 // Expects two pictures to be the same within `tolerance` of 255 a colour, except for a share of the
-// pixels. Otherwise <name>-actual.png and -expected.png are left in the build folder.
+// pixels. Otherwise writes <name>-actual.bmp and <name>-expected.bmp to the build folder.
 void expectLike(const Picture& actual, const Picture& expected, const std::string& name,
                 double tolerance = 10, double shareOfMisses = 0);

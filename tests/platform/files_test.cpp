@@ -19,6 +19,10 @@ TEST(Clock, GoesOnBetweenAnyTwoCallsAtItsFrequency) {
     EXPECT_LT(last.QuadPart - first.QuadPart, frequency.QuadPart * 10);
     QueryPerformanceCounter(&first);
     EXPECT_GT(first.QuadPart, last.QuadPart);
+    SDL_Delay(1100); // the program is stopped
+    QueryPerformanceCounter(&last);
+    EXPECT_LT(last.QuadPart - first.QuadPart, frequency.QuadPart / 100);
+    EXPECT_GT(last.QuadPart, first.QuadPart);
 }
 
 // Installed data and a player's home in a new folder; the test may leave the current folder.
@@ -75,6 +79,12 @@ TEST_F(Folders, HoldFilesThatAreReadToTheirEndOrNotAtAll) {
     EXPECT_EQ(openFile(root), INVALID_HANDLE_VALUE);
     EXPECT_NE(lastErrorWords().find("it is a folder"), std::string::npos) << lastErrorWords();
     EXPECT_EQ(openFile(root / "file", 2), INVALID_HANDLE_VALUE) << "a new one";
+    EXPECT_EQ(CreateFileA(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
+              INVALID_HANDLE_VALUE);
+    EXPECT_EQ(CreateFileA((root / "file").c_str(), GENERIC_READ >> 1, 0, nullptr, OPEN_EXISTING, 0,
+                          nullptr),
+              INVALID_HANDLE_VALUE)
+        << "to write";
     const HANDLE broken = openFile("/proc/self/mem"); // nothing can be read at address 0
     for (const HANDLE unread : {broken, HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
         got = 99;
@@ -97,6 +107,27 @@ TEST_F(Folders, OfThePlayerHaveLinksToTheData) {
     setenv("XDG_DATA_HOME", (root / "data").c_str(), 1);
     complaintOnEntering();
     EXPECT_EQ(fs::current_path(), root / "data/glorbix");
+}
+
+TEST_F(Folders, HaveRivalsForANewPlayerAndLeaveBestTimesAlone) {
+    const auto timesAfterEntering = [&] {
+        EXPECT_EQ(complaintOnEntering(), "");
+        std::string times;
+        std::getline(std::ifstream(own / "highScore.dat"), times);
+        return times;
+    };
+    EXPECT_EQ(timesAfterEntering(), "") << "data without rivals";
+    std::ofstream(data / "rivals.dat") << "165 IDA ";
+    fs::permissions(data / "rivals.dat", fs::perms(0444));
+    EXPECT_EQ(timesAfterEntering(), "165 IDA ");
+    EXPECT_NE(fs::status(own / "highScore.dat").permissions() & fs::perms::owner_write,
+              fs::perms::none);
+    std::ofstream(own / "highScore.dat") << "99 JOE ";
+    EXPECT_EQ(timesAfterEntering(), "99 JOE ");
+    fs::remove(own / "highScore.dat");
+    fs::create_symlink(root / "other disk", own / "highScore.dat"); // not there at the moment
+    EXPECT_EQ(timesAfterEntering(), "");
+    EXPECT_FALSE(fs::exists(root / "other disk"));
 }
 
 TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {

@@ -99,6 +99,12 @@ TEST_F(Keys, RepeatWithAMarkAndBelongToTheSystemWithAlt) {
     ASSERT_EQ(messages.size(), 2U);
     EXPECT_EQ(messages[0].lParam, 1);
     EXPECT_EQ(messages[1].lParam, 1 | 1 << 30);
+    for (const SDL_Scancode key : {SDL_SCANCODE_F1, SDL_SCANCODE_ESCAPE, SDL_SCANCODE_RETURN,
+                                   SDL_SCANCODE_SPACE, SDL_SCANCODE_A, SDL_SCANCODE_BACKSPACE}) {
+        pushKey(key, KMOD_NONE, true);
+        const std::size_t repeats = key == SDL_SCANCODE_BACKSPACE ? 1 : 0;
+        EXPECT_EQ(codesNow().size(), repeats) << key;
+    }
     heard.clear();
     for (const int alt : {KMOD_LALT, KMOD_RALT}) {
         for (const bool full : {true, false}) {

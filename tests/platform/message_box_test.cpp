@@ -1,4 +1,5 @@
-// Message boxes on SDL's offscreen driver: what they show, what closes them, what the game hears.
+// Message boxes on SDL's offscreen driver: what they show, what closes them, what the game
+// receives.
 #include "platform/sdl/message_box.h"
 
 #include "platform/sdl/box_text.h"
@@ -10,6 +11,7 @@ using Lines = std::vector<std::string>;
 
 TEST(BoxText, BreaksBetweenWordsAndWithinPathsAndIsCutWhereTheDisplayEnds) {
     EXPECT_EQ(wrapText("could not load  the map", 10), (Lines{"could not", "load the", "map"}));
+    EXPECT_EQ(wrapText("load a map it", 10), (Lines{"load a map", "it"}));
     EXPECT_EQ(wrapText("in /usr/share/glorbix/maps it", 10),
               (Lines{"in", "/usr/share", "/glorbix/m", "aps it"}));
     EXPECT_EQ(wrapText("one\r\n\nZo\xC3\xAB\tt\n", 10), (Lines{"one", "", "Zo\x7F t"}));
@@ -29,7 +31,7 @@ struct Boxes : OnSdl {
     bool isClosedBy(const std::vector<SDL_Event>& events) {
         box.close();
         box = {};
-        EXPECT_TRUE(box.open({"Notice", "Rg", false}, nullptr));
+        EXPECT_TRUE(box.open({"Notice", "\nRg", false}, nullptr));
         bool closed = false;
         for (SDL_Event event : events) {
             EXPECT_FALSE(closed);
@@ -43,9 +45,10 @@ struct Boxes : OnSdl {
 };
 
 TEST_F(Boxes, ShowTheirText) {
+    EXPECT_NE(SDL_GetWindowFlags(box.sdl) & SDL_WINDOW_SHOWN, 0U);
     const SDL_Surface& surface = *SDL_GetWindowSurface(box.sdl);
     const int scale = surface.w / 130; // no text is as wide as the narrowest box
-    const auto* row = static_cast<const Uint32*>(surface.pixels) + 35 * scale * surface.w;
+    const auto* row = static_cast<const Uint32*>(surface.pixels) + 47 * scale * surface.w;
     std::string dots; // of the middle of "Rg"
     for (int x = 10; x < 21; ++x) {
         dots += row[x * scale] == row[14 * scale] ? '.' : '#';
@@ -62,6 +65,7 @@ TEST_F(Boxes, CloseWhenAKeyOfTheirOwnIsLetGo) {
             << "held before";
     }
     EXPECT_FALSE(isClosedBy({keyEvent(SDL_SCANCODE_F4), up(SDL_SCANCODE_F4)}));
+    EXPECT_FALSE(isClosedBy({up(SDL_SCANCODE_UNKNOWN)})) << "a key that SDL does not know";
     EXPECT_TRUE(isClosedBy({keyEvent(SDL_SCANCODE_F4, KMOD_LALT), up(SDL_SCANCODE_F4)}));
 }
 
@@ -100,8 +104,15 @@ TEST_F(OnSdl, MessageBoxesLeaveTheGameNothingButTheRequestToEnd) {
     pushKey(SDL_SCANCODE_J);
     MessageBoxA(window, "Creating a file", "Notice", MB_OK);
     EXPECT_EQ(heardNow(), Numbers{}) << "a key that waited for the box is the box's";
+    pushKey(SDL_SCANCODE_RETURN);
+    SDL_Event up = keyEvent(SDL_SCANCODE_RETURN, KMOD_NONE, false, SDL_KEYUP);
+    SDL_PushEvent(&up);
+    pushKey(SDL_SCANCODE_J);
+    MessageBoxA(window, "Creating a file", "Notice", MB_OK);
+    EXPECT_EQ(heardNow(), Numbers{}) << "pressed before the box was gone";
     const std::string lines = "glorbix: Notice: Creating a file\nglorbix: Error: no font\n";
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), lines + lines + lines.substr(0, 33));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              lines + lines + lines.substr(0, 33) + lines.substr(0, 33));
 }
 
 } // namespace

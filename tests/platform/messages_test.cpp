@@ -28,7 +28,7 @@ struct Messages : OnSdl {
 TEST_F(Messages, ComeOutPostedFirstThenQuitInputPaintAndTimers) {
     using Told = std::tuple<UINT, HWND, WPARAM, LPARAM, DWORD>;
     SetTimer(window, 1, 10, nullptr);
-    const auto later = static_cast<DWORD>(*stoppedClock += 35); // due three times, told once
+    const auto later = static_cast<DWORD>(*stoppedClock += 35); // due three times, sent once
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
     pushKey(SDL_SCANCODE_J);
     PostQuitMessage(7);
@@ -85,6 +85,7 @@ TEST_F(Messages, AreFilteredByWindowAndRange) {
     *stoppedClock += 10;
     EXPECT_EQ(peek(window, WM_KEYDOWN, WM_KEYDOWN), 0U);
     EXPECT_EQ(peek(window, WM_TIMER, WM_TIMER), WM_TIMER);
+    EXPECT_FALSE(PeekMessageA(nullptr, nullptr, 0, 0, PM_REMOVE));
     PostQuitMessage(1);
     EXPECT_EQ(peek(window, WM_KEYDOWN, WM_KEYDOWN), WM_QUIT) << "it passes every filter";
     EXPECT_EQ(messagesNow().size(), 4U);

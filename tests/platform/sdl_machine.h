@@ -1,7 +1,8 @@
-// The machine as its tests use it: one window on a display that nobody sees, keys and events made
-// up, and a clock that can be stopped.
+// What the tests of the provider share: one window on a display in memory, invented keys and
+// events, and a clock that can be stopped.
 #pragma once
 
+#include <csignal>
 #include <cstdlib>
 #include <map>
 #include <optional>
@@ -19,6 +20,7 @@ using Numbers = std::vector<UINT>; // of messages
 
 inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
 inline std::optional<SDL_Rect> roomOnDesktop; // without a value the display's own
+inline int refreshRate = 0;                   // of the display; 0: not known
 inline int framesShown = 0;
 
 // The linker takes these instead of SDL's. Without a screen there is nothing to swap.
@@ -29,6 +31,12 @@ inline int framesShown = 0;
 [[gnu::used]] inline int SDLCALL SDL_GetDisplayUsableBounds(int display, SDL_Rect* room) {
     if (!roomOnDesktop) { return SDL_GetDisplayBounds(display, room); }
     *room = *roomOnDesktop;
+    return 0;
+}
+
+[[gnu::used]] inline int SDLCALL SDL_GetCurrentDisplayMode(int, SDL_DisplayMode* mode) {
+    *mode = {};
+    mode->refresh_rate = refreshRate;
     return 0;
 }
 
@@ -50,6 +58,8 @@ inline LRESULT CALLBACK testProcedure(HWND window, UINT message, WPARAM wParam, 
 // Opens the window, hidden, of the class "Test".
 inline HWND openTestWindow() {
     setenv("SDL_VIDEODRIVER", "offscreen", 0);
+    // A shell ignores this signal for programs in the background; SDL would leave that so.
+    [[maybe_unused]] static const auto inheritedAnswer = std::signal(SIGINT, SIG_DFL);
     WNDCLASSA windowClass = {};
     windowClass.lpszClassName = "Test";
     windowClass.lpfnWndProc = testProcedure;
@@ -111,12 +121,12 @@ inline std::string lastErrorWords() {
     char* text = nullptr;
     const DWORD length = FormatMessageA(flags, nullptr, GetLastError(), 0,
                                         reinterpret_cast<char*>(&text), 0, nullptr);
-    const std::string words(text, length);
+    std::string words(text, length);
     LocalFree(text);
     return words;
 }
 
-// The window is shown and has nothing to tell; WM_CLOSE does not close it.
+// The window is shown and has no messages waiting; WM_CLOSE does not close it.
 struct OnSdl : testing::Test {
     OnSdl() {
         ShowWindow(window, SW_SHOW);
@@ -125,6 +135,7 @@ struct OnSdl : testing::Test {
     }
     ~OnSdl() override {
         stoppedClock.reset();
+        refreshRate = 0;
         answers.clear();
         DefWindowProcA(currentWindow(), WM_CLOSE, 0, 0);
         heard.clear();

@@ -2,6 +2,7 @@
 #define GL_GLEXT_PROTOTYPES
 #include <array>
 #include <chrono>
+#include <cstddef>
 
 #include <GL/gl.h>
 #include <GL/glext.h>
@@ -58,10 +59,12 @@ struct Surface : OnSdl {
         return colour;
     }
 
-    double secondsFor(int frames) const {
+    // Draws pictures of one colour, or of two in turns.
+    double secondsFor(int frames, const Colour& one = red, const Colour& other = green) const {
         const auto start = std::chrono::steady_clock::now();
         for (int i = 0; i < frames; ++i) {
             messagesNow();
+            fill({0, 0, 640, 480}, i % 2 == 0 ? one : other);
             EXPECT_TRUE(SwapBuffers(dc));
         }
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -83,7 +86,13 @@ TEST_F(Surface, Is640By480In16BitsWith16BitsOfDepth) {
                     numbersOf(GL_BLUE_BITS)[0], numbersOf(GL_DEPTH_BITS)[0]}),
               (Four{5, 6, 5, 16}));
     EXPECT_NE(SDL_GL_GetSwapInterval(), 0) << "frames wait for the display";
+    PIXELFORMATDESCRIPTOR part = {};
+    EXPECT_EQ(DescribePixelFormat(dc, 1, offsetof(PIXELFORMATDESCRIPTOR, cColorBits), &part), 1);
+    EXPECT_EQ(part.cColorBits, 0) << "beyond the caller's memory";
+    EXPECT_EQ(ChoosePixelFormat(dc, nullptr), 0);
+    EXPECT_TRUE(ReleaseDC(window, dc) && !ReleaseDC(nullptr, dc) && !ReleaseDC(window, nullptr));
     EXPECT_EQ(wglCreateContext(dc), nullptr) << "the game has it";
+    EXPECT_FALSE(wglMakeCurrent(dc, reinterpret_cast<HGLRC>(&part)));
     EXPECT_TRUE(wglMakeCurrent(dc, nullptr));
     EXPECT_FALSE(SwapBuffers(dc)) << "nothing is bound";
     EXPECT_TRUE(wglDeleteContext(context));
@@ -102,6 +111,27 @@ TEST_F(Surface, IsShownBetweenBlackBars) {
         EXPECT_EQ(shownAt(left + 1, height - bottom - 2), green) << width;
         EXPECT_EQ(shownAt(1, 1), left + bottom > 0 ? black : red);
         EXPECT_EQ(shownAt(width - 2, height - 2), left + bottom > 0 ? black : green);
+    }
+}
+
+// Columns that are red and green by turns: a colour of the window between the two is a blur.
+TEST_F(Surface, StaysSharpAtAnySize) {
+    for (const int width : {1280, 1440, 1600, 960, 320}) {
+        SDL_SetWindowSize(sdlWindow(), width, width * 3 / 4);
+        fill({0, 0, 640, 480}, red);
+        for (int x = 0; x < 640; x += 2) {
+            fill({x, 0, 1, 480}, green);
+        }
+        EXPECT_TRUE(SwapBuffers(dc));
+        int blurred = 0;
+        for (int x = 0; x < 60; ++x) {
+            const Colour colour = shownAt(x, 50);
+            blurred += colour != red && colour != green ? 1 : 0;
+        }
+        const int enlarged = (width + 639) / 640;
+        const int expected = width < 640 ? 60 : (width % 640 == 0 ? 0 : 60 / enlarged + 2);
+        EXPECT_LE(blurred, expected) << width;
+        EXPECT_EQ(shownAt(width / 2, 50)[2], 0);
     }
 }
 
@@ -126,15 +156,35 @@ TEST_F(Surface, KeepsTheStatesOfTheGameWhenItIsShown) {
     EXPECT_EQ(shownAt(70, 300), black);
 }
 
-TEST_F(Surface, IsShownAtMost250TimesASecondAndRestsUnseen) {
-    const int before = framesShown;
-    EXPECT_GE(secondsFor(51), 50 * 0.004);
-    EXPECT_EQ(framesShown, before + 51);
+TEST_F(Surface, IsShownNoOftenerThanTheDisplayCanAndRestsUnseen) {
+    for (const int rate : {0, 50, 1000}) {
+        refreshRate = rate;
+        const int before = framesShown;
+        EXPECT_GE(secondsFor(51), 50 * (rate == 50 ? 0.018 : 0.004)) << rate;
+        EXPECT_EQ(framesShown, before + 51);
+    }
     SDL_HideWindow(sdlWindow());
     secondsFor(1);
     EXPECT_GE(secondsFor(3), 0.25);
     SDL_ShowWindow(sdlWindow());
     EXPECT_LT(secondsFor(100), 8.0) << "seen again";
+}
+
+TEST_F(Surface, RestsWhileThePictureStaysOnSoftwareOpenGL) {
+    int before = framesShown;
+    secondsFor(25, red, red);
+    EXPECT_EQ(framesShown, before + 25) << "it may change at any moment";
+    secondsFor(15, red, red);
+    before = framesShown;
+    EXPECT_GE(secondsFor(5, red, red), 5 * 0.035);
+    EXPECT_EQ(framesShown, before);
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
+    secondsFor(1, red, red);
+    EXPECT_EQ(framesShown, before + 1) << "the window has lost it";
+    secondsFor(40, red, red);
+    before = framesShown;
+    secondsFor(1, green);
+    EXPECT_EQ(framesShown, before + 1) << "it has changed";
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 #include <csignal>
 #include <utility>
 
-#include "platform/sdl/errors.h"
+#include "platform/common/errors.h"
 #include "platform/sdl/shutdown.h"
 #include "platform/sdl/window.h"
 #include "platform/sdl_machine.h"
@@ -47,7 +47,7 @@ TEST_F(TheWindow, OpensHiddenAfterTheGameIsAsked) {
 TEST_F(TheWindow, AsksForPaintUntilItIsBegun) {
     UpdateWindow(window);
     EXPECT_EQ(heardNow(), Numbers{}) << "nothing waits";
-    answers[WM_PAINT] = 0; // heard, and no more
+    answers[WM_PAINT] = 0; // received, and nothing else
     for (const SDL_WindowEventID event : {SDL_WINDOWEVENT_EXPOSED, SDL_WINDOWEVENT_SIZE_CHANGED}) {
         pushEvent(SDL_WINDOWEVENT, event);
         EXPECT_GT(heardNow().size(), 1000U) << "again and again";
@@ -66,6 +66,9 @@ TEST_F(TheWindow, HearsOfFocusAndRequestsToCloseOnce) {
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
     EXPECT_EQ(heardNow(), Numbers{WM_SETFOCUS});
     EXPECT_EQ(GetFocus(), window);
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST);
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
+    EXPECT_EQ(heardNow(), Numbers{}) << "it has got it back already";
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_CLOSE);
     EXPECT_EQ(heardNow(), Numbers{WM_CLOSE});
     for (const int signal : {SIGTERM, SIGINT}) {
@@ -96,6 +99,7 @@ TEST_F(TheWindow, CoversTheScreenInTheOneDisplayMode) {
     DEVMODEA mode = {};
     ASSERT_TRUE(EnumDisplaySettingsA(nullptr, 0, &mode));
     EXPECT_FALSE(EnumDisplaySettingsA(nullptr, 1, &mode)) << "there is no other";
+    EXPECT_FALSE(EnumDisplaySettingsA(nullptr, 0, nullptr));
     EXPECT_EQ(mode.dmSize, sizeof mode);
     EXPECT_EQ(mode.dmFields, DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT);
     EXPECT_EQ(mode.dmBitsPerPel, 16U);
@@ -119,7 +123,10 @@ TEST_F(TheWindow, CoversTheScreenInTheOneDisplayMode) {
 }
 
 void findNoDisplay() {
-    DEVMODEA mode = {0, 0, 16, 640, 480};
+    DEVMODEA mode = {};
+    mode.dmBitsPerPel = 16;
+    mode.dmPelsWidth = 640;
+    mode.dmPelsHeight = 480;
     EXPECT_EQ(ChangeDisplaySettingsA(&mode, 0), DISP_CHANGE_FAILED);
     EXPECT_EQ(openTestWindow(), nullptr);
     EXPECT_TRUE(hadFatalError());

@@ -8,6 +8,7 @@
 #include "data/level_list.h"
 #include "sim/course.h"
 #include "state/game.h"
+#include "tools/level/colours.h"
 #include "tools/level/command_line.h"
 #include "tools/level/fault_text.h"
 #include "tools/level/game_folder.h"
@@ -18,6 +19,11 @@
 namespace {
 
 constexpr double minColourDistance = 90.0; // closer colours are hard to tell apart
+constexpr double minContrast = 1.5;        // of the marble with its ground
+
+// The time at the start in which no key is held.
+constexpr float idleSeconds = 5.0F;
+constexpr float idleTick = 1.0F / 60.0F;
 
 struct Findings {
     const std::string& file;
@@ -43,6 +49,31 @@ double colourDistance(std::uint32_t a, std::uint32_t b) {
         return static_cast<double>(c >> shift & 255U);
     };
     return std::hypot(part(a, 16) - part(b, 16), part(a, 8) - part(b, 8), part(a, 0) - part(b, 0));
+}
+
+void checkFog(Findings& findings) {
+    const std::uint32_t exact = nearestInSixteenBits(level.fogColourCode);
+    if (exact == level.fogColourCode) { return; }
+    char text[120];
+    std::snprintf(text, sizeof text,
+                  "fogcolor= 0x%06x is not exact in 16 bits: far ground shows behind the fog; take "
+                  "0x%06x",
+                  level.fogColourCode, exact);
+    findings.add(text);
+}
+
+void checkMarble(Findings& findings) {
+    if (colourDistance(level.fogColourCode, level.marbleColourCode) < minColourDistance) {
+        findings.add("fogcolor= and marblecolor= are too similar to see the marble in fog");
+    }
+    const double contrast = marbleContrast(level);
+    if (contrast >= minContrast) { return; }
+    char text[120];
+    std::snprintf(text, sizeof text,
+                  "the marble is hard to see on its ground: %.2f times brighter or darker in fog, "
+                  "expected %.1f",
+                  contrast, minContrast);
+    findings.add(text);
 }
 
 void checkHole(int index, Findings& findings) {
@@ -74,6 +105,18 @@ void checkReturns(Findings& findings) {
     }
 }
 
+// A player who only looks on after the start must not be punished for it.
+void checkIdleStart(Findings& findings) {
+    const RunState start = runState();
+    while (runState().clock > levelTime - idleSeconds) {
+        tickRun(noKey, idleTick);
+    }
+    if (runState().catches > 0) {
+        findings.add("a marble that nobody steers is lost within 5 s: put mounds behind the start");
+    }
+    setRunState(start);
+}
+
 // Reports what the game accepts but is probably a mistake.
 void checkCourse(Findings& findings) {
     for (int i = 0; i < level.holeCount; ++i) {
@@ -81,9 +124,9 @@ void checkCourse(Findings& findings) {
     }
     if (level.holeCount == 0) { findings.add("there are no holes: the ground is flat"); }
     if (level.holeAt(0.0F, startLine) > 0.0F) { findings.add("the start is in a catch circle"); }
-    if (colourDistance(level.fogColourCode, level.marbleColourCode) < minColourDistance) {
-        findings.add("fogcolor= and marblecolor= are too similar to see the marble in fog");
-    }
+    checkFog(findings);
+    checkMarble(findings);
+    checkIdleStart(findings);
     checkReturns(findings);
     if (!Guide(level).reachesGoal()) {
         findings.add("no way from the start to the goal avoids all wells");

@@ -133,8 +133,8 @@ struct Mapper {
                 const float right = here[1];
                 const float below = here[stripPixels + 1];
                 const int band = bandOf(*here);
-                // The light comes from the upper left: it falls on a rise to the right or
-                // downwards.
+                // The light comes from the upper left: a slope that rises to the right or
+                // downwards is bright.
                 const double slope = (right - *here + below - *here) / unitsPerPixel;
                 const double light = 0.62 + 0.45 * slope / std::sqrt(1.0 + slope * slope);
                 int step = std::clamp(static_cast<int>(light * lightSteps), 0, lightSteps - 1);

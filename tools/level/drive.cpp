@@ -9,10 +9,20 @@ void recordPoint(Drive& drive, Keys held, int catchesBefore) {
     drive.line.push_back({p.x, p.y, (held & turboKey) != 0, false});
 }
 
+// Digests the tick just driven.
+void recordDigest(Drive& drive, DriveDigest& digest) {
+    digest.add(runState());
+    const auto tick = static_cast<int>(drive.keys.ticks.size());
+    if (tick % ticksPerCheckpoint == 0 || runIsOver()) {
+        drive.keys.checkpoints.push_back({tick, digest.value});
+    }
+}
+
 } // namespace
 
 Drive driveToEnd(int ticksPerSecond, const KeySource& nextKeys) {
     Drive drive;
+    DriveDigest digest;
     drive.keys.ticksPerSecond = ticksPerSecond;
     const float dt = 1.0F / static_cast<float>(ticksPerSecond);
     const auto maxTicks = static_cast<std::size_t>(maxDriveSeconds * ticksPerSecond);
@@ -22,6 +32,7 @@ Drive driveToEnd(int ticksPerSecond, const KeySource& nextKeys) {
         tickRun(held, dt);
         drive.keys.ticks.push_back(held);
         recordPoint(drive, held, catchesBefore);
+        recordDigest(drive, digest);
     }
     drive.end = runState();
     drive.keys.time = drive.end.done ? drive.end.result : 0.0F;

@@ -8,7 +8,7 @@
 #include "tools/level/level_run.h"
 
 struct Drive {
-    KeyFile keys;
+    KeyFile keys;                // with its checkpoints
     RunState end;                // the state at its end
     std::vector<LinePoint> line; // the marble's path, one point for each tick
 };

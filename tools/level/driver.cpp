@@ -25,6 +25,11 @@ constexpr auto topSpeed = static_cast<float>(normalPower * topSpeedPerPower);
 constexpr auto turboSpeed = static_cast<float>(turboPower * topSpeedPerPower);
 constexpr float turboCost = 0.25F; // for each second of turbo spent
 
+// The turbo that it keeps for a long climb ahead.
+constexpr float longClimb = 120.0F;  // world units
+constexpr float turboToClimb = 2.0F; // seconds
+constexpr float atItsFoot = 0.4F;    // slope
+
 // The velocity by which the marble may be too slow, or too fast, before a key is held.
 constexpr float sidewaysTolerance = 0.5F;
 constexpr float slowTolerance = 0.2F;
@@ -90,6 +95,15 @@ float costOf(const Lookahead& lookahead, Keys first, Keys turbo) {
     return best;
 }
 
+// Returns whether turbo may be spent here.
+bool mayUseTurbo(const Guide& guide) {
+    const Vector3& p = marble.position;
+    if (Game.turbo > turboToClimb || guide.climbAt(p.x, p.y) < longClimb) {
+        return Game.turbo > 0.0F;
+    }
+    return Game.turbo > 0.0F && level.tangentYAt(p.x, p.y).z < -atItsFoot;
+}
+
 } // namespace
 
 Keys Driver::keysFor(float dt) {
@@ -100,7 +114,7 @@ Keys Driver::keysFor(float dt) {
     if (untilDecision <= 0.0F) { untilDecision = decisionSeconds; }
     float best = 1.0e9F;
     for (const Keys turbo : {noKey, turboKey}) {
-        if (turbo != noKey && now.turbo <= 0.0F) { continue; }
+        if (turbo != noKey && !mayUseTurbo(guide)) { continue; }
         for (const Keys first : directions) {
             const float cost = costOf({guide, now}, first, turbo);
             setRunState(now);

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "tools/level/program_file.h"
+
 namespace {
 
 using std::filesystem::path;
@@ -13,9 +15,7 @@ bool isGameFolder(const path& folder) {
 }
 
 path installedData() {
-    std::error_code ignored;
-    const path program = std::filesystem::read_symlink("/proc/self/exe", ignored);
-    const path data = program.parent_path() / GLORBIX_DATA_FROM_PROGRAM;
+    const path data = programFile().parent_path() / GLORBIX_DATA_FROM_PROGRAM;
     return isGameFolder(data) ? data : path(GLORBIX_DATA_DIR);
 }
 
@@ -36,11 +36,11 @@ void enterGameFolder(std::string& file) {
     const path whole = std::filesystem::absolute(file, error).lexically_normal();
     if (error) { return; }
     const path folder = gameFolderOf(whole);
-    file = whole.string();
+    file = whole.generic_string();
     std::filesystem::current_path(folder, error);
     if (error) { return; }
     const path near = whole.lexically_relative(std::filesystem::current_path(error));
-    if (!error && !near.empty() && *near.begin() != "..") { file = near.string(); }
+    if (!error && !near.empty() && *near.begin() != "..") { file = near.generic_string(); }
 }
 
 std::string absolutePath(const std::string& file) {

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr float margin = 30.0F; // world units kept from catch circles and sides
 constexpr auto speedUnits = static_cast<float>(unitsPerVelocity);
 constexpr auto topSpeed = static_cast<float>(normalPower * topSpeedPerPower);
 // Downward force on a marble on a vertical slope, see Level::downhillAt.
@@ -38,11 +37,11 @@ std::size_t indexOf(int column, int row) {
     return static_cast<std::size_t>(row * groundColumns + column);
 }
 
-bool isOpen(const Level& course, const Vector3& at) {
-    if (at.x < courseLeft + margin || at.x > courseRight - margin) { return false; }
+bool isOpen(const Level& course, const Vector3& at, float clearance) {
+    if (at.x < courseLeft + clearance || at.x > courseRight - clearance) { return false; }
     for (int i = 0; i < 8; ++i) {
         const auto& [c, r] = neighbours[i];
-        const float reach = margin / std::sqrt(static_cast<float>(c * c + r * r));
+        const float reach = clearance / std::sqrt(static_cast<float>(c * c + r * r));
         const float x = at.x + static_cast<float>(c) * reach;
         const float y = at.y + static_cast<float>(r) * reach;
         if (course.holeAt(x, y) > 0.0F) { return false; }
@@ -50,13 +49,49 @@ bool isOpen(const Level& course, const Vector3& at) {
     return course.holeAt(at.x, at.y) <= 0.0F;
 }
 
-// Returns the seconds from one place to another nearby, at the speed at which the keys, the slope
-// and the drag are in balance.
-float secondsBetween(const Vector3& from, const Vector3& to) {
-    const float length = (to - from).length();
-    const float sinDown = (to.z - from.z) / length; // above 0 downhill, z being a depth
-    const float balance = (normalPower + slopePull * sinDown) / -drag;
-    return length / (std::clamp(balance, minSpeed, topSpeed) * speedUnits);
+// The slope of the ground at a vertex: how much deeper it gets for each unit of x and y.
+struct Slope {
+    float x;
+    float y;
+};
+
+Slope slopeAt(const Level& course, int column, int row) {
+    const auto depth = [&course](int c, int r) {
+        return course
+            .groundPoints[indexOf(std::clamp(c, 0, groundColumns - 1),
+                                  std::clamp(r, 0, groundRows - 1))]
+            .z;
+    };
+    constexpr float span = 2.0F * groundSpacing;
+    return {.x = (depth(column + 1, row) - depth(column - 1, row)) / span,
+            .y = (depth(column, row + 1) - depth(column, row - 1)) / span};
+}
+
+// Returns the velocity along an axis at which key, slope and drag are in balance: below 0 where the
+// marble cannot climb. `downAhead` is the slope in the direction of the key.
+float balanceOf(float downAhead, const Slope& slope) {
+    const float key = normalPower / Vector3(1.0F, downAhead, 0.0F).length();
+    const float pull = slopePull * downAhead / Vector3(1.0F, slope.x, slope.y).length();
+    return (key + pull) / -drag;
+}
+
+// A step from a vertex to a neighbour.
+struct Step {
+    float seconds;
+    float climb; // its length along the course when it cannot be climbed without turbo
+};
+
+// The keys of both axes work at the same time, so the slower axis counts.
+Step stepFrom(const Slope& slope, const Neighbour& to) {
+    const float balanceX = balanceOf(to.columns < 0 ? -slope.x : slope.x, slope);
+    const float balanceY = balanceOf(to.rows < 0 ? -slope.y : slope.y, slope);
+    const auto x = static_cast<float>(std::abs(to.columns));
+    const auto y = static_cast<float>(std::abs(to.rows));
+    const float time =
+        std::max({Vector3(x, y, 0.0F).length() / topSpeed, x / std::max(balanceX, minSpeed),
+                  y / std::max(balanceY, minSpeed)});
+    return {.seconds = time * groundSpacing / speedUnits,
+            .climb = balanceY < 0.0F ? y * groundSpacing : 0.0F};
 }
 
 // Dijkstra's search, backwards from the goal line over the mesh.
@@ -69,13 +104,14 @@ struct Search {
 
     void begin() {
         for (std::size_t i = 0; i < guide.seconds.size(); ++i) {
-            if (course.groundPoints[i].y > goalLine) { offer(i, 0.0F); }
+            if (course.groundPoints[i].y > goalLine) { offer(i, 0.0F, 0.0F); }
         }
     }
 
-    void offer(std::size_t index, float seconds) {
+    void offer(std::size_t index, float seconds, float climb) {
         if (!(seconds < guide.seconds[index])) { return; } // also for NaN
         guide.seconds[index] = seconds;
+        guide.climb[index] = climb;
         next.emplace(seconds, index);
     }
 
@@ -85,9 +121,9 @@ struct Search {
         for (const auto& [c, r] : neighbours) {
             if (!onMesh(column + c, row + r)) { continue; }
             const std::size_t from = indexOf(column + c, row + r);
-            float seconds = secondsBetween(course.groundPoints[from], course.groundPoints[to]);
-            if (!guide.open[from]) { seconds *= closedFactor; }
-            offer(from, guide.seconds[to] + seconds);
+            Step step = stepFrom(slopeAt(course, column + c, row + r), {-c, -r});
+            if (!guide.open[from]) { step.seconds *= closedFactor; }
+            offer(from, guide.seconds[to] + step.seconds, guide.climb[to] + step.climb);
         }
     }
 
@@ -101,28 +137,38 @@ struct Search {
     }
 };
 
-} // namespace
-
-Guide::Guide(const Level& course) {
-    seconds.assign(groundVertices, 1.0e9F);
-    open.resize(groundVertices);
-    for (std::size_t i = 0; i < open.size(); ++i) {
-        open[i] = isOpen(course, course.groundPoints[i]);
-    }
-    Search{course, *this, {}}.run();
-}
-
-float Guide::secondsAt(float x, float y) const {
+// Returns a field's value between the vertices around the point.
+float valueAt(const std::vector<float>& field, float x, float y) {
     const float c = std::clamp((x - courseLeft) / groundSpacing, 0.0F, groundColumns - 1.001F);
     const float r = std::clamp((y - courseBack) / groundSpacing, 0.0F, groundRows - 1.001F);
     const int column = static_cast<int>(c);
     const int row = static_cast<int>(r);
     const float u = c - static_cast<float>(column);
     const float v = r - static_cast<float>(row);
-    const float* corner = &seconds[indexOf(column, row)];
+    const float* corner = &field[indexOf(column, row)];
     const float near = corner[0] * (1.0F - u) + corner[1] * u;
     const float far = corner[groundColumns] * (1.0F - u) + corner[groundColumns + 1] * u;
     return near * (1.0F - v) + far * v;
+}
+
+} // namespace
+
+Guide::Guide(const Level& course, float clearance) {
+    seconds.assign(groundVertices, 1.0e9F);
+    climb.assign(groundVertices, 0.0F);
+    open.resize(groundVertices);
+    for (std::size_t i = 0; i < open.size(); ++i) {
+        open[i] = isOpen(course, course.groundPoints[i], clearance);
+    }
+    Search{course, *this, {}}.run();
+}
+
+float Guide::secondsAt(float x, float y) const {
+    return valueAt(seconds, x, y);
+}
+
+float Guide::climbAt(float x, float y) const {
+    return valueAt(climb, x, y);
 }
 
 Vector3 Guide::directionAt(float x, float y) const {

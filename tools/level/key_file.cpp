@@ -16,9 +16,10 @@ namespace {
 constexpr int maxTicks = maxDriveSeconds * maxTicksPerSecond;
 
 // Reads the whole word as a number. Returns false when it is anything else or does not fit.
-bool readNumber(const std::string& word, int& value) {
+template <class Number>
+bool readNumber(const std::string& word, Number& value, int base = 10) {
     const char* end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, value);
+    const auto [stop, error] = std::from_chars(word.data(), end, value, base);
     return error == std::errc() && stop == end;
 }
 
@@ -44,10 +45,21 @@ std::string takeTime(const std::vector<std::string>& words, KeyFile& into) {
     return taken ? "" : "\"time\" takes one number of seconds";
 }
 
+std::string takeDigest(const std::vector<std::string>& words, KeyFile& into) {
+    Checkpoint read = {};
+    const bool taken = words.size() == 3 && readNumber(words[1], read.tick) &&
+                       readNumber(words[2], read.digest, 16);
+    if (!taken) { return "\"digest\" takes a number of ticks and a hexadecimal number"; }
+    into.checkpoints.push_back(read);
+    return {};
+}
+
 std::string takeKeys(const std::vector<std::string>& words, KeyFile& into) {
     int count = 0;
     if (!readNumber(words[0], count) || count < 1 || words.size() < 2) {
-        return "expected \"ticks N\", \"time T\", or a number of ticks and the keys held";
+        return "expected \"ticks N\", \"time T\", \"digest N D\", or a number of ticks and the "
+               "keys "
+               "held";
     }
     if (count > maxTicks - static_cast<int>(into.ticks.size())) {
         return "more than " + std::to_string(maxTicks) + " ticks in all";
@@ -66,6 +78,7 @@ std::string takeLine(const std::string& line, KeyFile& into) {
     const std::vector<std::string> words = splitWords(line);
     if (words.empty()) { return {}; }
     if (words[0] == "ticks") { return takeTicks(words, into); }
+    if (words[0] == "digest") { return takeDigest(words, into); }
     return words[0] == "time" ? takeTime(words, into) : takeKeys(words, into);
 }
 
@@ -101,7 +114,7 @@ bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error)
 }
 
 bool writeKeyFile(const std::string& fileName, const KeyFile& drive, std::string& error) {
-    std::ofstream file(fileName);
+    std::ofstream file(fileName, std::ios::binary); // lines end alike on every system
     file << "ticks " << drive.ticksPerSecond << "\ntime "
          << std::setprecision(std::numeric_limits<float>::max_digits10) << drive.time << '\n';
     for (std::size_t i = 0, next = 0; i < drive.ticks.size(); i = next) {
@@ -109,6 +122,10 @@ bool writeKeyFile(const std::string& fileName, const KeyFile& drive, std::string
             ++next;
         }
         file << next - i << ' ' << keysText(drive.ticks[i]) << '\n';
+    }
+    for (const Checkpoint& checkpoint : drive.checkpoints) {
+        file << "digest " << std::dec << checkpoint.tick << ' ' << std::hex << checkpoint.digest
+             << '\n';
     }
     file.close();
     if (file) { return true; }

@@ -2,12 +2,14 @@
 //
 // A file is lines of text: "ticks N" (a second), "time T" (seconds, with all digits; 0 when the
 // goal was not reached), then "COUNT KEYS", the keys held for that many ticks: "12 up left shift",
-// or "-" for no key. A file has at most maxDriveSeconds * maxTicksPerSecond ticks.
+// or "-" for no key. A file has at most maxDriveSeconds * maxTicksPerSecond ticks. Lines "digest N
+// D" give the digest of the first N ticks in hexadecimal; a file written by hand needs none.
 #pragma once
 
 #include <string>
 #include <vector>
 
+#include "tools/level/drive_digest.h"
 #include "tools/level/keys.h"
 
 // Ticks a second that a drive may have. With many more, a tick would be too short to change the
@@ -22,6 +24,7 @@ struct KeyFile {
     int ticksPerSecond = 60;
     float time = 0.0F;
     std::vector<Keys> ticks;
+    std::vector<Checkpoint> checkpoints; // in the order of their ticks
 };
 
 // Reads a whole number within these bounds. Returns false for anything else.

@@ -17,7 +17,7 @@ constexpr int levelsInRun = 2;
 
 int catches = 0;
 
-bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_t* pixels) {
+bool readPicture(const char* fileName, std::uint8_t* pixels, std::int32_t capacity) {
     std::string file;
     std::string why;
     if (!readWholeFile(fileName, file, why)) { return false; }
@@ -34,14 +34,7 @@ bool readPicture(const std::string& fileName, std::int64_t capacity, std::uint8_
 }
 
 bool readTexture(Level& into, const char* baseName, std::string& picture) {
-    picture = baseName;
-    if (std::strlen(baseName) >= mipBaseNameCapacity) { return false; }
-    for (int k = 0; k < groundChain.levels; ++k) {
-        picture = mipFileName(baseName, k);
-        const auto capacity = static_cast<std::int64_t>(slotSize(groundChain));
-        if (!readPicture(picture, capacity, into.texturePixels[k])) { return false; }
-    }
-    return true;
+    return readMipChain(groundChain, baseName, readPicture, into.texturePixels[0], picture);
 }
 
 Controls controlsOf(Keys keys) {

@@ -24,8 +24,8 @@ struct RunState {
 };
 
 // Loads the level and starts it as the game starts any level but a run's first: the marble at the
-// start line, the clock before its count-down. Returns false when the game would refuse the file; the report
-// then says why.
+// start line, the clock before its count-down. Returns false when the game would refuse the file;
+// the report then says why.
 bool startRun(const char* levelFile, LevelFileReport& report);
 
 // One tick of the game: clocks, simulation, penalty label, level clock. `dt` in seconds, above 0.

@@ -13,8 +13,8 @@ namespace {
 std::string smallLevel() {
     std::ostringstream text;
     text << keyOf(Directive::TextureFile) << ' ' << groundFolder << "/grid\n"
-         << keyOf(Directive::FogColour) << " 0x1b2450\n"
-         << keyOf(Directive::MarbleColour) << " 0xffc832\n"
+         << keyOf(Directive::FogColour) << " 0x192452\n"
+         << keyOf(Directive::MarbleColour) << " 0xff3018\n"
          << keyOf(Directive::HoleCount) << " 3\n\n"
          << keyOf(Directive::Data) << "\n"
          << "     0  -4800   200   -80\n"

@@ -1,8 +1,8 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/sdl/errors.h"
-#include "platform/sdl/regular_file.h"
+#include "platform/common/errors.h"
+#include "platform/common/regular_file.h"
 #include "platform/windows_api.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The game's timers. Times are milliseconds since the start of SDL.
+// The game's timers. Times are milliseconds of `uptime` (provider.h).
 #pragma once
 
 #include <cstdint>

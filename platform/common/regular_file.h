@@ -1,5 +1,6 @@
-// Opens files for reading, and only such as can be read without waiting: regular files. A folder, a
-// device, or a pipe that nobody writes to, is an error even where it has the name of a game file.
+// Opens files for reading, but only those that can be read without waiting: regular files.
+// A folder, a device or a pipe without a writer is an error even where it has the name of a game
+// file.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "platform/sdl/errors.h"
+#include "platform/common/errors.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -60,7 +60,7 @@ DWORD WINAPI GetLastError() {
 }
 
 DWORD WINAPI FormatMessageA(DWORD flags, const void*, DWORD error, DWORD, char* buffer, DWORD,
-                            void*) {
+                            va_list*) {
     const DWORD needed = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM;
     if ((flags & needed) != needed || buffer == nullptr) { return 0; }
     const bool known = error < errors.texts.size();

@@ -1,11 +1,11 @@
-#include "platform/sdl/message_queue.h"
+#include "platform/common/message_queue.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <deque>
 #include <optional>
 
-#include <SDL.h>
+#include "platform/common/provider.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ MSG newMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     made.message = message;
     made.wParam = wParam;
     made.lParam = lParam;
-    made.time = static_cast<DWORD>(SDL_GetTicks64());
+    made.time = static_cast<DWORD>(uptime());
     return made;
 }
 

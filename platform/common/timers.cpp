@@ -1,9 +1,9 @@
-#include "platform/sdl/timers.h"
+#include "platform/common/timers.h"
 
 #include <algorithm>
 #include <vector>
 
-#include <SDL.h>
+#include "platform/common/provider.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ void rearmTimer(Timer& timer, std::uint64_t now) {
 UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR timer, UINT period, TIMERPROC callback) {
     const UINT_PTR number = window != nullptr && timer != 0 ? timer : freeNumber();
     const std::uint64_t used = std::max<std::uint64_t>(period, shortestPeriod);
-    const Timer made = {window, number, used, SDL_GetTicks64() + used, callback};
+    const Timer made = {window, number, used, uptime() + used, callback};
     const auto same = std::find_if(timers.begin(), timers.end(), [&](const Timer& other) {
         return other.window == window && other.number == number;
     });

@@ -19,5 +19,5 @@ bool hadFatalError();
 // Writes "glorbix: " and the text as one line on standard error.
 void logError(const std::string& text);
 
-// Does the same, but writes equal texts only once in the life of the process.
+// Does the same, but writes each text only once per process.
 void logErrorOnce(const std::string& text);

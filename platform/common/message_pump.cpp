@@ -1,12 +1,8 @@
 // Takes messages in the order of their kinds and hands them to the game.
 
-#include <SDL.h>
-
-#include "platform/sdl/input.h"
-#include "platform/sdl/message_queue.h"
-#include "platform/sdl/sequencer.h"
-#include "platform/sdl/timers.h"
-#include "platform/sdl/window_handle.h"
+#include "platform/common/message_queue.h"
+#include "platform/common/provider.h"
+#include "platform/common/timers.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -14,18 +10,18 @@ namespace {
 // WM_PAINT is never removed: it comes again until the game has called BeginPaint or DefWindowProcA.
 bool takePaint(const MessageFilter& filter, MSG* taken) {
     const HWND window = currentWindow();
-    if (window == nullptr || !window->needsPaint) { return false; }
+    if (window == nullptr || !needsPaint()) { return false; }
     *taken = newMessage(window, WM_PAINT, 0, 0);
     return filter.accepts(*taken);
 }
 
 bool takeTimer(const MessageFilter& filter, bool remove, MSG* taken) {
-    Timer* timer = dueTimer(SDL_GetTicks64());
+    Timer* timer = dueTimer(uptime());
     if (timer == nullptr) { return false; }
     *taken = newMessage(timer->window, WM_TIMER, timer->number,
                         reinterpret_cast<LPARAM>(timer->callback));
     if (!filter.accepts(*taken)) { return false; }
-    if (remove) { rearmTimer(*timer, SDL_GetTicks64()); }
+    if (remove) { rearmTimer(*timer, uptime()); }
     return true;
 }
 
@@ -56,5 +52,5 @@ LRESULT WINAPI DispatchMessageA(const MSG* message) {
         return 0;
     }
     if (window == nullptr || message->hwnd != window) { return 0; }
-    return window->procedure(window, message->message, message->wParam, message->lParam);
+    return callWindowProcedure(message->message, message->wParam, message->lParam);
 }
