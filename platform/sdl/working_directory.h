@@ -27,8 +27,8 @@ bool layOutRivals(const std::filesystem::path& data, const std::filesystem::path
                   std::string& why);
 
 // Enters the player's own folder, $XDG_DATA_HOME/glorbix or ~/.local/share/glorbix, with links to
-// `data` and best times to beat. When that fails, writes the cause on standard error and enters `data` itself. Returns
-// false, with a sentence, when that fails too.
+// `data` and best times to beat. When that fails, writes the cause on standard error and enters
+// `data` itself. Returns false, with a sentence, when that fails too.
 bool enterPlayerFolder(const std::filesystem::path& data, std::string& why);
 
 // Chooses the working directory before the game starts: the current one when it holds the data and

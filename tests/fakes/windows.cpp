@@ -224,9 +224,7 @@ MCIERROR mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWOR
     if (command == MCI_OPEN) {
         auto& open = *reinterpret_cast<MCI_OPEN_PARMSA*>(parameters);
         EXPECT_TRUE(flags == 0x2200U && std::string("sequencer") == open.lpstrDeviceType);
-        // By value: a reference to a field of a packed record may be misaligned.
-        const char* const piece = open.lpstrElementName;
-        noted(0, "MCI open", piece);
+        noted(0, "MCI open", std::string(open.lpstrElementName)); // the record is packed
         if (fails("MCI_OPEN")) { return 277; }
         machine.devices.insert(open.wDeviceID = ++machine.lastDevice);
         return 0;

@@ -1,4 +1,5 @@
-// Model players: they hold keys as people do, late and not exactly, to measure how hard a course is.
+// Model players: they hold keys as people do, late and not exactly, to measure how hard a course
+// is.
 //
 // A player sees the line to the goal (tools/level/guide.h) some way ahead and steers towards it. It
 // decides several times a second, presses the keys some time later, ignores small deviations, and
