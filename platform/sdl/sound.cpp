@@ -13,6 +13,7 @@
 #include <SDL_mixer.h>
 
 #include "platform/common/errors.h"
+#include "platform/common/loudness.h"
 #include "platform/common/regular_file.h"
 #include "platform/sdl/audio_format.h"
 #include "platform/windows_api.h"
@@ -21,12 +22,7 @@ namespace {
 
 constexpr int framesPerBuffer = 1024;           // 23 ms from the call to the sound
 constexpr int effectChannel = 0;                // of the mixer
-constexpr int effectVolume = 102;               // of MIX_MAX_VOLUME: 2 dB below the files
 constexpr std::size_t largestEffect = 64 << 20; // bytes
-constexpr double beepFrequency = 880.0;         // hertz
-constexpr double beepLength = 0.15;             // seconds
-constexpr double beepAttack = 0.005;            // seconds; a shorter one clicks
-constexpr double beepVolume = 0.3;              // of the loudest possible
 
 struct ChunkDeleter {
     void operator()(Mix_Chunk* chunk) const { Mix_FreeChunk(chunk); }
@@ -52,7 +48,7 @@ bool openDevice() {
         return false;
     }
     Mix_AllocateChannels(effectChannel + 1);
-    Mix_Volume(effectChannel, effectVolume);
+    Mix_Volume(effectChannel, static_cast<int>(effectVolume * MIX_MAX_VOLUME));
     return true;
 }
 

@@ -5,13 +5,10 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/common/loudness.h"
 #include "platform/sdl/audio_format.h"
 
 namespace {
-
-// Effects can be heard above the music. The loudest moment of the game's pieces and that of its
-// effects, at their volume (sound.cpp), do not clip together.
-constexpr double musicGain = 0.475;
 
 constexpr double fadeTime = 0.5; // seconds after the last event of a piece
 constexpr int fadeFrames = static_cast<int>(fadeTime * sampleRate);

@@ -29,10 +29,11 @@ void pageDeleteTexture(std::uint32_t texture);
 // Shows the surface on the page.
 void pageShowPicture();
 
-// Plays a WAVE file of the game, or a beep, in place of the effect before. Returns 0 when there is
+// Plays a WAVE file of the game, or a beep, in place of the effect before. A beep that still sounds
+// goes on instead. Frequency in hertz, times in seconds, volume from 0 to 1. Returns 0 when there is
 // no such file, or no sound on this page.
-int pagePlayEffect(const char* fileName);
-int pagePlayBeep();
+int pagePlayEffect(const char* fileName, double volume);
+int pagePlayBeep(double frequency, double length, double attack, double volume);
 
 // The music: one piece at a time, named by its MIDI file. pageHasPiece returns 1 when there is a
 // recording of it; pageIsMusicOver returns 1 from the piece's end until another one starts.

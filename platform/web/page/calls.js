@@ -39,11 +39,11 @@ mergeInto(LibraryManager.library, {
         Module.page.screen.show();
     },
 
-    pagePlayEffect: function(fileName) {
-        return Module.page.effects.play(UTF8ToString(fileName)) ? 1 : 0;
+    pagePlayEffect: function(fileName, volume) {
+        return Module.page.effects.play(UTF8ToString(fileName), volume) ? 1 : 0;
     },
-    pagePlayBeep: function() {
-        return Module.page.effects.beep() ? 1 : 0;
+    pagePlayBeep: function(frequency, length, attack, volume) {
+        return Module.page.effects.beep(frequency, length, attack, volume) ? 1 : 0;
     },
     pageHasPiece: function(fileName) {
         return Module.page.music.has(UTF8ToString(fileName)) ? 1 : 0;

@@ -1,14 +1,10 @@
 // Sound effects: one at a time, a new one cuts off the one before.
 
-const beepFrequency = 880; // hertz
-const beepLength = 0.15;   // seconds
-const beepAttack = 0.005;  // seconds; a shorter one clicks
-const beepVolume = 0.3;    // of the loudest possible
-
 export class Effects {
     #context = null;      // there is no sound before the player's first key or click
     #buffers = new Map(); // by file name
-    #playing = null;
+    #playing = null;      // the effect's source, or the beep's
+    #beep = null;         // the source of a beep that sounds
 
     // `readFile` returns the bytes of one of the game's files.
     constructor(fileNames, readFile) {
@@ -36,31 +32,45 @@ export class Effects {
     }
 
     // Returns false when there is no such effect, or no sound yet.
-    play(name) {
+    play(name, volume) {
         const buffer = this.#buffers.get(name);
         if (buffer === undefined) return false;
         const source = this.#context.createBufferSource();
         source.buffer = buffer;
-        source.connect(this.#context.destination);
+        const loudness = this.#connect(source);
+        loudness.value = volume;
         this.#replace(source);
         return true;
     }
 
-    beep() {
+    // Rises for `attack` seconds and fades out, so that neither end clicks. A beep that sounds goes
+    // on. Returns false when there is no sound yet.
+    beep(frequency, length, attack, volume) {
         const context = this.#context;
         if (context === null) return false;
+        if (this.#beep !== null && this.#beep === this.#playing) return true;
         const now = context.currentTime;
-        const gain = context.createGain();
-        gain.gain.setValueAtTime(0, now);
-        gain.gain.linearRampToValueAtTime(beepVolume, now + beepAttack);
-        gain.gain.linearRampToValueAtTime(0, now + beepLength);
-        gain.connect(context.destination);
         const source = context.createOscillator();
-        source.frequency.value = beepFrequency;
-        source.connect(gain);
+        source.frequency.value = frequency;
+        const loudness = this.#connect(source);
+        loudness.setValueAtTime(0, now);
+        loudness.linearRampToValueAtTime(volume, now + attack);
+        loudness.linearRampToValueAtTime(0, now + length);
         this.#replace(source);
-        source.stop(now + beepLength);
+        source.stop(now + length);
+        this.#beep = source;
+        source.onended = () => {
+            if (this.#beep === source) this.#beep = null;
+        };
         return true;
+    }
+
+    // Returns the volume of the source, which can change with time.
+    #connect(source) {
+        const gain = this.#context.createGain();
+        source.connect(gain);
+        gain.connect(this.#context.destination);
+        return gain.gain;
     }
 
     #replace(source) {
