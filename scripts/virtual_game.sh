@@ -13,7 +13,8 @@
 #   stopGame                        ends game and display; call it from a trap as well
 #
 # The game's output is in $gameFolder/log. The display has the size $displaySize and $displayDepth bits
-# a pixel if these are set.
+# a pixel if these are set. A program for Windows finds the best times $ownTimes if these are set, and
+# the rivals if $withRivals is.
 
 gameDisplay=''
 gameFolder=''
@@ -102,6 +103,8 @@ startInWine() {
     displayDepth=16
     "$wine" --stop # the desktop of an earlier program may have no display
     cp -r "$(dirname "$1")/." "$gameFolder"
+    [ -n "${withRivals:-}" ] || rm -f "$gameFolder/rivals.dat"
+    [ -z "${ownTimes:-}" ] || echo -n "$ownTimes" > "$gameFolder/highScore.dat"
     startDisplay
     (
         cd / || exit 1
