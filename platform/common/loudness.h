@@ -1,6 +1,6 @@
-// The loudness of music, effects and beep, and the sound of the beep, alike on every machine that the
-// game's own providers play on. Effects are heard above the music. The loudest moment of the pieces
-// and that of the effects do not clip together.
+// The loudness of music, effects and beep, and the sound of the beep: the same on the desktop and
+// in a browser. Effects are heard above the music. The loudest moment of the pieces and that of the
+// effects do not clip together.
 //
 // The build of the page reads musicGain from this file.
 #pragma once

@@ -1,5 +1,5 @@
-// The player's keys, the focus, and the wait for the next frame. The page calls the functions at the
-// end of this file when something happens, always while the game waits in pageWaitForFrame.
+// The player's keys, the focus, and the wait for the next frame. The page calls the functions at
+// the end of this file when something happens, always while the game waits in pageWaitForFrame.
 
 #include <bitset>
 
@@ -36,8 +36,9 @@ void tellFocus(bool focused) {
     postInput(&gameWindow, focused ? WM_SETFOCUS : WM_KILLFOCUS);
 }
 
-// A browser may have stopped the page for any time before it gives the focus back. The game measures
-// that time in the next tick, which must be one of the pause: it hears of the focus one frame later.
+// A browser may have stopped the page for any time before it gives the focus back. The game
+// measures that time in the next tick, which must be one of the pause: it hears of the focus one
+// frame later.
 void updateFocus() {
     if (currentWindow() == nullptr || !gameWindow.shown) { return; }
     if (!input.pageFocused || !input.focusIsNew) { tellFocus(input.pageFocused); }

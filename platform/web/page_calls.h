@@ -30,8 +30,8 @@ void pageDeleteTexture(std::uint32_t texture);
 void pageShowPicture();
 
 // Plays a WAVE file of the game, or a beep, in place of the effect before. A beep that still sounds
-// goes on instead. Frequency in hertz, times in seconds, volume from 0 to 1. Returns 0 when there is
-// no such file, or no sound on this page.
+// goes on instead. Frequency in hertz, times in seconds, volume from 0 to 1. Returns 0 when there
+// is no such file, or no sound on this page.
 int pagePlayEffect(const char* fileName, double volume);
 int pagePlayBeep(double frequency, double length, double attack, double volume);
 

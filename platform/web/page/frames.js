@@ -2,8 +2,8 @@
 
 const hiddenFrame = 100; // milliseconds
 
-// Resolves at the next frame. While the page is hidden there are none: it then resolves after a tenth
-// of a second, so that the game hears that it has lost the focus, and rests.
+// Resolves at the next frame. While the page is hidden there are none: it then resolves after a
+// tenth of a second, so that the game hears that it has lost the focus, and rests.
 export function waitForFrame() {
     return new Promise((resolve) => {
         if (document.hidden) {

@@ -5,8 +5,8 @@ const enter = 13;
 // Keys that stay the browser's own: Tab, and F11 for its full screen.
 const browserKeys = new Set([9, 122]);
 
-// Reports keys to `program`: keyDown(key, repeated) and keyUp(key). `onFirst` is called at the first
-// key or click, before anything else: browsers allow sound from then on.
+// Reports keys to `program`: keyDown(key, repeated) and keyUp(key). `onFirst` is called at the
+// first key or click, before anything else: browsers allow sound from then on.
 export class Keys {
     #held = new Map(); // by place on the keyboard: the key
 

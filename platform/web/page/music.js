@@ -1,5 +1,5 @@
-// The music: recordings of the game's MIDI files, one at a time. The browser plays them from memory,
-// on a thread of its own.
+// The music: recordings of the game's MIDI files, one at a time. The browser plays them from
+// memory, on a thread of its own.
 
 export class Music {
     #audio = null;           // the piece that plays; null: none

@@ -98,7 +98,8 @@ export class Screen {
         this.#count();
     }
 
-    // Returns the surface's pixels, red, green, blue and opacity of each, from the lower left corner.
+    // Returns the surface's pixels, red, green, blue and opacity of each, from the lower left
+    // corner.
     pixels() {
         const {gl} = this;
         const bytes = new Uint8Array(4 * surfaceWidth * surfaceHeight);

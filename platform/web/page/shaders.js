@@ -1,6 +1,7 @@
 // The two programs for the graphics processor.
 
-// Draws on the game's surface as OpenGL 1.1 does: texture, fog, and the fading sides of smooth lines.
+// Draws on the game's surface as OpenGL 1.1 does: texture, fog, and the fading sides of smooth
+// lines.
 export const gameVertexShader = `#version 300 es
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec2 textureCoordinates;

@@ -1,5 +1,5 @@
-// The surface that the game draws on: 640 x 480 pixels of 5, 6 and 5 bits, with a depth buffer of 16
-// bits, as on the desktop.
+// The surface that the game draws on: 640 x 480 pixels of 5, 6 and 5 bits, with a depth buffer of
+// 16 bits, as on the desktop.
 
 export const surfaceWidth = 640;
 export const surfaceHeight = 480;
