@@ -13,8 +13,8 @@
 #   stopGame                        ends game and display; call it from a trap as well
 #
 # The game's output is in $gameFolder/log. The display has the size $displaySize and $displayDepth bits
-# a pixel if these are set. A program for Windows finds the best times $ownTimes if these are set, and
-# the rivals if $withRivals is.
+# a pixel if these are set, and it finds the best times $ownTimes. A program for Windows finds the
+# rivals if $withRivals is set.
 
 gameDisplay=''
 gameFolder=''
@@ -81,6 +81,7 @@ startGame() {
     binary=$(realpath "$1")
     data=$(realpath "$2")
     gameFolder=$(mktemp -d)
+    [ -z "${ownTimes:-}" ] || echo -n "$ownTimes" > "$gameFolder/highScore.dat"
     if [[ $binary == *.exe ]]; then
         startInWine "$binary"
         return
@@ -104,7 +105,6 @@ startInWine() {
     "$wine" --stop # the desktop of an earlier program may have no display
     cp -r "$(dirname "$1")/." "$gameFolder"
     [ -n "${withRivals:-}" ] || rm -f "$gameFolder/rivals.dat"
-    [ -z "${ownTimes:-}" ] || echo -n "$ownTimes" > "$gameFolder/highScore.dat"
     startDisplay
     (
         cd / || exit 1
