@@ -14,8 +14,13 @@ struct Messages : OnSdl {
         SetTimer(window, 2, never, nullptr);
     }
 
+    // Returns the time afterwards.
+    static DWORD passTime(Uint64 milliseconds) {
+        return static_cast<DWORD>(stoppedClock.emplace(stoppedClock.value_or(0) + milliseconds));
+    }
+
     static Numbers timersAfter(Uint64 milliseconds) {
-        *stoppedClock += milliseconds;
+        passTime(milliseconds);
         Numbers timers;
         for (const MSG& message : messagesNow()) {
             EXPECT_EQ(message.message, WM_TIMER);
@@ -28,7 +33,7 @@ struct Messages : OnSdl {
 TEST_F(Messages, ComeOutPostedFirstThenQuitInputPaintAndTimers) {
     using Told = std::tuple<UINT, HWND, WPARAM, LPARAM, DWORD>;
     SetTimer(window, 1, 10, nullptr);
-    const auto later = static_cast<DWORD>(*stoppedClock += 35); // due three times, sent once
+    const auto later = passTime(35); // due three times, sent once
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
     pushKey(SDL_SCANCODE_J);
     PostQuitMessage(7);
@@ -82,7 +87,7 @@ TEST_F(Messages, AreFilteredByWindowAndRange) {
     EXPECT_EQ(peek(nullptr, WM_USER + 1, WM_USER + 1), WM_USER + 1);
     EXPECT_EQ(peek(nullptr, WM_USER + 4, WM_USER + 9), 0U);
     SetTimer(window, 1, 10, nullptr);
-    *stoppedClock += 10;
+    passTime(10);
     EXPECT_EQ(peek(window, WM_KEYDOWN, WM_KEYDOWN), 0U);
     EXPECT_EQ(peek(window, WM_TIMER, WM_TIMER), WM_TIMER);
     EXPECT_FALSE(PeekMessageA(nullptr, nullptr, 0, 0, PM_REMOVE));
