@@ -2,6 +2,7 @@
 
 #include "platform/common/message_queue.h"
 #include "platform/common/provider.h"
+#include "platform/common/sequencer.h"
 #include "platform/common/timers.h"
 #include "platform/windows_api.h"
 

@@ -13,9 +13,6 @@ std::uint64_t uptime();
 // when no posted message waits.
 void pollInput();
 
-// Posts MM_MCINOTIFY when the piece has ended. PeekMessageA calls it every time.
-void updateSequencer();
-
 // Returns the game's window, null while there is none.
 HWND currentWindow();
 

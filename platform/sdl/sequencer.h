@@ -1,4 +1,4 @@
-// The MIDI sequencer: mciSendCommandA in sequencer.cpp opens, plays and closes one piece at a time.
+// Music on FluidSynth, for platform/common/sequencer.h.
 #pragma once
 
 // Closes the piece without a message, and ends the music thread.

@@ -1,13 +1,11 @@
 #include "platform/sdl/surface.h"
 
-#include <algorithm>
-#include <cstring>
 #include <string>
 
 #include <SDL.h>
 
 #include "platform/common/errors.h"
-#include "platform/display_mode.h"
+#include "platform/common/pixel_format.h"
 #include "platform/sdl/frame_pace.h"
 #include "platform/sdl/framebuffer.h"
 #include "platform/sdl/still_picture.h"
@@ -23,28 +21,7 @@ struct GlContextHandle {
 
 namespace {
 
-constexpr int onlyFormat = 1;
-
 GlContextHandle surface;
-
-constexpr PIXELFORMATDESCRIPTOR describeFormat() {
-    constexpr DWORD drawToWindow = 0x04;
-    PIXELFORMATDESCRIPTOR format = {};
-    format.nSize = sizeof format;
-    format.nVersion = 1;
-    format.dwFlags = PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER | drawToWindow;
-    format.iPixelType = PFD_TYPE_RGBA;
-    format.cColorBits = screenColourBits;
-    format.cRedBits = 5;
-    format.cRedShift = 11;
-    format.cGreenBits = 6;
-    format.cGreenShift = 5;
-    format.cBlueBits = 5;
-    format.cBlueShift = 0;
-    format.cDepthBits = screenDepthBits;
-    format.iLayerType = PFD_MAIN_PLANE;
-    return format;
-}
 
 HWND windowOf(HDC deviceContext) {
     const HWND window = currentWindow();
@@ -127,21 +104,18 @@ int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wan
         setLastError("There is no window to choose a pixel format for.");
         return 0;
     }
-    return prepareSurface(*window) ? onlyFormat : 0;
+    return prepareSurface(*window) ? onlyPixelFormat : 0;
 }
 
 int WINAPI DescribePixelFormat(HDC deviceContext, int format, UINT size,
                                PIXELFORMATDESCRIPTOR* description) {
-    static constexpr PIXELFORMATDESCRIPTOR known = describeFormat();
-    if (windowOf(deviceContext) == nullptr || format != onlyFormat) { return 0; }
-    if (description != nullptr) {
-        std::memcpy(description, &known, std::min<std::size_t>(size, sizeof known));
-    }
-    return onlyFormat; // the result is the highest number of a format
+    if (windowOf(deviceContext) == nullptr || format != onlyPixelFormat) { return 0; }
+    copyPixelFormat(size, description);
+    return onlyPixelFormat;
 }
 
 BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCRIPTOR*) {
-    if (windowOf(deviceContext) != nullptr && format == onlyFormat && surface.sdl != nullptr) {
+    if (windowOf(deviceContext) != nullptr && format == onlyPixelFormat && surface.sdl != nullptr) {
         return TRUE;
     }
     setLastError("The window has no such pixel format.");

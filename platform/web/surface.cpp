@@ -1,12 +1,9 @@
 // Device contexts, pixel formats, the OpenGL context and SwapBuffers. The page starts the program
 // only after it has WebGL 2, so nothing here fails for the lack of it.
 
-#include <algorithm>
-#include <cstring>
-
 #include "platform/common/errors.h"
+#include "platform/common/pixel_format.h"
 #include "platform/common/provider.h"
-#include "platform/display_mode.h"
 #include "platform/web/frame.h"
 #include "platform/web/gl_batch.h"
 #include "platform/web/page_calls.h"
@@ -20,22 +17,7 @@ struct GlContextHandle {
 
 namespace {
 
-constexpr int onlyFormat = 1;
-
 GlContextHandle context;
-
-constexpr PIXELFORMATDESCRIPTOR describeFormat() {
-    constexpr DWORD drawToWindow = 0x04;
-    PIXELFORMATDESCRIPTOR format = {};
-    format.nSize = sizeof format;
-    format.nVersion = 1;
-    format.dwFlags = PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER | drawToWindow;
-    format.iPixelType = PFD_TYPE_RGBA;
-    format.cColorBits = screenColourBits;
-    format.cDepthBits = screenDepthBits;
-    format.iLayerType = PFD_MAIN_PLANE;
-    return format;
-}
 
 bool isSurface(HDC deviceContext) {
     return currentWindow() != nullptr && deviceContext == &gameWindow.deviceContext;
@@ -52,23 +34,20 @@ int WINAPI ReleaseDC(HWND window, HDC deviceContext) {
 }
 
 int WINAPI ChoosePixelFormat(HDC deviceContext, const PIXELFORMATDESCRIPTOR* wanted) {
-    if (isSurface(deviceContext) && wanted != nullptr) { return onlyFormat; }
+    if (isSurface(deviceContext) && wanted != nullptr) { return onlyPixelFormat; }
     setLastError("There is no window to choose a pixel format for.");
     return 0;
 }
 
 int WINAPI DescribePixelFormat(HDC deviceContext, int format, UINT size,
                                PIXELFORMATDESCRIPTOR* description) {
-    static constexpr PIXELFORMATDESCRIPTOR known = describeFormat();
-    if (!isSurface(deviceContext) || format != onlyFormat) { return 0; }
-    if (description != nullptr) {
-        std::memcpy(description, &known, std::min<std::size_t>(size, sizeof known));
-    }
-    return onlyFormat; // the result is the highest number of a format
+    if (!isSurface(deviceContext) || format != onlyPixelFormat) { return 0; }
+    copyPixelFormat(size, description);
+    return onlyPixelFormat;
 }
 
 BOOL WINAPI SetPixelFormat(HDC deviceContext, int format, const PIXELFORMATDESCRIPTOR*) {
-    if (isSurface(deviceContext) && format == onlyFormat) { return TRUE; }
+    if (isSurface(deviceContext) && format == onlyPixelFormat) { return TRUE; }
     setLastError("The window has no such pixel format.");
     return FALSE;
 }
