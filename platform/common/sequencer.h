@@ -11,8 +11,8 @@ inline constexpr MCIERROR pieceNotFound = 275;
 inline constexpr MCIERROR musicNotReady = 276;
 inline constexpr MCIERROR badPiece = 296;
 
-// Provided. Reads a piece for startPiece, while the present one plays on. Returns 0 or an error code;
-// the piece that was read before then stays.
+// Provided. Reads a piece for startPiece; one that plays goes on. Returns 0 or an error code, and
+// then leaves the piece that was read before.
 MCIERROR loadPiece(const std::string& fileName);
 
 // Provided. Plays the piece that was read last from its start. Returns 0 or an error code.
