@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "platform/sdl/desktop.h"
+#include "platform/sdl/event_wait.h"
 
 namespace {
 
@@ -38,9 +39,9 @@ void waitForNextFrame(SDL_Window* window) {
 }
 
 void waitWhileStill() {
-    SDL_WaitEventTimeout(nullptr, stillFrame);
+    waitForEvent(stillFrame);
 }
 
 void waitWhileHidden() {
-    SDL_WaitEventTimeout(nullptr, hiddenFrame);
+    waitForEvent(hiddenFrame);
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/sdl/desktop.h"
+#include "platform/sdl/event_wait.h"
 #include "platform/sdl/gamepad.h"
 #include "platform/sdl/input.h"
 #include "platform/sdl/video.h"
@@ -121,7 +122,8 @@ void MessageBox::wait() {
     const bool answerable = isDisplayVisible();
     for (;;) {
         SDL_Event event;
-        const bool received = SDL_WaitEventTimeout(&event, answerable ? pollInterval : 1) != 0;
+        const bool received =
+            waitForEvent(answerable ? pollInterval : 1) && SDL_PollEvent(&event) != 0;
         if (received ? handle(event) : !answerable) { return; }
     }
 }
