@@ -1,6 +1,7 @@
 #include "app/bitmap_file.h"
 
 #include "data/bitmap.h"
+#include "data/file_error.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -16,9 +17,12 @@ bool readHeaders(HANDLE file, BitmapInfo& info) {
     return true;
 }
 
-bool readPixels(HANDLE file, std::int64_t bytes, std::uint8_t* pixels) {
+// Takes what there is of a picture whose file ends early.
+bool readPixels(HANDLE file, const char* fileName, std::int64_t bytes, std::uint8_t* pixels) {
     DWORD got = 0;
-    return ReadFile(file, pixels, static_cast<DWORD>(bytes), &got, nullptr) != FALSE;
+    if (!ReadFile(file, pixels, static_cast<DWORD>(bytes), &got, nullptr)) { return false; }
+    if (got < bytes) { logFileError(fileName, "the end of this bitmap is missing"); }
+    return true;
 }
 
 // Reads the picture if accepts(info) returns that it fits the buffer.
@@ -29,7 +33,7 @@ bool readIfAccepted(const char* fileName, std::uint8_t* pixels, Accepts accepts)
     if (file == INVALID_HANDLE_VALUE) { return false; }
     BitmapInfo info = {};
     const bool read = readHeaders(file, info) && pixelBytes(info) >= 0 && accepts(info) &&
-                      readPixels(file, pixelBytes(info), pixels);
+                      readPixels(file, fileName, pixelBytes(info), pixels);
     const bool closed = CloseHandle(file) != FALSE;
     if (!read || !closed) { return false; }
     swapRedAndBlue(pixels, pixelBytes(info));

@@ -1,6 +1,7 @@
 #include "app/display.h"
 
 #include "app/resources.h"
+#include "data/file_error.h"
 #include "data/font.h"
 #include "data/level_list.h"
 #include "platform/windows_api.h"
@@ -118,7 +119,10 @@ bool initGraphicsAndData(HWND window) {
     if (!setupPixelFormat(Game.deviceContext)) { PostQuitMessage(0); }
     Game.glContext = wglCreateContext(Game.deviceContext);
     wglMakeCurrent(Game.deviceContext, Game.glContext);
-    if (!loadLevelList()) { return refuseWithError(window, "could not initialize map data"); }
+    if (!loadLevelList()) {
+        logFileError(levelListFile, "this is not a list of levels, or it cannot be read");
+        return refuseWithError(window, "could not initialize map data");
+    }
     if (!loadBestTimes()) {
         return refuseWithError(window, "could not initialize high score data");
     }

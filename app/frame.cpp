@@ -4,6 +4,7 @@
 #include "app/bitmap_file.h"
 #include "app/name_entry.h"
 #include "data/asset_files.h"
+#include "data/file_error.h"
 #include "platform/windows_api.h"
 #include "render/best_times_screen.h"
 #include "render/frame_state.h"
@@ -35,6 +36,8 @@ void readPicture(const ScreenPicture& picture) {
     if (readBitmapOfSize(picture.fileName, screenWidth, screenHeight, picture.pixels)) {
         picture.pending = 0;
     } else {
+        logFileError(picture.fileName, "this is not a bitmap of the screen's size with 24 bits a "
+                                       "pixel, or it cannot be read");
         MessageBoxA(Game.window, picture.failure, errorCaption, MB_OK);
     }
 }

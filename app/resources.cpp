@@ -4,6 +4,7 @@
 
 #include "app/bitmap_file.h"
 #include "data/best_times.h"
+#include "data/file_error.h"
 #include "data/font.h"
 #include "data/level_file.h"
 #include "data/mip_chain.h"
@@ -28,9 +29,11 @@ bool loadGroundTexture(Level& into, const char* baseName, std::string& picture) 
     return true;
 }
 
-// Reports the causes that have a message. Returns false; startNextLevel then reports the level.
+// Shows a message for the causes that have one. Returns false; startNextLevel then shows one for
+// all causes.
 bool refuseLevel(const std::string& fileName, const LevelFault& fault) {
     using Cause = LevelFault::Cause;
+    logFileError(fileName, fault.place, "this level is refused; glorbix-level check says why");
     switch (fault.cause) {
     case Cause::FileUnreadable: return refuse(fileName + "file not found");
     case Cause::UnknownToken: return refuse(fileName + " contains a unknown token" + fault.token);
@@ -56,7 +59,10 @@ bool Font::load(const char* baseName, const char* metricsName) {
         return refuse(picture);
     }
     uploadFontTexture(*this);
-    if (!readMetrics(metricsName)) { return false; }
+    if (!readMetrics(metricsName)) {
+        logFileError(metricsName, "these are not the metrics of a font, or they cannot be read");
+        return false;
+    }
     loaded = true;
     return true;
 }

@@ -1,11 +1,11 @@
 #include "data/best_times.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <sstream>
 #include <string>
 
+#include "data/file_error.h"
 #include "data/safe_file.h"
 #include "state/game.h"
 
@@ -71,8 +71,7 @@ void setDefaultBestTimes() {
 bool saveBestTimes() {
     std::string why;
     if (replaceFile(bestTimesFile, textOfTable(), why)) { return true; }
-    std::fprintf(stderr, "glorbix: the best times are not saved: %s: %s\n", bestTimesFile,
-                 why.c_str());
+    logFileError(bestTimesFile, "the best times are not saved: " + why);
     return false;
 }
 

@@ -13,8 +13,8 @@
 #   stopGame                        ends game and display; call it from a trap as well
 #
 # The game's output is in $gameFolder/log. The display has the size $displaySize and $displayDepth bits
-# a pixel if these are set, and it finds the best times $ownTimes. A program for Windows finds the
-# rivals if $withRivals is set.
+# a pixel if these are set, and it finds the best times $ownTimes. The command $prepareFolder runs in
+# the game's folder before it starts. A program for Windows finds the rivals if $withRivals is set.
 
 gameDisplay=''
 gameFolder=''
@@ -82,6 +82,7 @@ startGame() {
     data=$(realpath "$2")
     gameFolder=$(mktemp -d)
     [ -z "${ownTimes:-}" ] || echo -n "$ownTimes" > "$gameFolder/highScore.dat"
+    [ -z "${prepareFolder:-}" ] || (cd "$gameFolder" && "$prepareFolder")
     if [[ $binary == *.exe ]]; then
         startInWine "$binary"
         return

@@ -71,7 +71,7 @@ struct TenBest : Story {
         testing::internal::CaptureStderr();
         EXPECT_FALSE(saveBestTimes());
         const std::string line = testing::internal::GetCapturedStderr();
-        const std::string start = "glorbix: the best times are not saved: highScore.dat: ";
+        const std::string start = "glorbix: highScore.dat: the best times are not saved: ";
         EXPECT_TRUE(line.starts_with(start)) << line;
         return line.substr(std::min(line.size(), start.size()));
     }

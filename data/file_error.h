@@ -1,0 +1,13 @@
+// Lines on standard error that name a file of the game and what is wrong with it. The game's own
+// messages do not always name the file.
+#pragma once
+
+#include <string>
+
+#include "data/tokens.h"
+
+// Writes "glorbix: FILE: WHY" as one line.
+void logFileError(const std::string& fileName, const std::string& why);
+
+// Writes "glorbix: FILE:LINE:COLUMN: WHY" as one line.
+void logFileError(const std::string& fileName, const TextPlace& place, const std::string& why);
