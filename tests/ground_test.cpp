@@ -62,6 +62,11 @@ TEST_F(Ground, CatchesInHolesButNotOnMounds) {
     }
 }
 
+TEST_F(Ground, KeepsASmallHoleBesideEnormousOnes) {
+    make({{0, 0, 64, 1e8F}, {0, 0, 64, 0.5F}, {0, 0, 64, -1e8F}});
+    EXPECT_EQ(level.heightAt(0, 0), 0.5F);
+}
+
 TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
     const View views[] = {
         {"settled", {0, -400, -350}, -0.8519663F, 0, false, 5274, 39156282177},
