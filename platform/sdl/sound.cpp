@@ -41,6 +41,8 @@ struct Sound {
 Sound sound;
 
 bool openDevice() {
+    // Otherwise SDL plays what is left of a file that is cut off, and reports nothing.
+    SDL_SetHint(SDL_HINT_WAVE_TRUNCATION, "strict");
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0 ||
         Mix_OpenAudioDevice(sampleRate, AUDIO_S16SYS, channelCount, framesPerBuffer, nullptr, 0) !=
             0) {
