@@ -13,13 +13,16 @@
 #   stopGame                        ends game and display; call it from a trap as well
 #
 # The game's output is in $gameFolder/log. The display has the size $displaySize and $displayDepth bits
-# a pixel if these are set, and it finds the best times $ownTimes. The command $prepareFolder runs in
-# the game's folder before it starts. A program for Windows finds the rivals if $withRivals is set.
+# a pixel if these are set, and it finds the best times $ownTimes. A program for Windows finds the
+# rivals if $withRivals is set. For the others, the command $prepareFolder runs in the game's folder
+# before the game starts, and the array $startBy is a command that starts the game. Their player's own
+# folder is $gameFolder/own.
 
 gameDisplay=''
 gameFolder=''
 displayProcess=''
 gameProcess=''
+startBy=()
 wine='' # the command that runs programs for Windows, if this is one
 
 # Without -noreset the server would reset itself whenever its last client leaves, such as a search
@@ -82,17 +85,19 @@ startGame() {
     data=$(realpath "$2")
     gameFolder=$(mktemp -d)
     [ -z "${ownTimes:-}" ] || echo -n "$ownTimes" > "$gameFolder/highScore.dat"
-    [ -z "${prepareFolder:-}" ] || (cd "$gameFolder" && "$prepareFolder")
     if [[ $binary == *.exe ]]; then
         startInWine "$binary"
         return
     fi
     ln -s "$data/maps" "$data/graphics" "$data/sounds" "$gameFolder/"
     startDisplay
+    : > "$gameFolder/log"
+    [ -z "${prepareFolder:-}" ] || (cd "$gameFolder" && "$prepareFolder")
     (
         cd "$gameFolder" || exit 1
         unset WAYLAND_DISPLAY SDL_VIDEODRIVER
-        exec env DISPLAY="$gameDisplay" SDL_AUDIODRIVER="${SDL_AUDIODRIVER:-dummy}" "$binary"
+        exec env DISPLAY="$gameDisplay" SDL_AUDIODRIVER="${SDL_AUDIODRIVER:-dummy}" \
+            XDG_DATA_HOME="$gameFolder/own" "${startBy[@]}" "$binary"
     ) > "$gameFolder/log" 2>&1 &
     gameProcess=$!
 }
@@ -157,6 +162,7 @@ stopGame() {
     [ -z "$wine" ] || "$wine" --stop
     [ -z "$displayProcess" ] || kill "$displayProcess" 2> /dev/null || true
     [ -z "$displayProcess" ] || wait "$displayProcess" 2> /dev/null || true
+    [ -z "$gameFolder" ] || chmod -R u+w "$gameFolder"
     [ -z "$gameFolder" ] || rm -rf "$gameFolder"
     gameProcess='' displayProcess='' gameFolder='' wine=''
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The real game on a machine that fails: odd things in place of the best times, kills while they are
-# saved, a process that was stopped, a display server that dies. Best times must stay whole, and the
-# game must neither crash nor hang.
+# saved, a full disk, a read-only folder, a process that was stopped, a display server that dies. Best
+# times must stay whole, and the game must neither crash nor hang.
 #   machine_faults_test.sh BINARY DATA_FOLDER
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
@@ -9,7 +9,8 @@ root=$(cd "$(dirname "$0")/../.." && pwd)
 . "$root/scripts/virtual_game.sh"
 binary=$1
 game=$(realpath "$2")
-trap stopGame EXIT
+disk=$(mktemp -d)
+trap 'endStory; rm -rf "$disk"' EXIT
 displaySize=640x480
 rivals=$(cat "$game/rivals.dat")
 
@@ -35,64 +36,156 @@ endByQuit() {
     waitForEnd 10 || fail "the game does not end by Quit"
 }
 
+endStory() {
+    stopGame
+    ! mountpoint -q "$disk" || umount --lazy "$disk"
+    startBy=()
+}
+
+says() { grep -qF "$1" "$gameFolder/log"; }
+
+hasRivals() { # FILE
+    [ "$(tr -s ' \n' ' ' < "$1")" = "$(tr -s ' \n' ' ' <<< "$rivals")" ]
+}
+
 makeTable() { echo -n "$rivals" > highScore.dat; }
 makeFolder() { mkdir highScore.dat; }
 makePipe() { mkfifo highScore.dat; }
-makeLink() { echo -n "$rivals" > table && ln -s table highScore.dat; }
+makeLink() { echo -n "$rivals" > "${1:-.}/table" && ln -s "${1:-.}/table" highScore.dat; }
 makeHuge() { truncate -s 2G highScore.dat; }
+makeLinkToDisk() { makeLink "$disk"; }
 
 odd() { # WHAT COMMAND
     startWith "$2"
     answerBox Notice
     endByQuit
-    stopGame
+    endStory
     echo "best times that are $1: the game plays without them"
+}
+
+savedBehindLink() {
+    startWith makeLink
+    waitForWindow Glorbix
+    endByQuit
+    [ -L "$gameFolder/highScore.dat" ] || fail "the link to the best times is gone"
+    hasRivals "$gameFolder/table" || fail "the best times behind the link have changed"
+    endStory
+    echo "best times behind a link: saved there"
+}
+
+killedWhileSaving() {
+    local i
+    for i in 1 2 3 4 5 6 7 8; do
+        startWith makeTable
+        waitForWindow Glorbix
+        press Escape Up
+        DISPLAY=$gameDisplay xdotool key Return
+        sleep "0.0$((i * 7 % 10))"
+        kill -KILL "$gameProcess" 2> /dev/null || true
+        wait "$gameProcess" 2> /dev/null || true
+        hasRivals "$gameFolder/highScore.dat" || fail "a kill broke the best times"
+        endStory
+    done
+    echo "killed while it saves: the best times are whole"
+}
+
+# One of the disk's two pages holds the table, the other one is full. Who may not mount a disk limits
+# the size of files instead; the log then passes through a pipe.
+fillDisk() {
+    if mount -t tmpfs -o size=8k tmpfs "$disk" 2> /dev/null; then
+        head -c 4096 /dev/zero > "$disk/full"
+        how="a full file system"
+    else
+        startBy=(bash -c 'exec > >(cat > log) 2>&1; trap "" XFSZ; ulimit -f 0; exec "$@"' -)
+        how="a limit on files"
+    fi
+}
+
+fullDisk() {
+    local how
+    fillDisk
+    startWith makeLinkToDisk
+    waitForWindow Glorbix
+    endByQuit
+    says "highScore.dat: the best times are not saved" || fail "the game does not say so"
+    hasRivals "$disk/table" || fail "the best times are lost"
+    endStory
+    echo "$how: the game says so, and the best times stay"
+}
+
+# Root may write everywhere unless it gives that up.
+obeyRights() {
+    [ "$(id -u)" -ne 0 ] || startBy=(setpriv --bounding-set=-dac_override)
+}
+
+leaveOwnFolder() { mkdir own && chmod a-w .; }
+leaveNoFolder() { makeTable && chmod a-w . highScore.dat; }
+
+readOnlyFolder() {
+    obeyRights
+    startWith leaveOwnFolder
+    answerBox Notice
+    endByQuit
+    [ -s "$gameFolder/own/glorbix/highScore.dat" ] || fail "the player's own folder has no best times"
+    endStory
+
+    obeyRights
+    startWith leaveNoFolder
+    waitForWindow Glorbix
+    says "best times may be lost" || fail "the game does not warn"
+    endByQuit
+    says "highScore.dat: the best times are not saved" || fail "the game does not say so"
+    hasRivals "$gameFolder/highScore.dat" || fail "the best times are lost"
+    endStory
+    echo "a read-only folder: the player's own is used, or the game says that nothing is saved"
+}
+
+takeSound() {
+    makeTable
+    rm sounds
+    mkdir sounds
+    ln -s "$game"/sounds/* sounds/
+    rm sounds/go.wav
+}
+
+# Seven seconds after its start a course plays go.wav, which is missing here.
+stoppedProcess() {
+    startWith takeSound
+    waitForWindow Glorbix
+    press Escape Return
+    sleep 2
+    kill -STOP "$gameProcess"
+    sleep 10
+    kill -CONT "$gameProcess"
+    sleep 2
+    ! says go.wav || fail "the clock ran while the game was stopped"
+    sleep 6
+    says go.wav || fail "the clock stands still after the game was stopped"
+    endByTerm
+    endStory
+    echo "stopped for ten seconds: the game goes on where it was"
+}
+
+lostDisplay() {
+    local code=0
+    startWith makeTable
+    waitForWindow Glorbix
+    kill -KILL "$displayProcess"
+    wait "$displayProcess" 2> /dev/null || true
+    waitForEnd 10 || code=$?
+    ! kill -0 "$gameProcess" 2> /dev/null || fail "the game hangs without its display"
+    [ "$code" -eq 1 ] || fail "without its display the game ends with $code"
+    hasRivals "$gameFolder/highScore.dat" || fail "the best times are lost"
+    endStory
+    echo "the display server died: the game ends"
 }
 
 odd "a folder" makeFolder
 odd "a pipe" makePipe
 odd "2 GB of zeros" makeHuge
-
-startWith makeLink
-waitForWindow Glorbix
-endByQuit
-[ -L "$gameFolder/highScore.dat" ] || fail "the link to the best times is gone"
-[ "$(tr -s ' \n' ' ' < "$gameFolder/table")" = "$(tr -s ' \n' ' ' <<< "$rivals")" ] ||
-    fail "the best times behind the link have changed"
-stopGame
-echo "best times behind a link: saved there"
-
-for i in 1 2 3 4 5 6 7 8; do
-    startWith makeTable
-    waitForWindow Glorbix
-    press Escape Up
-    DISPLAY=$gameDisplay xdotool key Return
-    sleep "0.0$((i * 7 % 10))"
-    kill -KILL "$gameProcess" 2> /dev/null || true
-    wait "$gameProcess" 2> /dev/null || true
-    [ "$(wc -w < "$gameFolder/highScore.dat")" -eq 20 ] || fail "a kill broke the best times"
-    stopGame
-done
-echo "killed while it saves: the best times are whole"
-
-startWith makeTable
-waitForWindow Glorbix
-press Escape Return
-sleep 1
-kill -STOP "$gameProcess"
-sleep 3
-kill -CONT "$gameProcess"
-sleep 1
-endByTerm
-stopGame
-echo "stopped for a while: the game goes on"
-
-startWith makeTable
-waitForWindow Glorbix
-kill "$displayProcess"
-code=0
-waitForEnd 10 || code=$?
-[ "$code" -lt 124 ] || fail "without its display the game ends with $code"
-! kill -0 "$gameProcess" 2> /dev/null || fail "the game hangs without its display"
-stopGame
-echo "the display server ended: so does the game"
+savedBehindLink
+killedWhileSaving
+fullDisk
+readOnlyFolder
+stoppedProcess
+lostDisplay
