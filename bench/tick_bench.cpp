@@ -1,24 +1,28 @@
-// What the parts of a tick cost, by the number of holes in the level.
+// What the parts of a tick cost without OpenGL, each beside the least that it could cost.
 //
-// There is no OpenGL context, so drawGround is measured without OpenGL's own work: traversal,
-// projection and calls.
+// The arguments are the number of holes in the level, or the number of rows in view.
 #include <benchmark/benchmark.h>
 
+#include <cmath>
+#include <cstdint>
+#include <vector>
+
+#include "render/ground_walk.h"
 #include "sim/camera.h"
 #include "sim/level.h"
 #include "sim/marble.h"
 #include "sim/simulation.h"
 #include "sim/view_frame.h"
+#include "state/controls.h"
 #include "state/game.h"
 
 namespace {
 
-constexpr int fewHoles = 10;
-constexpr int manyHoles = 160;
+constexpr int manyHoles = 200;
 
 // Makes wells and mounds in two rows, away from the middle of the course.
-void makeHoles(int count) {
-    level.makeHoles(count);
+void makeHoles(std::int64_t count) {
+    level.makeHoles(static_cast<std::int32_t>(count));
     float side = -1.0F;
     float along = 0.0F;
     for (Hole& hole : level.allHoles()) {
@@ -29,8 +33,7 @@ void makeHoles(int count) {
 }
 
 // Puts the marble in the middle of the course and lets the camera settle behind it.
-void settle(benchmark::State& state) {
-    makeHoles(static_cast<int>(state.range(0)));
+void settle() {
     Game.levelDone = 0;
     Game.clock = levelTime / 2;
     Game.frameTime = 0.1F;
@@ -43,7 +46,7 @@ void settle(benchmark::State& state) {
 }
 
 void heightAt(benchmark::State& state) {
-    settle(state);
+    makeHoles(state.range(0));
     float x = 0.0F;
     for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(level.heightAt(x, 0.0F));
@@ -51,46 +54,104 @@ void heightAt(benchmark::State& state) {
     }
 }
 
-void simulateTick(benchmark::State& state) {
-    settle(state);
-    marble.setVelocity(Vector3(0.0F, 1.0F, 0.0F));
-    const Marble rolling = marble;
+// The least that a hole costs at a point.
+void rootAndDivision(benchmark::State& state) {
+    std::vector<double> squares(static_cast<std::size_t>(state.range(0)), 400.0);
+    benchmark::DoNotOptimize(squares.data());
     for ([[maybe_unused]] auto _ : state) {
-        marble = rolling; // otherwise it would reach a hole, where a tick is cheap
-        stepWorld({});
-        benchmark::DoNotOptimize(marble.position);
+        double sum = 0.0;
+        for (const double square : squares) {
+            sum += 1.0 / std::sqrt(square);
+        }
+        benchmark::DoNotOptimize(sum);
+        benchmark::ClobberMemory();
     }
 }
 
-void moveCamera(benchmark::State& state) {
-    settle(state);
-    for ([[maybe_unused]] auto _ : state) {
-        updateCamera();
-        benchmark::DoNotOptimize(viewFrame);
-    }
-}
-
-void drawGround(benchmark::State& state) {
-    settle(state);
-    level.buildMesh();
-    std::int32_t triangles = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        triangles = level.drawGround(viewFrame, false, true);
-    }
-    state.counters["triangles"] = triangles;
-}
-
-void buildLevelMesh(benchmark::State& state) {
-    settle(state);
+void buildMesh(benchmark::State& state) {
+    makeHoles(state.range(0));
     for ([[maybe_unused]] auto _ : state) {
         level.buildMesh();
     }
 }
 
-BENCHMARK(heightAt)->Arg(fewHoles)->Arg(manyHoles);
-BENCHMARK(simulateTick)->Arg(fewHoles)->Arg(manyHoles);
-BENCHMARK(moveCamera)->Arg(fewHoles)->Arg(manyHoles);
-BENCHMARK(drawGround)->Arg(fewHoles)->Arg(manyHoles);
-BENCHMARK(buildLevelMesh)->Arg(fewHoles)->Arg(manyHoles)->Unit(benchmark::kMillisecond);
+void simulateAndMoveCamera(benchmark::State& state) {
+    makeHoles(state.range(0));
+    settle();
+    marble.setVelocity(Vector3(0.0F, 1.0F, 0.0F));
+    const Marble rolling = marble;
+    for ([[maybe_unused]] auto _ : state) {
+        marble = rolling; // otherwise it would reach a hole, where a tick is cheap
+        Game.turbo = fullTurbo;
+        stepWorld({.left = true, .right = true, .up = true, .down = true, .turbo = true});
+        updateCamera();
+        benchmark::DoNotOptimize(viewFrame);
+    }
+}
+
+// Looks along the course with that many rows of ground ahead, all in view.
+void lookOver(std::int64_t rows) {
+    makeHoles(10);
+    level.buildMesh();
+    const float y = static_cast<float>((groundRows - groundCentreRow - rows) * groundSpacing - 400);
+    viewFrame.set(Vector3(0.0F, y, -350.0F), -1.2F, 0.0F, 0.0F);
+}
+
+void walkRows(benchmark::State& state) {
+    lookOver(state.range(0));
+    GroundCells cells;
+    for ([[maybe_unused]] auto _ : state) {
+        walkGround(level, viewFrame, true, cells);
+        benchmark::ClobberMemory();
+    }
+    state.counters["cells"] = cells.count;
+}
+
+// The corners of the cells that walkGround finds, each once.
+std::vector<std::uint16_t> cornersInView() {
+    GroundCells cells;
+    walkGround(level, viewFrame, true, cells);
+    std::vector<bool> seen(groundVertices);
+    std::vector<std::uint16_t> corners;
+    for (std::int32_t i = 0; i < cells.count; ++i) {
+        for (const std::size_t step :
+             {groundIndex(0, 0), groundIndex(1, 0), groundIndex(1, 1), groundIndex(0, 1)}) {
+            const std::size_t corner = cells.indices[i] + step;
+            if (!seen[corner]) { corners.push_back(static_cast<std::uint16_t>(corner)); }
+            seen[corner] = true;
+        }
+    }
+    return corners;
+}
+
+// The least that the walk costs: the projection of the same vertices.
+void projectRows(benchmark::State& state) {
+    lookOver(state.range(0));
+    const std::vector<std::uint16_t> corners = cornersInView();
+    const Vector3 eye = viewFrame.getPosition();
+    const Matrix3 rotation = viewFrame.getRotation();
+    for ([[maybe_unused]] auto _ : state) {
+        for (const std::uint16_t corner : corners) {
+            level.groundScreen[corner] = projectGround(rotation, level.groundPoints[corner] - eye);
+        }
+        benchmark::ClobberMemory();
+    }
+    state.counters["vertices"] = static_cast<double>(corners.size());
+}
+
+void overHoles(benchmark::internal::Benchmark* measured) {
+    measured->ArgName("holes")->Arg(10)->Arg(50)->Arg(100)->Arg(manyHoles);
+}
+
+void overRows(benchmark::internal::Benchmark* measured) {
+    measured->ArgName("rows")->Arg(20)->Arg(60)->Arg(120)->Arg(240)->Arg(390);
+}
+
+BENCHMARK(heightAt)->Apply(overHoles);
+BENCHMARK(rootAndDivision)->Apply(overHoles);
+BENCHMARK(buildMesh)->Apply(overHoles);
+BENCHMARK(simulateAndMoveCamera)->Apply(overHoles);
+BENCHMARK(walkRows)->Apply(overRows);
+BENCHMARK(projectRows)->Apply(overRows);
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "sim/level.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
@@ -32,6 +34,26 @@ float Level::heightAt(float x, float y) const {
         sum += static_cast<double>(w) * hole.depth / r;
     }
     return static_cast<float>(sum);
+}
+
+// The loop over the points has nothing to carry from one to the next, so compilers compute several
+// at once. Each sum still adds its terms in the order of the holes.
+void Level::heightsAlong(float x, std::span<const float> ys, std::span<float> heights) const {
+    const std::size_t count = ys.size();
+    const float xs = spacings(x);
+    std::array<float, groundRows> along = {};
+    std::array<double, groundRows> sums = {};
+    std::transform(ys.begin(), ys.end(), along.begin(), spacings);
+    for (const Hole& hole : allHoles()) {
+        const float w = spacings(hole.width);
+        const double squaredWidth = static_cast<double>(w) * w;
+        const double scaledDepth = static_cast<double>(w) * hole.depth;
+        for (std::size_t i = 0; i < count; ++i) {
+            sums[i] += scaledDepth / std::sqrt(squaredDistance(hole, xs, along[i]) + squaredWidth);
+        }
+    }
+    std::transform(sums.begin(), sums.begin() + count, heights.begin(),
+                   [](double sum) { return static_cast<float>(sum); });
 }
 
 float Level::holeAt(float x, float y) const {

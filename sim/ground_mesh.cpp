@@ -1,3 +1,4 @@
+#include <array>
 #include <cstddef>
 #include <new>
 
@@ -14,14 +15,28 @@ bool allocateVertices(std::unique_ptr<Vector3[]>& vertices) {
     return vertices != nullptr;
 }
 
-void placeVertex(Level& ground, int column, int row) {
-    const auto index = static_cast<std::size_t>((row + groundCentreRow) * groundColumns + column +
-                                                groundCentreColumn);
-    const float x = static_cast<float>(column * groundSpacing);
-    const float y = static_cast<float>(row * groundSpacing);
-    ground.groundPoints[index].set(x, y, ground.heightAt(x, y));
-    ground.groundTexCoords[index][0] = static_cast<float>(column * texturePerColumn);
-    ground.groundTexCoords[index][1] = static_cast<float>(row * texturePerRow);
+std::array<float, groundRows> rowPositions() {
+    std::array<float, groundRows> ys = {};
+    for (int r = 0; r < groundRows; ++r) {
+        ys[static_cast<std::size_t>(r)] = static_cast<float>((r - groundCentreRow) * groundSpacing);
+    }
+    return ys;
+}
+
+void placeColumn(Level& ground, int column, const std::array<float, groundRows>& ys) {
+    const int fromCentre = column - groundCentreColumn;
+    const float x = static_cast<float>(fromCentre * groundSpacing);
+    const float s = static_cast<float>(fromCentre * texturePerColumn);
+    std::array<float, groundRows> heights = {};
+    ground.heightsAlong(x, ys, heights);
+    for (int r = 0; r < groundRows; ++r) {
+        const auto row = static_cast<std::size_t>(r);
+        const std::size_t index = row * groundColumns + static_cast<std::size_t>(column);
+        ground.groundPoints[index].set(x, ys[row], heights[row]);
+        ground.groundTexCoords[index][0] = s;
+        ground.groundTexCoords[index][1] =
+            static_cast<float>((r - groundCentreRow) * texturePerRow);
+    }
 }
 
 } // namespace
@@ -50,10 +65,9 @@ bool Level::buildMesh() {
     if (!allocateVertices(groundPoints)) { return false; }
     if (!allocateVertices(groundScreen)) { return false; }
     if (!allocateVertices(groundTexCoords)) { return false; }
+    const std::array<float, groundRows> ys = rowPositions();
     for (int c = 0; c < groundColumns; ++c) {
-        for (int r = 0; r < groundRows; ++r) {
-            placeVertex(*this, c - groundCentreColumn, r - groundCentreRow);
-        }
+        placeColumn(*this, c, ys);
     }
     return true;
 }

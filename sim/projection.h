@@ -1,5 +1,5 @@
 // From the world to the screen, for the marble, its arrows and the penalty label. The ground has
-// factors of its own (render/ground.cpp).
+// factors of its own (render/ground_walk.h).
 #pragma once
 
 #include "sim/view_frame.h"

@@ -67,6 +67,18 @@ TEST_F(Ground, KeepsASmallHoleBesideEnormousOnes) {
     EXPECT_EQ(level.heightAt(0, 0), 0.5F);
 }
 
+TEST_F(Ground, HasTheFieldsExactHeightAtEveryVertex) {
+    std::vector<Hole> holes = {{0, 0, 64, 1e8F}, {3, -5, 0.1F, -1e8F}};
+    for (int i = 0; i < 41; ++i) {
+        const auto n = static_cast<float>(i);
+        holes.push_back({std::sin(n) * 700, n * 290 - 5900, 20 + n / 3, 100 * std::cos(n)});
+    }
+    make(holes);
+    for (const Vector3& point : std::span(level.groundPoints.get(), groundVertices)) {
+        ASSERT_EQ(point.z, level.heightAt(point.x, point.y)) << point.x << ' ' << point.y;
+    }
+}
+
 TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
     const View views[] = {
         {"settled", {0, -400, -350}, -0.8519663F, 0, false, 5274, 39156282177},
