@@ -1,4 +1,5 @@
-// What the parts of a tick cost without OpenGL, each beside the least that it could cost.
+// What the parts of a tick and the start of a level cost without OpenGL, each beside the least that
+// it could cost.
 //
 // The arguments are the number of holes in the level, or the number of rows in view.
 #include <benchmark/benchmark.h>
@@ -7,14 +8,10 @@
 #include <cstdint>
 #include <vector>
 
+#include "bench/scene.h"
 #include "render/ground_walk.h"
-#include "sim/camera.h"
 #include "sim/level.h"
-#include "sim/marble.h"
-#include "sim/simulation.h"
 #include "sim/view_frame.h"
-#include "state/controls.h"
-#include "state/game.h"
 
 namespace {
 
@@ -30,19 +27,6 @@ void makeHoles(std::int64_t count) {
         side = -side;
         along += 1.0F / static_cast<float>(count);
     }
-}
-
-// Puts the marble in the middle of the course and lets the camera settle behind it.
-void settle() {
-    Game.levelDone = 0;
-    Game.clock = levelTime / 2;
-    Game.frameTime = 0.1F;
-    placeMarble(0.0F, 0.0F);
-    cameraPosition = marble.getPosition() + Vector3(0.0F, -1.0F, -1.0F);
-    for (int i = 0; i < 100; ++i) {
-        updateCamera();
-    }
-    Game.frameTime = 1.0F / 60.0F;
 }
 
 void heightAt(benchmark::State& state) {
@@ -75,26 +59,10 @@ void buildMesh(benchmark::State& state) {
     }
 }
 
-void simulateAndMoveCamera(benchmark::State& state) {
-    makeHoles(state.range(0));
-    settle();
-    marble.setVelocity(Vector3(0.0F, 1.0F, 0.0F));
-    const Marble rolling = marble;
-    for ([[maybe_unused]] auto _ : state) {
-        marble = rolling; // otherwise it would reach a hole, where a tick is cheap
-        Game.turbo = fullTurbo;
-        stepWorld({.left = true, .right = true, .up = true, .down = true, .turbo = true});
-        updateCamera();
-        benchmark::DoNotOptimize(viewFrame);
-    }
-}
-
-// Looks along the course with that many rows of ground ahead, all in view.
 void lookOver(std::int64_t rows) {
     makeHoles(10);
     level.buildMesh();
-    const float y = static_cast<float>((groundRows - groundCentreRow - rows) * groundSpacing - 400);
-    viewFrame.set(Vector3(0.0F, y, -350.0F), -1.2F, 0.0F, 0.0F);
+    lookOverRows(rows);
 }
 
 void walkRows(benchmark::State& state) {
@@ -144,13 +112,12 @@ void overHoles(benchmark::internal::Benchmark* measured) {
 }
 
 void overRows(benchmark::internal::Benchmark* measured) {
-    measured->ArgName("rows")->Arg(20)->Arg(60)->Arg(120)->Arg(240)->Arg(390);
+    measured->ArgName("rows")->Arg(20)->Arg(60)->Arg(120)->Arg(240)->Arg(allRows);
 }
 
 BENCHMARK(heightAt)->Apply(overHoles);
 BENCHMARK(rootAndDivision)->Apply(overHoles);
 BENCHMARK(buildMesh)->Apply(overHoles);
-BENCHMARK(simulateAndMoveCamera)->Apply(overHoles);
 BENCHMARK(walkRows)->Apply(overRows);
 BENCHMARK(projectRows)->Apply(overRows);
 

@@ -41,7 +41,8 @@ void projectEdge(GroundWalk& walk, int row, int column) {
     project(walk, groundIndex(row + 1, column));
 }
 
-// Returns whether an edge across a row of cells is still on the screen for a scan in that direction.
+// Returns whether an edge across a row of cells is still on the screen, for a scan in that
+// direction.
 bool isColumnInSight(const GroundWalk& walk, int columnStep, int row, int column) {
     const float lower = walk.screen[groundIndex(row, column)].x;
     const float upper = walk.screen[groundIndex(row + 1, column)].x;
@@ -59,7 +60,8 @@ void addCell(GroundCells& cells, int row, int column) {
     cells.indices[cells.count++] = static_cast<std::uint16_t>(groundIndex(row, column));
 }
 
-// Visits the cells of one row from the start column outward. Returns whether the row scan continues.
+// Visits the cells of one row from the start column outward. Returns whether the row scan
+// continues.
 bool walkRow(GroundWalk& walk, Quadrant quadrant, int row) {
     const bool rightward = quadrant.columnStep > 0;
     const int outerRow = quadrant.rowStep > 0 ? row + 1 : row;

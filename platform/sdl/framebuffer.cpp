@@ -31,6 +31,11 @@ bool hasFixedPipeline() {
     return glGetError() == GL_NO_ERROR;
 }
 
+void clearBars() {
+    glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
+    glClear(GL_COLOR_BUFFER_BIT);
+}
+
 } // namespace
 
 bool Framebuffer::loadFunctions() {
@@ -129,9 +134,9 @@ void Framebuffer::copyToWindow(int windowWidth, int windowHeight) {
     bindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
     glDisable(GL_SCISSOR_TEST);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
-    glClear(GL_COLOR_BUFFER_BIT);
-    copyPicture(letterbox(windowWidth, windowHeight));
+    const PixelRect picture = letterbox(windowWidth, windowHeight);
+    if (picture.width != windowWidth || picture.height != windowHeight) { clearBars(); }
+    copyPicture(picture);
     bindFramebuffer(GL_FRAMEBUFFER, name); // glPopAttrib restores this one's draw buffer
     glPopAttrib();
     bindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
