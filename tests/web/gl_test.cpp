@@ -194,6 +194,8 @@ TEST_F(Gl, DrawsLinesAsThinRectangles) {
     }
     glEnd();
     EXPECT_EQ(drawn().vertices.size(), 3U * 6) << "the loop is closed";
+    triangle();
+    EXPECT_EQ(drawn().state.culledFace, GL_BACK) << "a triangle has a face again";
 }
 
 TEST_F(Gl, UploadsTexturesInTheirOrderWithTheShapes) {
@@ -222,9 +224,11 @@ TEST_F(Gl, DrawsPicturesFromTheLowerLeftCorner) {
     const std::vector<std::uint8_t> pixels(320 * 120 * 3);
     glColor3f(1, 0, 0); // a picture keeps its own colours
     glDrawPixels(320, 120, GL_RGB, GL_UNSIGNED_BYTE, pixels.data());
+    glDrawPixels(320, 120, GL_RGB, GL_UNSIGNED_BYTE, pixels.data());
     const Asked& picture = drawn();
-    EXPECT_EQ(words(), (Words{"upload", "draw"}));
+    EXPECT_EQ(words(), (Words{"upload", "draw", "upload", "draw"})) << "each has its own pixels";
     EXPECT_EQ(static_cast<std::uint32_t>(picture.state.texture), asked[0].texture);
+    EXPECT_EQ(picture.state.textureMode, GL_MODULATE);
     const Extent extent = extentOf(picture.vertices);
     EXPECT_TRUE(extent.left == 0 && extent.bottom == 0);
     EXPECT_TRUE(extent.right == 320 && extent.top == 120);
