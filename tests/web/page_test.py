@@ -108,6 +108,8 @@ class Stepped(PageStory):
         self.browser.run("sendKey(...arguments)", kind, code, KEY_CODES[key])
 
     def press(self, key):
+        """For so long that the key repeats, which counts for arrows only."""
+        self.send("keydown", key)
         self.send("keydown", key)
         self.send("keyup", key)
 
@@ -147,6 +149,8 @@ class Picture(Stepped):
         self.assertLessEqual(most, MOST_DRAW_CALLS)
 
     def test_comes_back_after_the_graphics_were_lost(self):
+        self.press("Escape")
+        self.pass_frames(3)
         self.browser.run("""
             losing = glorbix.screen.gl.getExtension('WEBGL_lose_context');
             losing.loseContext();""")
@@ -156,7 +160,7 @@ class Picture(Stepped):
         self.browser.run("losing.restoreContext()")
         self.browser.wait("document.getElementById('notice').hidden")
         self.pass_frames(3)
-        self.compare("title")
+        self.compare("menu")
 
 
 class Focus(Stepped):
@@ -194,6 +198,15 @@ class Visitor(PageStory):
     def wait_for_game(self):
         self.browser.wait("window.glorbix?.screen?.counts.frames > 2")
 
+    def expect_effect(self, name, key):
+        self.browser.run("""
+            const {effects} = glorbix, play = effects.play.bind(effects);
+            played = [];
+            effects.play = (name, volume) => play(name, volume) && played.push(name) > 0;""")
+        self.browser.press(key)
+        self.browser.wait(f"played.includes('{name}')")
+        self.browser.press(key)
+
     def say_frame_rate(self):
         time.sleep(3)
         rate = self.browser.run("""
@@ -225,8 +238,10 @@ class Visitor(PageStory):
         self.assertEqual(self.browser.run("return glorbix.music.time()"), 0)
         self.start_game()
         self.browser.wait("glorbix.music.time() > 1")
+        self.expect_effect("sounds/menu.wav", "Escape")
         self.say_frame_rate()
         first = self.browser.run("return glorbix.music.piece()")
+        self.assertTrue(first)
         self.browser.run("glorbix.music.skipTo(-0.5)")
         self.browser.wait(f"glorbix.music.piece() !== '{first}' && glorbix.music.time() > 0.5")
         self.assertEqual(self.notice(), "")
@@ -259,17 +274,24 @@ class Visitor(PageStory):
         self.browser.wait("document.querySelector('dialog[open]')")
         time.sleep(0.5)
         self.assertEqual(self.browser.run("return glorbix.screen.counts.frames"), 0)
+        self.assertFalse(self.browser.run("""
+            return document.querySelector('dialog button').dispatchEvent(new KeyboardEvent(
+                'keydown', {key: 'Enter', repeat: true, bubbles: true, cancelable: true}));"""))
         self.answer_box("Creating new highScores file")
         self.wait_for_game()
         self.assertEqual(self.notice(), "")
 
 
 class VisitorWithoutStorage(PageStory):
-    before_page = "Storage.prototype.getItem = () => { throw new Error('it is forbidden'); };"
+    before_page = """
+        for (const name of ['getItem', 'setItem']) {
+            Storage.prototype[name] = () => { throw new Error('it is forbidden'); };
+        }"""
 
     def test_is_told_so_once(self):
         self.answer_box("does not keep the best times: it is forbidden")
-        self.browser.press("Escape")
+        self.browser.press("Escape", "ArrowUp", "Enter")
+        self.browser.wait("!document.getElementById('notice').hidden")
         self.assertFalse(self.browser.run("return glorbix.boxes.isOpen()"))
 
 
