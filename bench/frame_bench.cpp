@@ -1,6 +1,7 @@
-// What a frame of the largest course costs on a real OpenGL: drawing, the same OpenGL calls replayed
-// from a recording, showing it, and the arithmetic of its tick. Run it in the folder of the game's
-// data. The times are those of the processor, in all threads: OpenGL in software has some of its own.
+// What a frame of the largest course costs on a real OpenGL: drawing, the same OpenGL calls
+// replayed from a recording, showing it, and the arithmetic of its tick. Run it in the folder of
+// the game's data. The times are those of the processor, in all threads: OpenGL in software has
+// some of its own.
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
