@@ -1,5 +1,6 @@
 // The OpenGL calls of a frame, recorded and made again. A program that links gl_recording.cpp calls
-// OpenGL through it. Covered are the functions of a level's frame, without menu.
+// OpenGL through it. Covered are the functions of a level's frame, without menu, and for glFogfv
+// the colour.
 #pragma once
 
 #include <cstdint>

@@ -10,6 +10,6 @@ inline constexpr std::int64_t allRows = 390;
 // of 1/60 s with the clock half-way.
 void lookFromMarble();
 
-// Looks along the course with that many rows of ground ahead, at most allRows. With far sight all
+// Looks along the course with that many rows of vertices ahead, at most allRows. With far sight all
 // of them are in view.
 void lookOverRows(std::int64_t rows);

@@ -1,5 +1,5 @@
-// What the parts of a tick and the start of a level cost without OpenGL, each beside the least that
-// it could cost.
+// What the parts of a tick and the start of a level cost without OpenGL, each beside a
+// reference.
 //
 // The arguments are the number of holes in the level, or the number of rows in view.
 #include <benchmark/benchmark.h>
@@ -38,7 +38,7 @@ void heightAt(benchmark::State& state) {
     }
 }
 
-// The least that a hole costs at a point.
+// A square root and a division for each hole, one hole at a time, as heightAt takes them.
 void rootAndDivision(benchmark::State& state) {
     std::vector<double> squares(static_cast<std::size_t>(state.range(0)), 400.0);
     benchmark::DoNotOptimize(squares.data());
@@ -92,7 +92,7 @@ std::vector<std::uint16_t> cornersInView() {
     return corners;
 }
 
-// The least that the walk costs: the projection of the same vertices.
+// The projection of the vertices that the walk projects, and nothing else.
 void projectRows(benchmark::State& state) {
     lookOver(state.range(0));
     const std::vector<std::uint16_t> corners = cornersInView();

@@ -59,7 +59,8 @@ void drawCell(const Level& ground, std::size_t corner) {
 
 std::int32_t Level::drawGround(const ViewFrame& view, bool farSight, bool fogOn) {
     setGroundState(*this, fogOn);
-    GroundCells cells;
+    static GroundCells cells;
+    cells.count = 0;
     // Without a mesh a level has failed to load, and the program is about to end.
     if (groundTexCoords != nullptr) { walkGround(*this, view, farSight, cells); }
     for (std::int32_t i = 0; i < cells.count; ++i) {

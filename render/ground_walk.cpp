@@ -36,20 +36,21 @@ void project(GroundWalk& walk, std::size_t index) {
 }
 
 // Projects the two vertices of a column that belong to the cells of that row.
-void projectEdge(GroundWalk& walk, int row, int column) {
+void projectPair(GroundWalk& walk, int row, int column) {
     project(walk, groundIndex(row, column));
     project(walk, groundIndex(row + 1, column));
 }
 
-// Returns whether an edge across a row of cells is still on the screen, for a scan in that
-// direction.
+// Returns whether the line between the vertices (row, column) and (row + 1, column) is still on the
+// screen for a scan to the right (columnStep +1) or to the left.
 bool isColumnInSight(const GroundWalk& walk, int columnStep, int row, int column) {
     const float lower = walk.screen[groundIndex(row, column)].x;
     const float upper = walk.screen[groundIndex(row + 1, column)].x;
     return columnStep > 0 ? lower < 1.0F || upper < 1.0F : lower > -1.0F || upper > -1.0F;
 }
 
-// Returns the same for the edge of a cell along its row.
+// Returns the same of the vertices (row, column) and (row, column + 1), for a scan ahead (rowStep
+// +1) or back.
 bool isRowInSight(const GroundWalk& walk, int rowStep, int row, int column) {
     const float left = walk.screen[groundIndex(row, column)].y;
     const float right = walk.screen[groundIndex(row, column + 1)].y;
@@ -65,16 +66,16 @@ void addCell(GroundCells& cells, int row, int column) {
 bool walkRow(GroundWalk& walk, Quadrant quadrant, int row) {
     const bool rightward = quadrant.columnStep > 0;
     const int outerRow = quadrant.rowStep > 0 ? row + 1 : row;
-    const int lastEdge = rightward ? lastCellColumn + 1 : 0;
-    int edge = walk.startColumn;
+    const int lastVertex = rightward ? lastCellColumn + 1 : 0;
+    int vertex = walk.startColumn; // the column of vertices that the scan has reached
     bool nextRow = false;
     bool nextColumn = true;
-    projectEdge(walk, row, edge);
-    while (nextColumn && edge != lastEdge) {
-        edge += quadrant.columnStep;
-        projectEdge(walk, row, edge);
-        const int column = rightward ? edge - 1 : edge;
-        nextColumn = isColumnInSight(walk, quadrant.columnStep, row, edge);
+    projectPair(walk, row, vertex);
+    while (nextColumn && vertex != lastVertex) {
+        vertex += quadrant.columnStep;
+        projectPair(walk, row, vertex);
+        const int column = rightward ? vertex - 1 : vertex;
+        nextColumn = isColumnInSight(walk, quadrant.columnStep, row, vertex);
         nextRow = nextRow || isRowInSight(walk, quadrant.rowStep, outerRow, column);
         addCell(walk.cells, row, column);
     }

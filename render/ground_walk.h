@@ -18,13 +18,15 @@ inline constexpr std::size_t groundIndex(int row, int column) {
     return static_cast<std::size_t>(row * groundColumns + column);
 }
 
-// Cells in the order in which they are drawn, each at most once.
+// Cells in the order in which they are drawn, each at most once. Too large for the stack of a page
+// in a browser.
 struct GroundCells {
     std::int32_t count = 0;
     std::uint16_t indices[(lastCellRow + 1) * (lastCellColumn + 1)]; // `count` of them are set
 };
 
-// Returns NDC x and y and the inverse depth of a vertex at that distance from the eye (world axes).
+// Returns NDC x and y and the inverse depth of a vertex whose offset from the eye is given, in
+// world axes.
 inline Vector3 projectGround(const Matrix3& rotation, const Vector3& fromEye) {
     // The focal length of 400 pixels over half the screen's width and height. focalY is defined
     // with these decimals, not as 5/3.

@@ -79,7 +79,8 @@ struct Level {
     // Returns the height: the sum of depth * width / sqrt(distance^2 + width^2) over the holes.
     float heightAt(float x, float y) const;
 
-    // Writes heightAt(x, y) for each y of at most groundRows, equal to the last bit but faster.
+    // Writes heightAt(x, y) of every y to `heights`, which is as long; at most groundRows. Equal to
+    // the last bit, but faster.
     void heightsAlong(float x, std::span<const float> ys, std::span<float> heights) const;
 
     // Returns the width of the first hole of positive depth that has the point within its catch

@@ -31,7 +31,7 @@ bool hasFixedPipeline() {
     return glGetError() == GL_NO_ERROR;
 }
 
-void clearBars() {
+void clearWindow() {
     glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
     glClear(GL_COLOR_BUFFER_BIT);
 }
@@ -135,7 +135,7 @@ void Framebuffer::copyToWindow(int windowWidth, int windowHeight) {
     glDisable(GL_SCISSOR_TEST);
     glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
     const PixelRect picture = letterbox(windowWidth, windowHeight);
-    if (picture.width != windowWidth || picture.height != windowHeight) { clearBars(); }
+    if (picture.width != windowWidth || picture.height != windowHeight) { clearWindow(); }
     copyPicture(picture);
     bindFramebuffer(GL_FRAMEBUFFER, name); // glPopAttrib restores this one's draw buffer
     glPopAttrib();

@@ -71,15 +71,29 @@ waitUntilNamed() { # FILE
     done
 }
 
-# Writes what the game does with the file: "named", "silent", or how it failed.
-play() { # KIND FILE
+prepareData() { # KIND FILE
     rm -rf "$damaged"
     mkdir "$damaged"
     cp -r "$game/maps" "$game/graphics" "$game/sounds" "$damaged/"
     [ "$2" = maps/maplist.dat ] || chooseCourse "$2"
     damage "$1" "$damaged/$2"
-    startGame "$binary" "$damaged"
-    sleep 0.8
+}
+
+# The game may also have named the file already, or have ended.
+waitForKeyboard() { # FILE
+    local end=$((SECONDS + 20))
+    while ! hasKeyboard Glorbix && ! isNamed "$1" && kill -0 "$gameProcess" 2> /dev/null &&
+        [ "$SECONDS" -lt "$end" ]; do
+        sleep 0.1
+    done
+}
+
+# Writes what the game does with the file: "named", "silent", or how it failed. Runs in a process of
+# its own.
+play() { # KIND FILE
+    trap stopGame EXIT
+    prepareData "$1" "$2" && startGame "$binary" "$damaged" || return 1
+    waitForKeyboard "$2"
     isNamed "$2" || reach "$2" 2> /dev/null || true
     waitUntilNamed "$2"
     sleep 0.3

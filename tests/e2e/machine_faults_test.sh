@@ -44,6 +44,14 @@ endStory() {
 
 says() { grep -qF "$1" "$gameFolder/log"; }
 
+waitUntilSaid() { # TEXT
+    for _ in $(seq 40); do
+        ! says "$1" || return 0
+        sleep 0.5
+    done
+    return 1
+}
+
 hasRivals() { # FILE
     [ "$(tr -s ' \n' ' ' < "$1")" = "$(tr -s ' \n' ' ' <<< "$rivals")" ]
 }
@@ -107,7 +115,7 @@ fullDisk() {
     startWith makeLinkToDisk
     waitForWindow Glorbix
     endByQuit
-    says "highScore.dat: the best times are not saved" || fail "the game does not say so"
+    waitUntilSaid "highScore.dat: the best times are not saved" || fail "the game does not say so"
     hasRivals "$disk/table" || fail "the best times are lost"
     endStory
     echo "$how: the game says so, and the best times stay"
@@ -159,8 +167,7 @@ stoppedProcess() {
     kill -CONT "$gameProcess"
     sleep 2
     ! says go.wav || fail "the clock ran while the game was stopped"
-    sleep 6
-    says go.wav || fail "the clock stands still after the game was stopped"
+    waitUntilSaid go.wav || fail "the clock stands still after the game was stopped"
     endByTerm
     endStory
     echo "stopped for ten seconds: the game goes on where it was"
