@@ -30,18 +30,18 @@ bool isKey(int key) {
     return key > 0 && key < static_cast<int>(keyCount);
 }
 
-void tellFocus(bool focused) {
+void reportFocus(bool focused) {
     if (gameWindow.focused == focused) { return; }
     gameWindow.focused = focused;
     postInput(&gameWindow, focused ? WM_SETFOCUS : WM_KILLFOCUS);
 }
 
 // A browser may have stopped the page for any time before it gives the focus back. The game
-// measures that time in the next tick, which must be one of the pause: it hears of the focus one
+// measures that time in the next tick, which must be one of the pause: the focus is reported one
 // frame later.
 void updateFocus() {
     if (currentWindow() == nullptr || !gameWindow.shown) { return; }
-    if (!input.pageFocused || !input.focusIsNew) { tellFocus(input.pageFocused); }
+    if (!input.pageFocused || !input.focusIsNew) { reportFocus(input.pageFocused); }
     input.focusIsNew = false;
 }
 

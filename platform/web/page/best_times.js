@@ -6,7 +6,7 @@ const storageKey = 'glorbix-best-times';
 
 export class BestTimes {
     #stamp = null; // of the file that was kept
-    #complained = false;
+    #reported = false;
 
     // `onFailure` is called once, with a sentence, when the browser keeps nothing.
     constructor(onFailure) {
@@ -18,7 +18,7 @@ export class BestTimes {
         let text = null;
         try {
             text = localStorage.getItem(storageKey);
-        } catch (error) { this.#complain(error); }
+        } catch (error) { this.#report(error); }
         files.writeFile(fileName, text ?? files.readFile(rivalsFile));
         this.#stamp = this.#stampOf(files);
     }
@@ -31,7 +31,7 @@ export class BestTimes {
         if (stamp === null) return;
         try {
             localStorage.setItem(storageKey, files.readFile(fileName, {encoding: 'utf8'}));
-        } catch (error) { this.#complain(error); }
+        } catch (error) { this.#report(error); }
     }
 
     // The game replaces the file by a new one, which has another number.
@@ -40,9 +40,9 @@ export class BestTimes {
         return exists ? `${object.id} ${object.timestamp}` : null;
     }
 
-    #complain(error) {
-        if (this.#complained) return;
-        this.#complained = true;
+    #report(error) {
+        if (this.#reported) return;
+        this.#reported = true;
         this.onFailure(`This browser does not keep the best times: ${error.message}`);
     }
 }

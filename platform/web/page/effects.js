@@ -22,7 +22,7 @@ export class Effects {
         }));
     }
 
-    // Sound of a hidden page is a nuisance.
+    // A hidden page is silent.
     setSilent(silent) {
         if (silent) {
             this.#context?.suspend();

@@ -1,5 +1,5 @@
-// Whether the player's keys go to the game: the page is visible, has the browser's focus, and
-// nothing of its own is in the way.
+// Whether the player's keys go to the game: the page is visible, has the browser's focus, and shows
+// nothing that takes the keys itself.
 
 export class Focus {
     #obstacles = new Set();
@@ -7,8 +7,8 @@ export class Focus {
     // `onChange` is called with true or false whenever the answer may have changed.
     constructor(onChange) {
         this.onChange = onChange;
-        for (const name of ['focus', 'blur']) window.addEventListener(name, () => this.#tell());
-        document.addEventListener('visibilitychange', () => this.#tell());
+        for (const name of ['focus', 'blur']) window.addEventListener(name, () => this.#report());
+        document.addEventListener('visibilitychange', () => this.#report());
     }
 
     isHere() {
@@ -22,10 +22,10 @@ export class Focus {
         } else {
             this.#obstacles.delete(name);
         }
-        this.#tell();
+        this.#report();
     }
 
-    #tell() {
+    #report() {
         this.onChange(this.isHere());
     }
 }

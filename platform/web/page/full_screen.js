@@ -21,7 +21,7 @@ export class FullScreen {
             // game's menu.
             await navigator.keyboard?.lock?.(['Escape']);
         } catch {
-            // The browser does not want to; the game goes on as it is.
+            // The browser refuses; the game goes on as it is.
         }
     }
 }

@@ -1,4 +1,5 @@
-// The player's keys. The browser's `keyCode` has the values of Windows for all keys of the game.
+// The player's keys. For all keys of the game, `keyCode` of the browser is the virtual-key code of
+// Windows.
 
 const enter = 13;
 
@@ -41,7 +42,7 @@ export class Keys {
             return;
         event.preventDefault();
         const isHeld = this.#held.has(event.code);
-        if (event.repeat && !isHeld) return; // it went down for somebody else
+        if (event.repeat && !isHeld) return; // it went down outside the game
         this.#held.set(event.code, event.keyCode);
         this.program.keyDown(event.keyCode, isHeld);
     }

@@ -67,7 +67,7 @@ export class Music {
         this.#audio.currentTime = seconds < 0 ? this.#audio.duration + seconds : seconds;
     }
 
-    // A piece rests while the page is hidden, and goes on from there.
+    // A piece pauses while the page is hidden, and then goes on.
     setSilent(silent) {
         this.#silent = silent;
         if (silent) {
@@ -77,7 +77,7 @@ export class Music {
         }
     }
 
-    // Browsers refuse sound before the player's first key or click; start() then comes again.
+    // Browsers refuse sound before the player's first key or click. Call this at that key or click.
     start() {
         this.#start();
     }
