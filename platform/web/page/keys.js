@@ -15,8 +15,13 @@ export class Keys {
         this.program = program;
         this.isForGame = isForGame;
         this.onFullScreen = onFullScreen;
-        window.addEventListener('keydown', onFirst, {once: true, capture: true});
-        window.addEventListener('pointerdown', onFirst, {once: true, capture: true});
+        const first = () => {
+            for (const name of ['keydown', 'pointerdown'])
+                window.removeEventListener(name, first, {capture: true});
+            onFirst();
+        };
+        for (const name of ['keydown', 'pointerdown'])
+            window.addEventListener(name, first, {capture: true});
         window.addEventListener('keydown', (event) => this.#down(event));
         window.addEventListener('keyup', (event) => this.#up(event));
     }
