@@ -157,14 +157,7 @@ BENCHMARK(drawLevel)->MeasureProcessCPUTime();
 BENCHMARK(replayLevel)->MeasureProcessCPUTime();
 BENCHMARK(showPicture)->MeasureProcessCPUTime();
 BENCHMARK(simulateAndMoveCamera)->MeasureProcessCPUTime();
-BENCHMARK(drawRows)
-    ->ArgName("rows")
-    ->Arg(20)
-    ->Arg(60)
-    ->Arg(120)
-    ->Arg(240)
-    ->Arg(allRows)
-    ->MeasureProcessCPUTime();
+BENCHMARK(drawRows)->Apply(overRows)->MeasureProcessCPUTime();
 
 } // namespace
 

@@ -24,3 +24,7 @@ void lookOverRows(std::int64_t rows) {
     const auto y = static_cast<float>((row - groundCentreRow) * groundSpacing - 400);
     viewFrame.set(Vector3(0.0F, y, -350.0F), -1.2F, 0.0F, 0.0F);
 }
+
+void overRows(benchmark::internal::Benchmark* measured) {
+    measured->ArgName("rows")->Arg(20)->Arg(60)->Arg(120)->Arg(240)->Arg(390);
+}

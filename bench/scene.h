@@ -3,13 +3,15 @@
 
 #include <cstdint>
 
-// The rows of ground ahead in the longest view.
-inline constexpr std::int64_t allRows = 390;
+#include <benchmark/benchmark.h>
 
 // Puts the marble in the middle of the course, lets the camera settle behind it and starts a tick
 // of 1/60 s with the clock half-way.
 void lookFromMarble();
 
-// Looks along the course with that many rows of vertices ahead, at most allRows. With far sight all
-// of them are in view.
+// Looks along the course with that many rows of vertices ahead. With far sight all of them are in
+// view.
 void lookOverRows(std::int64_t rows);
+
+// Gives a benchmark the numbers of rows to look over.
+void overRows(benchmark::internal::Benchmark* measured);

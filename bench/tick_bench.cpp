@@ -111,10 +111,6 @@ void overHoles(benchmark::internal::Benchmark* measured) {
     measured->ArgName("holes")->Arg(10)->Arg(50)->Arg(100)->Arg(manyHoles);
 }
 
-void overRows(benchmark::internal::Benchmark* measured) {
-    measured->ArgName("rows")->Arg(20)->Arg(60)->Arg(120)->Arg(240)->Arg(allRows);
-}
-
 BENCHMARK(heightAt)->Apply(overHoles);
 BENCHMARK(rootAndDivision)->Apply(overHoles);
 BENCHMARK(buildMesh)->Apply(overHoles);

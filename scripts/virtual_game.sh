@@ -15,8 +15,8 @@
 # The game's output is in $gameFolder/log. The display has the size $displaySize and $displayDepth bits
 # a pixel if these are set, and it finds the best times $ownTimes. A program for Windows finds the
 # rivals if $withRivals is set. For the others, the command $prepareFolder runs in the game's folder
-# before the game starts, and the array $startBy is a command that starts the game. The player's own folder of
-# these is $gameFolder/own.
+# before the game starts, and the array $startBy is a command that starts the game. The player's own
+# folder of these is $gameFolder/own.
 
 gameDisplay=''
 gameFolder=''
