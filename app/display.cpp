@@ -120,7 +120,7 @@ bool initGraphicsAndData(HWND window) {
     Game.glContext = wglCreateContext(Game.deviceContext);
     wglMakeCurrent(Game.deviceContext, Game.glContext);
     if (!loadLevelList()) {
-        logFileError(levelListFile, "this is not a list of levels, or it cannot be read");
+        logFileError(levelListFile, "this is not a list of levels");
         return refuseWithError(window, "could not initialize map data");
     }
     if (!loadBestTimes()) {

@@ -8,6 +8,7 @@
 #include "data/font.h"
 #include "data/level_file.h"
 #include "data/mip_chain.h"
+#include "data/printable.h"
 #include "platform/windows_api.h"
 #include "render/textures.h"
 #include "sim/level.h"
@@ -29,14 +30,23 @@ bool loadGroundTexture(Level& into, const char* baseName, std::string& picture) 
     return true;
 }
 
+std::string reasonOf(const LevelFault& fault) {
+    switch (fault.cause) {
+    case LevelFault::Cause::FileUnreadable:
+    case LevelFault::Cause::FileCutOff: return "it cannot be read: " + fault.token;
+    default: return "this level is refused; glorbix-level check says why";
+    }
+}
+
 // Shows a message for the causes that have one. Returns false; startNextLevel then shows one for
 // all causes.
 bool refuseLevel(const std::string& fileName, const LevelFault& fault) {
     using Cause = LevelFault::Cause;
-    logFileError(fileName, fault.place, "this level is refused; glorbix-level check says why");
+    logFileError(fileName, fault.place, reasonOf(fault));
     switch (fault.cause) {
-    case Cause::FileUnreadable: return refuse(fileName + "file not found");
-    case Cause::UnknownToken: return refuse(fileName + " contains a unknown token" + fault.token);
+    case Cause::FileUnreadable: return refuse(printable(fileName) + "file not found");
+    case Cause::UnknownToken:
+        return refuse(printable(fileName) + " contains a unknown token" + fault.token);
     case Cause::PictureUnreadable: return refuse(fault.token);
     case Cause::HoleCountInvalid:
     case Cause::OutOfMemory: return refuse("out of memory");
@@ -60,7 +70,7 @@ bool Font::load(const char* baseName, const char* metricsName) {
     }
     uploadFontTexture(*this);
     if (!readMetrics(metricsName)) {
-        logFileError(metricsName, "these are not the metrics of a font, or they cannot be read");
+        logFileError(metricsName, "these are not the metrics of a font");
         return false;
     }
     loaded = true;

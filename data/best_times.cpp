@@ -53,7 +53,7 @@ int placeOfCandidate() {
 
 bool readBestTimes() {
     TokenReader reader;
-    if (!reader.open(bestTimesFile)) { return false; }
+    if (!openOrLog(reader, bestTimesFile)) { return false; }
     for (int i = 0; i < bestTimesShown; ++i) {
         BestTimeEntry& entry = bestTimes.slots[i];
         if (!reader.readFloat(entry.time) || !reader.readToken(entry.name)) { return false; }

@@ -2,8 +2,16 @@
 
 #include <cstdio>
 
+#include "data/printable.h"
+
+bool openOrLog(TokenReader& reader, const char* fileName) {
+    if (reader.open(fileName)) { return true; }
+    logFileError(fileName, "it cannot be read: " + reader.why);
+    return false;
+}
+
 void logFileError(const std::string& fileName, const std::string& why) {
-    std::fprintf(stderr, "glorbix: %s: %s\n", fileName.c_str(), why.c_str());
+    std::fprintf(stderr, "glorbix: %s: %s\n", printable(fileName).c_str(), why.c_str());
 }
 
 void logFileError(const std::string& fileName, const TextPlace& place, const std::string& why) {

@@ -6,6 +6,9 @@
 
 #include "data/tokens.h"
 
+// Opens a file (data/tokens.h). On failure writes the reason.
+bool openOrLog(TokenReader& reader, const char* fileName);
+
 // Writes "glorbix: FILE: WHY" as one line.
 void logFileError(const std::string& fileName, const std::string& why);
 

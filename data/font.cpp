@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "data/tokens.h"
+#include "data/file_error.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ Font::Font()
 
 bool Font::readMetrics(const char* fileName) {
     TokenReader reader;
-    if (!reader.open(fileName)) { return false; }
+    if (!openOrLog(reader, fileName)) { return false; }
     if (!reader.readInteger(firstChar) || firstChar < 0) { return false; }
     if (!reader.readInteger(lastChar)) { return false; }
     do {

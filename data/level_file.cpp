@@ -3,6 +3,7 @@
 #include <cstring>
 #include <optional>
 
+#include "data/printable.h"
 #include "sim/marble.h"
 
 namespace {
@@ -18,9 +19,9 @@ struct LevelReading {
     LevelFileReport& report;
 
     bool refuse(Cause cause) {
-        report.fault.cause = cause;
+        report.fault.cause = tokens.cutOff ? Cause::FileCutOff : cause;
         report.fault.place = tokens.place();
-        report.fault.token = tokens.lastToken();
+        report.fault.token = tokens.cutOff ? tokens.why : printableToken(tokens.lastToken());
         return false;
     }
 };
@@ -60,7 +61,7 @@ bool takeTexture(LevelReading& reading) {
     std::string picture;
     if (reading.readTexture(reading.into, baseName, picture)) { return true; }
     reading.refuse(Cause::PictureUnreadable);
-    reading.report.fault.token = picture;
+    reading.report.fault.token = printable(picture);
     return false;
 }
 
@@ -125,21 +126,26 @@ bool takeDirective(LevelReading& reading, Directive directive) {
 // Reads a token that begins a directive. White space at the end of the file is reported at the
 // token before it.
 bool readDirectiveKey(LevelReading& reading, char (&token)[tokenCapacity]) {
-    const TextPlace before = reading.tokens.place();
+    const std::size_t before = reading.tokens.last;
     const bool first = reading.tokens.next == 0;
     if (readKey(reading, token, first ? Cause::FileEmpty : Cause::TrailingSpace)) { return true; }
-    if (reading.report.fault.cause == Cause::TrailingSpace) { reading.report.fault.place = before; }
+    if (reading.report.fault.cause == Cause::TrailingSpace) {
+        reading.tokens.last = before;
+        reading.report.fault.place = reading.tokens.place();
+    }
     return false;
 }
 
 // Reads directives until the file ends directly after one. When anything follows a directive, even
 // white space alone, another directive must come.
 bool takeDirectives(LevelReading& reading) {
+    int count = 0;
     do {
         char token[tokenCapacity];
         if (!readDirectiveKey(reading, token)) { return false; }
         const std::optional<Directive> directive = directiveOf(token);
         if (!directive) { return reading.refuse(Cause::UnknownToken); }
+        if (++count > maxDirectives) { return reading.refuse(Cause::TooManyDirectives); }
         if (!takeDirective(reading, *directive)) { return false; }
     } while (!reading.tokens.atEnd());
     return true;

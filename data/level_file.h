@@ -9,7 +9,8 @@
 //   holecount= H           the number of holes, 0 to maxHoles; they are flat until .data
 //   .data ... .end         H times x y width depth
 //
-// It must end directly after its last token: not even a line break may follow.
+// It must end directly after its last token: not even a line break may follow. It has at most
+// maxTextSize bytes and maxDirectives directives.
 #pragma once
 
 #include <array>
@@ -19,6 +20,7 @@
 #include "sim/level.h"
 
 inline constexpr std::int32_t maxHoles = 100'000;
+inline constexpr int maxDirectives = 256; // a level needs each once; each texture is eight pictures
 
 enum class Directive { TextureFile, FogColour, MarbleColour, HoleCount, Data };
 
@@ -37,9 +39,11 @@ struct LevelFault {
     enum class Cause {
         None,
         FileUnreadable,
-        FileEmpty,        // or nothing but white space
-        TrailingSpace,    // white space follows the last token
-        UnknownToken,     // the token is not a directive's key
+        FileCutOff,    // the disk fails before its end, or it is longer than maxTextSize
+        FileEmpty,     // or nothing but white space
+        TrailingSpace, // white space follows the last token
+        UnknownToken,  // the token is not a directive's key
+        TooManyDirectives,
         TokenTooLong,     // or it holds a zero byte
         ValueMissing,     // the file ends after a key
         NumberMalformed,  // a colour or count that is not an integer in its range
@@ -51,7 +55,8 @@ struct LevelFault {
     };
     Cause cause = Cause::None;
     TextPlace place;
-    std::string token; // the offending token; a picture's file name; why the file is unreadable
+    std::string token; // printable: the offending token; a picture's file name; why the file is
+                       // unreadable or cut off
     Directive directive = Directive::TextureFile; // being read, for the causes within one
     std::int32_t holeCount = 0;                   // HoleMalformed, EndMissing: the number of holes
     std::int32_t number = 0;                      // HoleMalformed: numbers of holes read before it

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <new>
 
+#include "data/file_error.h"
 #include "data/tokens.h"
 #include "state/game.h"
 
@@ -30,13 +31,8 @@ bool readLevelName(TokenReader& reader, std::unique_ptr<char[]>& name) {
     return true;
 }
 
-} // namespace
-
-bool loadLevelList() {
-    TokenReader reader;
-    if (!reader.open(levelListFile)) { return false; }
-    Game.levelCount = 0;
-    reader.readInteger(Game.levelCount);
+bool readList(TokenReader& reader) {
+    if (!reader.readInteger(Game.levelCount)) { return false; }
     if (Game.levelCount <= 0 || Game.levelCount > maxLevels) { return false; }
     if (!allocateList(Game.levelCount)) { return false; }
     const auto count = static_cast<std::size_t>(Game.levelCount);
@@ -45,4 +41,15 @@ bool loadLevelList() {
         if (!readLevelName(reader, Game.levelFiles[i])) { return false; }
     }
     return reader.atEnd();
+}
+
+} // namespace
+
+bool loadLevelList() {
+    TokenReader reader;
+    if (openOrLog(reader, levelListFile) && readList(reader)) { return true; }
+    Game.levelCount = 0;
+    Game.levelTimes.reset();
+    Game.levelFiles.reset();
+    return false;
 }

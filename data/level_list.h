@@ -5,5 +5,5 @@
 inline constexpr const char* levelListFile = "maps/maplist.dat";
 
 // Fills Game.levelCount, levelFiles and levelTimes (each levelTime: not finished). Returns false,
-// without a message, when the list cannot be read; what was read before stays.
+// without a message, when the list cannot be read; the list is then empty.
 bool loadLevelList();

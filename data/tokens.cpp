@@ -9,8 +9,9 @@
 #include <cstring>
 #include <limits>
 #include <system_error>
+#include <vector>
 
-#include "data/file_text.h"
+#include "platform/regular_file.h"
 
 namespace {
 
@@ -103,7 +104,10 @@ bool readIntegerAs(TokenReader& reader, T& value) {
 
 bool TokenReader::open(const char* fileName) {
     *this = {};
-    return readWholeFile(fileName, text, why);
+    std::vector<std::uint8_t> bytes;
+    const bool whole = readRegularFile(fileName, maxTextSize, bytes, why);
+    text.assign(bytes.begin(), bytes.end());
+    return whole || !text.empty();
 }
 
 bool TokenReader::readToken(char (&token)[tokenCapacity]) {
@@ -111,9 +115,10 @@ bool TokenReader::readToken(char (&token)[tokenCapacity]) {
     last = std::min(text.find_first_not_of(whiteSpace, next), text.size());
     next = std::min(text.find_first_of(whiteSpace, last), text.size());
     reachedEnd = next == text.size();
+    cutOff = reachedEnd && !why.empty();
     const std::size_t length = next - last;
     const bool holdsZero = std::memchr(text.data() + last, '\0', length) != nullptr;
-    failed = length == 0 || length >= tokenCapacity || holdsZero;
+    failed = length == 0 || length >= tokenCapacity || holdsZero || cutOff;
     if (failed) { return false; }
     std::memcpy(token, text.data() + last, length);
     token[length] = '\0';

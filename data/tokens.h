@@ -10,6 +10,8 @@
 
 inline constexpr int tokenCapacity = 256; // bytes: 255 characters and the final zero
 
+inline constexpr std::size_t maxTextSize = 4U << 20U; // bytes; of a longer file no more is read
+
 // A position in a file; both count from 1.
 struct TextPlace {
     int line = 1;
@@ -17,14 +19,16 @@ struct TextPlace {
 };
 
 struct TokenReader {
-    std::string text;     // the whole file
+    std::string text;     // the file, or what could be read of it
     std::size_t next = 0; // index of the next character to read
     std::size_t last = 0; // index at which the token read last begins
     bool failed = false;
     bool reachedEnd = false;
-    std::string why; // the reason of a failed open, see data/file_text.h
+    bool cutOff = false; // the last read failed because the rest of the file was not read
+    std::string why;     // the reason for that, or of a failed open (platform/regular_file.h)
 
-    // Reads a file. Returns false when it cannot be read; a missing file is not created.
+    // Reads a file. Returns false when it cannot be read; a missing file is not created. A file
+    // that is longer than maxTextSize, or that the disk gives only in part, is read up to there.
     bool open(const char* fileName);
 
     // Reads one token, zero-terminated. A token of more than 255 characters, or with a zero byte in

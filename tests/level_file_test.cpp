@@ -2,6 +2,7 @@
 #include <GL/gl.h>
 #include <array>
 
+#include "data/level_file.h"
 #include "fakes/play.h"
 
 namespace {
@@ -39,12 +40,17 @@ TEST_F(LevelFile, FillsTheLevelAndColoursTheMarble) {
 
 TEST_F(LevelFile, SaysWhyItIsRefused) {
     const std::string unknown = "a.map contains a unknown token";
+    const std::string forty = "quarantesignes" + std::string(26, 'n');
     const struct {
         std::string text, message;
     } cases[] = {
         {"holecount=0 .data .end", unknown + "holecount=0"},
         {"FogColor= 1", unknown + "FogColor="},
         {"fogcolor= 1 2", unknown + "2"},
+        {"w\xC3\xB6rt\x7F\t1", unknown + "w\xC3\xB6rt?"},
+        {"\x1B[31m\xC2\x9B\xFFred", unknown + "?[31m???red"},
+        {forty, unknown + forty},
+        {forty + "e", unknown + forty + "..."},
         {"texturefile= ground texturefile= no", "no_0.bmp"},
         {"holecount= 1 .data 1 2 3 4", "expected .end"},
         {"holecount= 1 .data 1 2 3 4 .END", "expected .end"},
@@ -58,8 +64,11 @@ TEST_F(LevelFile, SaysWhyItIsRefused) {
         EXPECT_EQ(boxes(), Lines{c.message + " | error | nobody"}) << c.text;
     }
     machine.lines.clear();
-    EXPECT_FALSE(level.load("maps/no.map", marble));
-    EXPECT_EQ(boxes(), Lines{"maps/no.mapfile not found | error | nobody"});
+    // There is none; a folder; there is none, or its first byte cannot be read.
+    for (const char* name : {"no.map", ".", "/proc/self/mem"}) {
+        EXPECT_FALSE(level.load(name, marble));
+        EXPECT_EQ(boxes().back(), std::string(name) + "file not found | error | nobody");
+    }
     std::filesystem::remove("ground_7.bmp");
     EXPECT_FALSE(load("texturefile= ground"));
     EXPECT_EQ(boxes().back(), "ground_7.bmp | error | nobody");
@@ -77,6 +86,13 @@ TEST_F(LevelFile, EndsDirectlyAfterItsLastToken) {
           "holecount= 100000 .data", "marblecolor= 4294967296"}) {
         EXPECT_FALSE(load(text)) << text;
     }
+    std::string text = "fogcolor= 1";
+    for (int i = 1; i < maxDirectives; ++i) {
+        text += " holecount= 1";
+    }
+    EXPECT_TRUE(load(text));
+    EXPECT_FALSE(load(text + " fogcolor= 1"));
+    EXPECT_FALSE(load("fogcolor= 1" + std::string(maxTextSize, ' ') + "fogcolor= 1"));
     EXPECT_EQ(boxes(), Lines{});
 }
 

@@ -2,7 +2,7 @@
 #include <string>
 
 #include "platform/common/errors.h"
-#include "platform/common/regular_file.h"
+#include "platform/regular_file.h"
 #include "platform/windows_api.h"
 
 namespace {

@@ -2,14 +2,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "platform/common/errors.h"
-#include "platform/common/regular_file.h"
 #include "platform/common/sequencer.h"
+#include "platform/regular_file.h"
 #include "platform/sdl/music_stream.h"
 #include "platform/sdl/sound.h"
 #include "platform/sdl/sound_font.h"
@@ -30,16 +29,18 @@ Piece piece;
 } // namespace
 
 MCIERROR loadPiece(const std::string& fileName) {
+    std::vector<std::uint8_t> file;
     std::string why;
-    auto file = readRegularFile(fileName, largestPiece, why);
-    if (!file) { return refuseMusic(pieceNotFound, "cannot read " + fileName + ": " + why); }
-    if (!isPlayableMidi(*file)) {
+    if (!readRegularFile(fileName, largestPiece, file, why)) {
+        return refuseMusic(pieceNotFound, "cannot read " + fileName + ": " + why);
+    }
+    if (!isPlayableMidi(file)) {
         return refuseMusic(badPiece, fileName + " is not a complete MIDI file of up to an hour");
     }
     if (!startSound()) { return musicNotReady; }
     auto soundFonts = findSoundFonts(why);
     if (soundFonts.empty()) { return refuseMusic(musicNotReady, why); }
-    piece = {std::move(*file), std::move(soundFonts)};
+    piece = {std::move(file), std::move(soundFonts)};
     return 0;
 }
 

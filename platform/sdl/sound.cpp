@@ -14,7 +14,7 @@
 
 #include "platform/common/errors.h"
 #include "platform/common/loudness.h"
-#include "platform/common/regular_file.h"
+#include "platform/regular_file.h"
 #include "platform/sdl/audio_format.h"
 #include "platform/windows_api.h"
 
@@ -55,9 +55,9 @@ bool openDevice() {
 }
 
 Chunk load(const std::string& fileName, std::string& why) {
-    const auto file = readRegularFile(fileName, largestEffect, why);
-    if (!file) { return {}; }
-    SDL_RWops* bytes = SDL_RWFromConstMem(file->data(), static_cast<int>(file->size()));
+    std::vector<std::uint8_t> file;
+    if (!readRegularFile(fileName, largestEffect, file, why)) { return {}; }
+    SDL_RWops* bytes = SDL_RWFromConstMem(file.data(), static_cast<int>(file.size()));
     Chunk loaded(bytes != nullptr ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
     if (loaded == nullptr) { why = SDL_GetError(); }
     return loaded;

@@ -2,6 +2,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include <sys/stat.h>
+
+#include "platform/regular_file.h"
 #include "platform/sdl/working_directory.h"
 #include "platform/sdl_machine.h"
 
@@ -76,8 +79,6 @@ TEST_F(Folders, HoldFilesThatAreReadToTheirEndOrNotAtAll) {
 
     EXPECT_EQ(openFile(root / "none"), INVALID_HANDLE_VALUE);
     EXPECT_NE(lastErrorWords().find("none\" cannot be read: No such file"), std::string::npos);
-    EXPECT_EQ(openFile(root), INVALID_HANDLE_VALUE);
-    EXPECT_NE(lastErrorWords().find("it is a folder"), std::string::npos) << lastErrorWords();
     EXPECT_EQ(openFile(root / "file", 2), INVALID_HANDLE_VALUE) << "a new one";
     EXPECT_EQ(CreateFileA(nullptr, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr),
               INVALID_HANDLE_VALUE);
@@ -90,6 +91,29 @@ TEST_F(Folders, HoldFilesThatAreReadToTheirEndOrNotAtAll) {
         got = 99;
         EXPECT_FALSE(ReadFile(unread, bytes, 1, &got, nullptr) || got != 0);
         EXPECT_EQ(CloseHandle(unread), unread == broken ? TRUE : FALSE);
+    }
+}
+
+TEST_F(Folders, HoldFilesThatAreReadAsAWholeOrRefusedWithTheReason) {
+    std::ofstream(root / "file") << std::string(70000, 'a'); // more than one block
+    mkfifo((root / "pipe").c_str(), 0600);
+    const struct {
+        std::string name;
+        std::size_t limit, size;
+        const char* why;
+    } cases[] = {{root / "file", 70000, 70000, ""},
+                 {root / "file", 69999, 69999, "it has more than 69999 bytes"},
+                 {root, 9, 0, "it is a folder"},
+                 {root / "pipe", 9, 0, "it is not a regular file"},
+                 {"/dev/zero", 9, 0, "it is not a regular file"},
+                 {"/proc/self/mem", 9, 0, "Input/output error"},
+                 {"/proc/self/stat", 5, 5, "it has more than 5 bytes"}}; // its size is said to be 0
+    for (const auto& c : cases) {
+        std::vector<std::uint8_t> bytes(3);
+        why.clear();
+        EXPECT_EQ(readRegularFile(c.name, c.limit, bytes, why), *c.why == '\0') << c.name;
+        EXPECT_EQ(why, c.why) << c.name;
+        EXPECT_EQ(bytes.size(), c.size) << c.name;
     }
 }
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "data/level_list.h"
+#include "data/printable.h"
 #include "sim/course.h"
 #include "state/game.h"
 #include "tools/level/colours.h"
@@ -26,7 +27,7 @@ constexpr float idleSeconds = 5.0F;
 constexpr float idleTick = 1.0F / 60.0F;
 
 struct Findings {
-    const std::string& file;
+    std::string file; // its name, printable
     int count = 0;
 
     void add(const std::string& what) {
@@ -134,7 +135,7 @@ void checkCourse(Findings& findings) {
 }
 
 int checkLevel(const std::string& file) {
-    Findings findings = {file};
+    Findings findings = {printable(file)};
     level.fogColourCode = level.marbleColourCode = 0;
     LevelFileReport report;
     if (!startRun(file.c_str(), report)) {
@@ -148,7 +149,7 @@ int checkLevel(const std::string& file) {
         findings.add(warning);
     }
     checkCourse(findings);
-    if (findings.count == 0) { std::printf("%s: good\n", file.c_str()); }
+    if (findings.count == 0) { std::printf("%s: good\n", findings.file.c_str()); }
     return findings.count == 0 ? exitOk : exitFault;
 }
 

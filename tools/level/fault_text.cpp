@@ -42,11 +42,14 @@ std::string describe(const LevelFault& fault) {
     switch (fault.cause) {
     case Cause::None: return "nothing is wrong";
     case Cause::FileUnreadable: return "the file cannot be read: " + fault.token;
+    case Cause::FileCutOff: return "the rest of the file cannot be read: " + fault.token;
     case Cause::FileEmpty: return "the file is empty";
     case Cause::TrailingSpace:
         return "the file goes on with a line break or a blank: the game refuses a level that "
                "does not end directly after its last word";
     case Cause::UnknownToken: return unknownToken(fault.token);
+    case Cause::TooManyDirectives:
+        return "this is one more than " + std::to_string(maxDirectives) + " directives";
     case Cause::TokenTooLong: return "a word longer than 255 characters, or with a zero byte in it";
     case Cause::ValueMissing: return "the file ends after " + quote(keyOf(fault.directive));
     case Cause::NumberMalformed:

@@ -9,7 +9,8 @@
 #include <sstream>
 #include <system_error>
 
-#include "data/file_text.h"
+#include "data/printable.h"
+#include "platform/regular_file.h"
 
 namespace {
 
@@ -67,7 +68,8 @@ std::string takeKeys(const std::vector<std::string>& words, KeyFile& into) {
     Keys keys = noKey;
     for (std::size_t i = 1; i < words.size(); ++i) {
         if (!addKey(words[i], keys)) {
-            return "unknown key \"" + words[i] + "\", expected up, down, left, right, shift or -";
+            return "unknown key \"" + printableToken(words[i]) +
+                   "\", expected up, down, left, right, shift or -";
         }
     }
     into.ticks.insert(into.ticks.end(), static_cast<std::size_t>(count), keys);
@@ -94,13 +96,13 @@ bool readTicksPerSecond(const std::string& word, int& ticksPerSecond) {
 }
 
 bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error) {
-    std::string text;
+    std::vector<std::uint8_t> bytes;
     std::string why;
-    if (!readWholeFile(fileName, text, why)) {
+    if (!readRegularFile(fileName, maxKeyFileSize, bytes, why)) {
         error = fileName + ": cannot be read: " + why;
         return false;
     }
-    std::istringstream lines(text);
+    std::istringstream lines(std::string(bytes.begin(), bytes.end()));
     std::string line;
     for (int number = 1; std::getline(lines, line); ++number) {
         const std::string wrong = takeLine(line, into);

@@ -17,6 +17,8 @@
 inline constexpr int minTicksPerSecond = 10;
 inline constexpr int maxTicksPerSecond = 10'000;
 
+inline constexpr std::size_t maxKeyFileSize = 16U << 20U; // bytes; enough for a million ticks
+
 // The longest drive; a level ends within half of that unless the marble is caught forever.
 inline constexpr int maxDriveSeconds = 100;
 
@@ -30,6 +32,7 @@ struct KeyFile {
 // Reads a whole number within these bounds. Returns false for anything else.
 bool readTicksPerSecond(const std::string& word, int& ticksPerSecond);
 
-// Return false, with the reason and the line of a malformed file in `error`.
+// Return false, with the reason and the line of a malformed file in `error`. A file of more than
+// maxKeyFileSize bytes is not read.
 bool readKeyFile(const std::string& fileName, KeyFile& into, std::string& error);
 bool writeKeyFile(const std::string& fileName, const KeyFile& drive, std::string& error);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "data/file_text.h"
 #include "data/mip_chain.h"
+#include "platform/regular_file.h"
 #include "sim/level_clock.h"
 #include "sim/penalty.h"
 #include "sim/simulation.h"
@@ -18,10 +18,11 @@ constexpr int levelsInRun = 2;
 int catches = 0;
 
 bool readPicture(const char* fileName, std::uint8_t* pixels, std::int32_t capacity) {
-    std::string file;
-    std::string why;
-    if (!readWholeFile(fileName, file, why)) { return false; }
     constexpr std::size_t headers = bitmapFileHeaderSize + bitmapInfoHeaderSize;
+    const std::size_t most = headers + static_cast<std::size_t>(capacity);
+    std::vector<std::uint8_t> file;
+    std::string why;
+    if (!readRegularFile(fileName, most, file, why) && file.size() < most) { return false; }
     file.resize(std::max(file.size(), headers)); // missing bytes of the headers count as 0
     std::uint8_t infoHeader[bitmapInfoHeaderSize];
     std::memcpy(infoHeader, file.data() + bitmapFileHeaderSize, sizeof infoHeader);
