@@ -266,6 +266,21 @@ TEST(Drives, AreRefusedWithTheLineAndTheReason) {
     }
 }
 
+TEST(Drives, ReplaceAFileOnlyWhenAsked) {
+    const HandWritten course;
+    const HandWritten keys;
+    course.write("holecount= 0 .data .end");
+    std::vector<std::string> drive = {course.name, "--player", "up", "--keys", keys.name};
+    EXPECT_EQ(driveLevel({drive}), exitOk);
+    keys.write("mine");
+    EXPECT_EQ(driveLevel({drive}), exitUsage);
+    EXPECT_EQ(readFile(keys.name), "mine");
+    drive.emplace_back("--force");
+    EXPECT_EQ(driveLevel({drive}), exitOk);
+    EXPECT_TRUE(readFile(keys.name).starts_with("ticks 60\n"));
+    EXPECT_FALSE(reasonNotToWrite(testing::TempDir(), true).empty());
+}
+
 TEST(Drives, EndForAMarbleThatIsCaughtForever) {
     const HandWritten file;
     file.write("holecount= 1 .data 0 0 1e30 1 .end");

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
+
+#include "data/printable.h"
 
 bool Arguments::takeFlag(const std::string& flag) {
     return std::erase(values, flag) > 0;
@@ -22,13 +25,21 @@ std::string Arguments::unknownOption() const {
     return found == values.end() ? std::string() : *found;
 }
 
+std::string reasonNotToWrite(const std::string& file, bool force) {
+    std::error_code ignored;
+    const std::filesystem::file_status there = std::filesystem::status(file, ignored);
+    if (!exists(there)) { return {}; }
+    if (!is_regular_file(there)) { return file + " is not a regular file"; }
+    return force ? "" : file + " exists already; --force replaces it";
+}
+
 int usageError(const std::string& command, const std::string& why) {
     std::fprintf(stderr, "glorbix-level %s: %s (see glorbix-level %s --help)\n", command.c_str(),
-                 why.c_str(), command.c_str());
+                 printable(why).c_str(), command.c_str());
     return exitUsage;
 }
 
 int failure(const std::string& why) {
-    std::fprintf(stderr, "glorbix-level: %s\n", why.c_str());
+    std::fprintf(stderr, "glorbix-level: %s\n", printable(why).c_str());
     return exitUsage;
 }

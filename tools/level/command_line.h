@@ -25,6 +25,10 @@ struct Arguments {
     std::string unknownOption() const;
 };
 
+// Returns why a command may not write that file, an empty text when it may. A file that exists is
+// replaced only when `force` is set; a folder, a device or a pipe never.
+std::string reasonNotToWrite(const std::string& file, bool force);
+
 // Reports wrong arguments in one line that also names the help. Returns exitUsage.
 int usageError(const std::string& command, const std::string& why);
 

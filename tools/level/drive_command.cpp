@@ -19,6 +19,7 @@ struct Options {
     std::string level;
     int ticksPerSecond = 60;
     std::string keysOut;                 // empty: do not write them
+    bool force = false;                  // replace that file
     std::string keysIn;                  // empty: a player or the automatic driver plays
     const PlayerSkill* player = nullptr; // nullptr: the automatic driver
     int runs = 1;
@@ -62,6 +63,7 @@ std::string parseOptions(Arguments& arguments, Options& options) {
                    std::to_string(maxTicksPerSecond) + ", a whole number of ticks a second";
         }
     }
+    options.force = arguments.takeFlag("--force");
     if (const auto keys = arguments.takeOption("--keys")) { options.keysOut = absolutePath(*keys); }
     if (const auto play = arguments.takeOption("--play")) { options.keysIn = absolutePath(*play); }
     if (std::string why = takePlayer(arguments, options); !why.empty()) { return why; }
@@ -75,6 +77,7 @@ std::string parseOptions(Arguments& arguments, Options& options) {
     if (options.runs > 1 && !options.keysOut.empty()) {
         return "expected --runs or --keys, not both";
     }
+    if (options.force && options.keysOut.empty()) { return "expected --keys with --force"; }
     options.level = arguments.values[0];
     return {};
 }
@@ -159,6 +162,10 @@ int driveLevel(Arguments arguments) {
     std::string error;
     if (!options.keysIn.empty() && !readKeyFile(options.keysIn, keys, error)) {
         return failure(error);
+    }
+    if (!options.keysOut.empty()) {
+        const std::string why = reasonNotToWrite(options.keysOut, options.force);
+        if (!why.empty()) { return failure(why); }
     }
     enterGameFolder(options.level);
     LevelFileReport report;

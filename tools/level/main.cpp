@@ -20,19 +20,22 @@ constexpr Command commands[] = {
      "  Exits with 0 when all is good, 1 when a level has faults, 2 when a file cannot be read.\n"},
 #ifdef GLORBIX_DRAWS_MAPS
     {"map", drawMap,
-     "glorbix-level map FILE -o PNG [--keys KEYS]\n"
+     "glorbix-level map FILE -o PNG [--keys KEYS] [--force]\n"
      "  Draws the course from above: heights with light and contour lines, wells with their catch\n"
      "  circles, the spots to which they put the marble back, start and goal. Play goes from left\n"
-     "  to right, first the upper strip, then the lower. With --keys also the line of a drive.\n"},
+     "  to right, first the upper strip, then the lower. With --keys also the line of a drive.\n"
+     "  An existing picture is replaced only with --force.\n"},
 #endif
     {"drive", driveLevel,
-     "glorbix-level drive FILE [--tick N] [--keys KEYS] [--player P [--seed N]]\n"
+     "glorbix-level drive FILE [--tick N] [--keys KEYS [--force]] [--player P [--seed N]]\n"
      "glorbix-level drive FILE --player P --runs N [--seed N] [--tick N]\n"
      "glorbix-level drive FILE --play KEYS\n"
      "  Plays the level by the game's own rules, only through held keys, and prints time, catches\n"
      "  and turbo left. Exits with 0 when the goal was reached, 1 when not.\n"
      "    --tick N     ticks a second, 10 to 10000 (default: 60)\n"
-     "    --keys KEYS  writes the keys that were held to this file\n"
+     "    --keys KEYS  writes the keys that were held to this file; an existing one is replaced "
+     "only\n"
+     "                 with --force\n"
      "    --player P   a model of a player instead of the automatic driver: up holds Up and\n"
      "                 nothing else, average is late and not exact, good is quicker\n"
      "    --seed N     the player's errors, 1 to 1000000 (default: 1); the same seed, the same "

@@ -6,6 +6,7 @@
 #include "tools/level/return_spots.h"
 
 int drawMap(Arguments arguments) {
+    const bool force = arguments.takeFlag("--force");
     const auto out = arguments.takeOption("-o");
     const auto keysFile = arguments.takeOption("--keys");
     if (const std::string option = arguments.unknownOption(); !option.empty()) {
@@ -16,6 +17,9 @@ int drawMap(Arguments arguments) {
     }
 
     const std::string picture = absolutePath(*out);
+    if (const std::string why = reasonNotToWrite(picture, force); !why.empty()) {
+        return failure(why);
+    }
     KeyFile keys;
     std::string error;
     if (keysFile && !readKeyFile(*keysFile, keys, error)) { return failure(error); }

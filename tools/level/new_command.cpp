@@ -1,5 +1,4 @@
 // glorbix-level new: a small level to start from.
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -33,12 +32,9 @@ int newLevel(Arguments arguments) {
     }
     if (arguments.values.size() != 1) { return usageError("new", "expected one file"); }
     const std::string& file = arguments.values[0];
-    std::error_code ignored;
-    const std::filesystem::file_status there = std::filesystem::status(file, ignored);
-    if (exists(there) && !is_regular_file(there)) {
-        return failure(file + " is not a regular file");
+    if (const std::string why = reasonNotToWrite(file, force); !why.empty()) {
+        return failure(why);
     }
-    if (!force && exists(there)) { return failure(file + " exists already; --force replaces it"); }
     std::ofstream out(file, std::ios::binary);
     out << smallLevel();
     out.close();
