@@ -9,7 +9,16 @@
 
 namespace {
 
+// By this name a desktop finds the icon and the entry of the window. SDL 2 takes it from the
+// environment; on top of SDL 3 it is a hint.
+void setApplicationId() {
+    SDL_setenv("SDL_VIDEO_X11_WMCLASS", GLORBIX_APPLICATION_ID, 0);
+    SDL_setenv("SDL_VIDEO_WAYLAND_WMCLASS", GLORBIX_APPLICATION_ID, 0);
+    SDL_SetHint("SDL_APP_ID", GLORBIX_APPLICATION_ID);
+}
+
 void setHints() {
+    setApplicationId();
     SDL_SetHint(SDL_HINT_APP_NAME, "Glorbix");
     SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
     // The close button then sends one request, not two.
