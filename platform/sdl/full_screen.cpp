@@ -31,11 +31,10 @@ void applyFullScreen(bool on) {
     if (!on) { centreOrdinaryWindow(); }
 }
 
-// The game resets the mode when it ends. The window is hidden first, so that the desktop appears
-// without a smaller window in between.
+// The game resets the mode when it ends. The window is hidden, so that the desktop appears without
+// a smaller window in between. Its size is set when it is shown again; before that SDL 3 cannot.
 void hideWindow() {
     SDL_HideWindow(gameWindow.sdl);
-    applyFullScreen(false);
     gameWindow.shown = false;
 }
 
@@ -54,7 +53,7 @@ void setFullScreen(bool on) {
 void showOnDesktop() {
     if (modeIsSet) { coverDesktop(); }
     SDL_ShowWindow(gameWindow.sdl);
-    if (modeIsSet) { applyFullScreen(true); }
+    applyFullScreen(modeIsSet);
     SDL_RaiseWindow(gameWindow.sdl);
     gameWindow.shown = true;
     gameWindow.needsPaint = true;
