@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <SDL.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/common/errors.h"
@@ -43,15 +44,29 @@ std::vector<fs::path> candidateFolders() {
     return candidates;
 }
 
+// Where players' programs keep files, by the rules of free desktops; an empty path when the
+// environment does not say. SDL_GetPrefPath would take a relative path too, and SDL 3 reads the
+// environment only once.
+fs::path folderOfPlayersData() {
+    const char* chosen = std::getenv("XDG_DATA_HOME");
+    if (chosen != nullptr && *chosen == '/') { return chosen; }
+    const char* home = std::getenv("HOME");
+    return home != nullptr && *home == '/' ? fs::path(home) / ".local/share" : fs::path();
+}
+
 // Returns the player's own folder, which is made if it is missing; an empty path when that fails.
 fs::path makeOwnFolder(std::string& why) {
-    const char* home = std::getenv("XDG_DATA_HOME");
-    if (home != nullptr && *home != '/') {
-        unsetenv("XDG_DATA_HOME"); // a relative path is not valid in it
+    const fs::path folder = folderOfPlayersData();
+    if (folder.empty()) {
+        why = "there is no folder for the player's files: HOME names none";
+        return {};
     }
-    const SdlText folder(SDL_GetPrefPath(nullptr, "glorbix"));
-    if (folder != nullptr) { return folder.get(); }
-    why = std::string("there is no folder for the player's files: ") + SDL_GetError();
+    std::error_code error;
+    const mode_t before = umask(077); // new folders are the player's alone
+    fs::create_directories(folder / "glorbix", error);
+    umask(before);
+    if (!error) { return folder / "glorbix"; }
+    why = "cannot make " + (folder / "glorbix").string() + ": " + error.message();
     return {};
 }
 
