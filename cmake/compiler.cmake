@@ -1,8 +1,15 @@
 # How everything of ours is compiled: strict arithmetic, strict warnings.
+include(CheckCXXSymbolExists)
+
 add_library(glorbix_compiler INTERFACE)
 
 # The marble must roll alike on every machine, so the compiler must not fuse multiply and add.
 target_compile_options(glorbix_compiler INTERFACE -ffp-contract=off)
+# The x87 unit of 32-bit x86 would calculate with more bits than the types have.
+check_cxx_symbol_exists(__i386__ cstddef GLORBIX_X86_32)
+if(GLORBIX_X86_32)
+  target_compile_options(glorbix_compiler INTERFACE -msse2 -mfpmath=sse)
+endif()
 # With this vectorizer, GCC 12 gives other last bits at -O2 than at -O1 and than other compilers.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(glorbix_compiler INTERFACE -fno-tree-slp-vectorize)

@@ -21,7 +21,8 @@ constexpr bool is = std::is_same_v<Function, Pointer>;
 // Types. Where long has 64 bits no type can be a long of Windows, so an int of 32 takes its place.
 
 static_assert(isOf<BYTE, 1> && isOf<WORD, 2> && isOf<SHORT, 2> && isOf<ATOM, 2>);
-static_assert(isOf<BOOL, 4> && isOf<UINT, 4> && isOf<MCIDEVICEID, 4> && isOf<LONGLONG, 8>);
+static_assert(isOf<BOOL, 4> && isOf<UINT, 4> && isOf<MCIDEVICEID, 4>);
+static_assert(sizeof(LONGLONG) == 8); // 32-bit systems other than Windows may align it to 4
 static_assert(isOf<LONG, 4> && isOf<DWORD, 4> && is<MCIERROR, DWORD>);
 static_assert(sizeof(long) != 4 || (is<LONG, long> && is<DWORD, unsigned long>));
 static_assert(std::is_signed_v<SHORT> && std::is_signed_v<LONG> && std::is_signed_v<LONGLONG>);
