@@ -1,4 +1,5 @@
 # How everything of ours is compiled: strict arithmetic, strict warnings.
+include(CheckCXXSourceCompiles)
 include(CheckCXXSymbolExists)
 
 add_library(glorbix_compiler INTERFACE)
@@ -23,10 +24,22 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(glorbix_compiler INTERFACE -Wno-restrict)
 endif()
 
+# Stops where the compiler cannot make a program with that option.
+function(need_runtime name program flag why)
+  set(CMAKE_REQUIRED_FLAGS ${flag})
+  check_cxx_source_compiles("${program}" ${name})
+  need(${name} "A compiler with ${flag} and its libraries" "clang with libclang-rt-dev" ${why})
+endfunction()
+
 if(GLORBIX_SANITIZE)
+  need_runtime(GLORBIX_CAN_SANITIZE "int main() { return 0; }" -fsanitize=address,undefined
+    GLORBIX_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 if(GLORBIX_FUZZ)
+  need_runtime(GLORBIX_CAN_FUZZ
+    "extern \"C\" int LLVMFuzzerTestOneInput(const unsigned char*, unsigned long) { return 0; }"
+    -fsanitize=fuzzer GLORBIX_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

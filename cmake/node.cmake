@@ -12,9 +12,7 @@ add_library(glorbix_node INTERFACE)
 target_link_options(glorbix_node INTERFACE
   -sENVIRONMENT=node -sNODERAWFS=1 -sALLOW_MEMORY_GROWTH=1 -sEXIT_RUNTIME=1)
 
-# GoogleTest comes as a library for this machine only; its sources are beside it.
 if(GLORBIX_TESTS)
-  set(INSTALL_GTEST OFF)
-  add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+  include(cmake/googletest.cmake)
   target_link_libraries(gtest INTERFACE glorbix_node)
 endif()

@@ -10,6 +10,11 @@ set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-${GLORBIX_MINGW})
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-${GLORBIX_MINGW})
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+find_program(GLORBIX_MINGW_FOUND ${CMAKE_CXX_COMPILER})
+if(NOT GLORBIX_MINGW_FOUND)
+  message(FATAL_ERROR "${CMAKE_CXX_COMPILER} was not found. Debian's package: "
+    "g++-mingw-w64-x86-64-${GLORBIX_MINGW}")
+endif()
 
 # Programs need no libraries of the compiler beside them.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)

@@ -18,14 +18,12 @@ constexpr Command commands[] = {
      "  Reads level files, or maps/maplist.dat with all its levels, as the game does. Reports\n"
      "  why the game would refuse one, and what it accepts but is probably a mistake.\n"
      "  Exits with 0 when all is good, 1 when a level has faults, 2 when a file cannot be read.\n"},
-#ifdef GLORBIX_DRAWS_MAPS
     {"map", drawMap,
      "glorbix-level map FILE -o PNG [--keys KEYS] [--force]\n"
      "  Draws the course from above: heights with light and contour lines, wells with their catch\n"
      "  circles, the spots to which they put the marble back, start and goal. Play goes from left\n"
      "  to right, first the upper strip, then the lower. With --keys also the line of a drive.\n"
      "  An existing picture is replaced only with --force.\n"},
-#endif
     {"drive", driveLevel,
      "glorbix-level drive FILE [--tick N] [--keys KEYS [--force]] [--player P [--seed N]]\n"
      "glorbix-level drive FILE --player P --runs N [--seed N] [--tick N]\n"
