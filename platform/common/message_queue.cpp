@@ -15,6 +15,7 @@ struct Queue {
     std::deque<MSG> posted;
     std::deque<MSG> input;
     std::optional<int> quitCode;
+    bool askedToEnd = false;
 };
 
 Queue queue;
@@ -24,7 +25,9 @@ bool takeFrom(std::deque<MSG>& messages, const MessageFilter& filter, bool remov
                                     [&](const MSG& message) { return filter.accepts(message); });
     if (found == messages.end()) { return false; }
     *taken = *found;
-    if (remove) { messages.erase(found); }
+    if (!remove) { return true; }
+    messages.erase(found);
+    queue.askedToEnd |= taken->message == WM_CLOSE || taken->message == WM_DESTROY;
     return true;
 }
 
@@ -70,6 +73,10 @@ bool takeQuit(bool remove, MSG* taken) {
 
 bool takeInput(const MessageFilter& filter, bool remove, MSG* taken) {
     return takeFrom(queue.input, filter, remove, taken);
+}
+
+bool wasAskedToEnd() {
+    return queue.askedToEnd;
 }
 
 BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -31,3 +31,7 @@ void removePostedMessages(UINT message, WPARAM wParam);
 bool takePosted(const MessageFilter& filter, bool remove, MSG* taken);
 bool takeQuit(bool remove, MSG* taken);
 bool takeInput(const MessageFilter& filter, bool remove, MSG* taken);
+
+// Returns true once WM_CLOSE or WM_DESTROY was taken from the queue. A game that ends without them
+// has given up.
+bool wasAskedToEnd();

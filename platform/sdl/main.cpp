@@ -7,6 +7,7 @@
 #include <SDL.h>
 
 #include "platform/common/errors.h"
+#include "platform/common/message_queue.h"
 #include "platform/sdl/shutdown.h"
 #include "platform/sdl/working_directory.h"
 #include "platform/windows_api.h"
@@ -24,14 +25,16 @@ keys, files and variables: man glorbix
 )";
 
 int runGame() {
-    std::string why;
-    if (!chooseWorkingDirectory(why)) {
-        MessageBoxA(nullptr, why.c_str(), nullptr, MB_ICONHAND);
+    std::string text;
+    if (!chooseWorkingDirectory(text)) {
+        MessageBoxA(nullptr, text.c_str(), nullptr, MB_ICONHAND);
         return exitFailure;
     }
+    if (!text.empty()) { MessageBoxA(nullptr, text.c_str(), "Notice", MB_OK); }
     char noArguments[] = "";
     const int code = WinMain(nullptr, nullptr, noArguments, SW_SHOW);
-    return code == 0 && hadFatalError() ? exitFailure : code;
+    // The game itself ends with 0 in every case, also when it refuses a level.
+    return code == 0 && (hadFatalError() || !wasAskedToEnd()) ? exitFailure : code;
 }
 
 int answer(const std::string& argument) {
