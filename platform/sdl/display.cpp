@@ -1,6 +1,5 @@
 #include "platform/display_mode.h"
 #include "platform/sdl/full_screen.h"
-#include "platform/sdl/video.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -12,8 +11,10 @@ bool isOffered(const DEVMODEA& mode) {
 
 } // namespace
 
+// The mode is the provider's own, so it is there without a display too. CreateWindowExA then says
+// what is missing.
 BOOL WINAPI EnumDisplaySettingsA(const char*, DWORD index, DEVMODEA* mode) {
-    if (index != 0 || mode == nullptr || !startVideo()) { return FALSE; }
+    if (index != 0 || mode == nullptr) { return FALSE; }
     mode->dmSize = sizeof *mode;
     mode->dmFields = DM_BITSPERPEL | DM_PELSWIDTH | DM_PELSHEIGHT;
     mode->dmBitsPerPel = screenColourBits;
@@ -24,7 +25,6 @@ BOOL WINAPI EnumDisplaySettingsA(const char*, DWORD index, DEVMODEA* mode) {
 
 LONG WINAPI ChangeDisplaySettingsA(DEVMODEA* mode, DWORD) {
     if (mode != nullptr && !isOffered(*mode)) { return DISP_CHANGE_BADMODE; }
-    if (mode != nullptr && !startVideo()) { return DISP_CHANGE_FAILED; }
     setFullScreen(mode != nullptr);
     return DISP_CHANGE_SUCCESSFUL;
 }
