@@ -2,6 +2,7 @@
 // events, and a clock that can be stopped.
 #pragma once
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <map>
@@ -22,8 +23,16 @@ inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value S
 inline std::optional<SDL_Rect> roomOnDesktop; // without a value the display's own
 inline int refreshRate = 0;                   // of the display; 0: not known
 inline int framesShown = 0;
+inline double clockJump = 0.0; // seconds
 
 // The linker takes these instead of SDL's. Without a screen there is nothing to swap.
+[[gnu::used]] inline Uint64 SDLCALL SDL_GetPerformanceCounter() {
+    const std::chrono::duration<double> now = std::chrono::steady_clock::now().time_since_epoch();
+    const double count =
+        (now.count() + clockJump) * static_cast<double>(SDL_GetPerformanceFrequency());
+    return static_cast<Uint64>(static_cast<Sint64>(count));
+}
+
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetTicks64() {
     return stoppedClock.value_or(SDL_GetTicks());
 }
