@@ -16,8 +16,8 @@
 
 namespace {
 
-// bytes; isPlayableMidi takes too long for a larger piece
-constexpr std::size_t largestPiece = 1 << 20;
+// bytes; isPlayableMidi takes up to 25 ms for it, and the game waits so long
+constexpr std::size_t largestPiece = 128 << 10;
 
 struct Piece {
     std::vector<std::uint8_t> file;

@@ -23,6 +23,9 @@ namespace {
 constexpr int framesPerBuffer = 1024;           // 23 ms from the call to the sound
 constexpr int effectChannel = 0;                // of the mixer
 constexpr std::size_t largestEffect = 64 << 20; // bytes
+constexpr double longestEffect = 30.0;          // seconds
+constexpr int lowestRate = 4000;                // frames a second
+constexpr int highestRate = 192000;
 
 struct ChunkDeleter {
     void operator()(Mix_Chunk* chunk) const { Mix_FreeChunk(chunk); }
@@ -54,11 +57,40 @@ bool openDevice() {
     return true;
 }
 
+SDL_RWops* streamOf(const std::vector<std::uint8_t>& file) {
+    return SDL_RWFromConstMem(file.data(), static_cast<int>(file.size()));
+}
+
+double secondsOf(const SDL_AudioSpec& format, Uint32 bytes) {
+    return static_cast<double>(bytes) / (SDL_AUDIO_BITSIZE(format.format) / 8.0) / format.channels /
+           format.freq;
+}
+
+// SDL_mixer converts a file to the rate of the device at once, so that a small file of a low rate
+// would take gigabytes.
+bool isWorthConverting(const std::vector<std::uint8_t>& file, std::string& why) {
+    SDL_AudioSpec format = {};
+    Uint8* samples = nullptr; // decoded
+    Uint32 bytes = 0;
+    if (SDL_LoadWAV_RW(streamOf(file), 1, &format, &samples, &bytes) == nullptr) {
+        why = SDL_GetError();
+        return false;
+    }
+    SDL_FreeWAV(samples);
+    if (format.freq < lowestRate || format.freq > highestRate) {
+        why = "its rate is " + std::to_string(format.freq) + " Hz, not 4 to 192 kHz";
+    } else if (secondsOf(format, bytes) > longestEffect) {
+        why = "it is longer than 30 seconds";
+    }
+    return why.empty();
+}
+
 Chunk load(const std::string& fileName, std::string& why) {
     std::vector<std::uint8_t> file;
-    if (!readRegularFile(fileName, largestEffect, file, why)) { return {}; }
-    SDL_RWops* bytes = SDL_RWFromConstMem(file.data(), static_cast<int>(file.size()));
-    Chunk loaded(bytes != nullptr ? Mix_LoadWAV_RW(bytes, 1) : nullptr);
+    if (!readRegularFile(fileName, largestEffect, file, why) || !isWorthConverting(file, why)) {
+        return {};
+    }
+    Chunk loaded(Mix_LoadWAV_RW(streamOf(file), 1));
     if (loaded == nullptr) { why = SDL_GetError(); }
     return loaded;
 }

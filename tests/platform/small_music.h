@@ -24,6 +24,11 @@ inline std::string chunk(const std::string& tag, const std::string& data) {
     return tag + words({size, size >> 16}) + data;
 }
 
+// A WAVE file of samples that are coded in that way.
+inline std::string waveFile(const std::string& format, const std::string& data) {
+    return chunk("RIFF", "WAVE" + chunk("fmt ", format) + chunk("data", data));
+}
+
 // A WAVE file that holds one level for that long.
 inline std::string waveFile(int level, double seconds) {
     constexpr int rate = 4 * samplesPerSecond; // bytes
@@ -31,8 +36,7 @@ inline std::string waveFile(int level, double seconds) {
     for (int i = 0; i < static_cast<int>(seconds * samplesPerSecond); ++i) {
         data += words({level, level});
     }
-    const auto format = words({1, 2, samplesPerSecond, 0, rate, rate >> 16, 4, 16});
-    return chunk("RIFF", "WAVE" + chunk("fmt ", format) + chunk("data", data));
+    return waveFile(words({1, 2, samplesPerSecond, 0, rate, rate >> 16, 4, 16}), data);
 }
 
 // A sound font of one instrument, a steady tone.
