@@ -10,6 +10,7 @@
 #include "platform/sdl/surface.h"
 #include "platform/sdl/video.h"
 #include "platform/sdl/window_handle.h"
+#include "platform/sdl/x11_errors.h"
 #include "platform/windows_api.h"
 
 namespace {
@@ -25,6 +26,7 @@ bool isGameWindow(HWND handle) {
 // Without OpenGL an ordinary window still opens, so that the game can show in a message box what is
 // missing.
 void openWindow(const char* title) {
+    const XErrorsIgnored ignored;
     prepareSurfaceAttributes();
     const Uint32 flags = SDL_WINDOW_HIDDEN | SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI;
     const WindowSize size = windowedSize();

@@ -17,7 +17,6 @@ constexpr const char* listOfLevels = "maps/maplist.dat";
 constexpr const char* dataFolders[] = {"maps", "graphics", "sounds"};
 constexpr const char* rivalsFile = "rivals.dat";
 constexpr const char* bestTimesFile = "highScore.dat";
-constexpr const char* timesMayBeLost = "; best times may be lost";
 
 struct SdlFree {
     void operator()(char* text) const { SDL_free(text); }
@@ -107,13 +106,55 @@ bool canWriteHere() {
     return access(".", W_OK) == 0;
 }
 
+bool prepareAndEnter(const fs::path& data, const fs::path& folder, std::string& why) {
+    return linkGameData(data, folder, why) && layOutRivals(data, folder, why) && enter(folder, why);
+}
+
 bool enterOwnFolder(const fs::path& data, std::string& why) {
     const fs::path own = makeOwnFolder(why);
-    if (own.empty() || !linkGameData(data, own, why) || !enter(own, why)) { return false; }
-    std::string whyNoRivals;
-    if (!layOutRivals(data, own, whyNoRivals)) { logError(whyNoRivals); }
-    if (!canWriteHere()) { logError("cannot write to " + own.string() + timesMayBeLost); }
+    if (own.empty() || !prepareAndEnter(data, own, why)) { return false; }
+    if (!canWriteHere()) { why = "cannot write to " + own.string(); }
     return true;
+}
+
+// Removed when the process ends.
+struct TemporaryFolder {
+    fs::path path; // empty: there is none
+
+    bool make(const fs::path& parent) {
+        remove();
+        std::string name = parent / "glorbix-XXXXXX";
+        if (mkdtemp(name.data()) != nullptr) { path = name; }
+        return !path.empty();
+    }
+
+    void remove() {
+        std::error_code ignored;
+        if (!path.empty()) { fs::remove_all(path, ignored); }
+        path.clear();
+    }
+
+    ~TemporaryFolder() { remove(); }
+};
+
+TemporaryFolder temporary;
+
+// The second place serves where the first is on a full disk.
+bool enterTemporaryFolder(const fs::path& data) {
+    std::error_code ignored;
+    std::string unused;
+    for (const fs::path& parent : {fs::temp_directory_path(ignored), fs::path("/dev/shm")}) {
+        if (temporary.make(parent) && prepareAndEnter(data, temporary.path, unused)) {
+            return true;
+        }
+    }
+    temporary.remove();
+    return false;
+}
+
+bool hasBestTimes(const fs::path& folder) {
+    std::error_code ignored;
+    return fs::is_regular_file(folder / bestTimesFile, ignored);
 }
 
 } // namespace
@@ -139,25 +180,30 @@ bool linkGameData(const fs::path& data, const fs::path& own, std::string& why) {
 bool layOutRivals(const fs::path& data, const fs::path& own, std::string& why) {
     std::error_code error;
     const fs::path times = own / bestTimesFile;
-    if (fs::exists(fs::symlink_status(times, error)) || !fs::exists(data / rivalsFile, error)) {
-        return true;
-    }
+    const bool isReadable = access((data / rivalsFile).c_str(), R_OK) == 0;
+    if (fs::exists(fs::symlink_status(times, error)) || !isReadable) { return true; }
     if (fs::copy_file(data / rivalsFile, times, error)) {
         // Installed data may be read-only, the player's file is not.
         fs::permissions(times, fs::perms::owner_write, fs::perm_options::add, error);
         return true;
     }
-    why = "cannot copy the rivals to " + times.string() + ": " + error.message();
+    why = "cannot write " + times.string() + ": " + error.message();
+    fs::remove(times, error); // a full disk leaves a part of it
     return false;
 }
 
 bool enterPlayerFolder(const fs::path& data, std::string& why) {
-    std::string whyNotOwn;
-    if (enterOwnFolder(data, whyNotOwn)) { return true; }
-    logError(whyNotOwn + timesMayBeLost);
-    if (enter(data, why)) { return true; }
-    why = "The game " + why + ".";
-    return false;
+    std::string cause;
+    const bool inOwn = enterOwnFolder(data, cause);
+    const bool inOther = inOwn || (!hasBestTimes(data) && enterTemporaryFolder(data));
+    if (!inOther && !enter(data, why)) {
+        why = "The game " + why + ".";
+        return false;
+    }
+    if (!temporary.path.empty() || !canWriteHere()) {
+        why = "Best times will not be saved: " + cause + ".";
+    }
+    return true;
 }
 
 bool chooseWorkingDirectory(std::string& why) {

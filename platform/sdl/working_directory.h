@@ -2,7 +2,8 @@
 // keeps the best times. Players cannot write to installed data, so each has a folder of their own
 // that links to it.
 //
-// The operations that return false put the reason into `why`.
+// The operations that return false put the reason into `why`. Where best times cannot be kept, the
+// last two return true, and `why` is a notice to the player.
 #pragma once
 
 #include <filesystem>
@@ -22,13 +23,14 @@ bool linkGameData(const std::filesystem::path& data, const std::filesystem::path
 
 // Gives a player who has no best times yet a table to beat: copies the rivals of `data` to the file
 // of best times in `own`. Does nothing where that file, or a link of its name, is there already, or
-// where the data has no rivals. Returns false when it cannot be copied.
+// where the data has no rivals that can be read. Returns false when the file cannot be written.
 bool layOutRivals(const std::filesystem::path& data, const std::filesystem::path& own,
                   std::string& why);
 
 // Enters the player's own folder, $XDG_DATA_HOME/glorbix or ~/.local/share/glorbix, with links to
-// `data` and best times to beat. When that fails, writes the cause on standard error and enters
-// `data` itself. Returns false, with a sentence, when that fails too.
+// `data` and best times to beat. When that fails, enters `data` itself if it holds best times, or
+// else a folder like the player's that is removed when the process ends, or else `data`. Returns
+// false, with a sentence, when none can be entered.
 bool enterPlayerFolder(const std::filesystem::path& data, std::string& why);
 
 // Chooses the working directory before the game starts: the current one when it holds the data and

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The real game on a machine that fails: odd things in place of the best times, kills while they are
-# saved, a full disk, a read-only folder, a process that was stopped, a display server that dies. Best
-# times must stay whole, and the game must neither crash nor hang.
+# saved, a full disk, a read-only folder, a process that was stopped, no driver for OpenGL, a display
+# server that dies. Best times must stay whole, and the game must neither crash nor hang.
 #   machine_faults_test.sh BINARY DATA_FOLDER
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
@@ -128,6 +128,7 @@ obeyRights() {
 
 leaveOwnFolder() { mkdir own && chmod a-w .; }
 leaveNoFolder() { makeTable && chmod a-w . highScore.dat; }
+leaveRivals() { cp "$game/rivals.dat" . && chmod a-w .; }
 
 readOnlyFolder() {
     obeyRights
@@ -139,11 +140,21 @@ readOnlyFolder() {
 
     obeyRights
     startWith leaveNoFolder
-    waitForWindow Glorbix
-    says "best times may be lost" || fail "the game does not warn"
+    answerBox Notice
+    says "Best times will not be saved" || fail "the game does not warn"
     endByQuit
     says "highScore.dat: the best times are not saved" || fail "the game does not say so"
     hasRivals "$gameFolder/highScore.dat" || fail "the best times are lost"
+    endStory
+
+    obeyRights
+    startBy=(env TMPDIR="$disk" "${startBy[@]}")
+    startWith leaveRivals
+    answerBox Notice
+    hasRivals "$disk"/glorbix-*/highScore.dat || fail "the rivals are missing"
+    ! says "Creating new highScores file" || fail "the game promises a new file"
+    endByQuit
+    ! ls -d "$disk"/glorbix-* 2> /dev/null || fail "the temporary folder stays"
     endStory
     echo "a read-only folder: the player's own is used, or the game says that nothing is saved"
 }
@@ -173,6 +184,18 @@ stoppedProcess() {
     echo "stopped for ten seconds: the game goes on where it was"
 }
 
+noDriver() {
+    local code=0
+    startBy=(env GALLIUM_DRIVER=none)
+    startWith makeTable
+    waitForWindow "ChoosePixelFormat failed GetLastError"
+    press Return
+    waitForEnd 10 || code=$?
+    [ "$code" -eq 1 ] || fail "without OpenGL the game ends with $code"
+    endStory
+    echo "no driver for OpenGL: the game says so and ends"
+}
+
 lostDisplay() {
     local code=0
     startWith makeTable
@@ -195,4 +218,5 @@ killedWhileSaving
 fullDisk
 readOnlyFolder
 stoppedProcess
+noDriver
 lostDisplay
