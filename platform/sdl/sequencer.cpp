@@ -16,7 +16,7 @@
 
 namespace {
 
-// bytes; isPlayableMidi takes up to 25 ms for it, and the game waits so long
+// bytes; isPlayableMidi takes up to 10 ms for it, and the game waits so long
 constexpr std::size_t largestPiece = 128 << 10;
 
 struct Piece {

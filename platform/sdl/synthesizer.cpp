@@ -81,7 +81,10 @@ bool isPlayableMidi(std::span<const std::uint8_t> file) {
     fluid_player_set_playback_callback(trial.player.get(), countEvent, &events);
     fluid_player_set_tempo(trial.player.get(), FLUID_PLAYER_TEMPO_INTERNAL, trialSpeed);
     std::array<std::int16_t, trialBlock * 2> samples;
-    for (int frames = 0; frames < longestTrial * trialRate && !isDone(trial);
+    trial.render(samples);
+    // A piece without a length would be counted through again for every block.
+    for (int frames = trialBlock;
+         trial.lastTick > 0 && frames < longestTrial * trialRate && !isDone(trial);
          frames += trialBlock) {
         trial.render(samples);
     }
