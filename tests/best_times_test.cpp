@@ -135,15 +135,19 @@ TEST_F(TenBest, ReplaceTheOldFileAsAWhole) {
     EXPECT_EQ(fs::status("highScore.dat").permissions(), fs::perms(0640));
 
     writeFile("highScore.dat.new", std::string(9000, '9')); // a save that was killed
+    writeFile("links/plain", "a new file");
     fs::create_directory("kept");
     fs::rename("highScore.dat", "kept/a.dat"); // the player has moved it
-    fs::create_symlink("kept/a.dat", "highScore.dat");
+    fs::create_symlink("links/second", "highScore.dat");
+    fs::create_symlink("../kept/a.dat", "links/second");
     for (const float time : {2.0F, 3.0F}) {
         bestTimes.slots[0].time = time;
         ASSERT_TRUE(saveBestTimes());
-        EXPECT_TRUE(fs::is_symlink("highScore.dat"));
+        EXPECT_TRUE(fs::is_symlink("highScore.dat") && fs::is_symlink("links/second"));
         EXPECT_TRUE(readFile("kept/a.dat").starts_with(std::to_string(int(time)) + " aaa "));
-        fs::remove("kept/a.dat"); // the link stays, and saving creates the file again
+        EXPECT_EQ(fs::status("kept/a.dat").permissions(),
+                  time == 2 ? fs::perms(0640) : fs::status("links/plain").permissions());
+        fs::remove("kept/a.dat"); // the links stay, and saving creates the file again
     }
     EXPECT_TRUE(fs::is_empty("kept"));
 }

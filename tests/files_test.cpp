@@ -1,5 +1,9 @@
 // The files that the game reads: words and numbers, the list of levels, bitmaps.
+#include <clocale>
+#include <cstdlib>
+
 #include "app/bitmap_file.h"
+#include "data/best_times.h"
 #include "data/level_list.h"
 #include "data/tokens.h"
 #include "fakes/play.h"
@@ -68,12 +72,23 @@ struct DamagedFile : Story {
 
 TEST_F(Words, AreNumbersOnlyAsAWhole) {
     expectNumbers<std::int32_t>(&TokenReader::readInteger,
-                                {{"+3", 3}, {"-3", -3}, {"0x1F", 31}, {"-0X10", -16}, {"+010", 8}},
+                                {{"+3", 3},
+                                 {"-3", -3},
+                                 {"0x1F", 31},
+                                 {"-0X10", -16},
+                                 {"+010", 8},
+                                 {"0", 0},
+                                 {"-2147483648", INT32_MIN}},
                                 {"3x", "3.5", "08", "0x", "-", "+", "--1", "2147483648"});
     expectNumbers<std::uint32_t>(&TokenReader::readUnsigned, {{"-0", 0}}, {"-1", "4294967296"});
     expectNumbers<float>(
         &TokenReader::readFloat,
-        {{"1.5", 1.5F}, {"+.5", 0.5F}, {"-2.", -2.0F}, {"-1e1", -10.0F}, {"-1e-999", 0.0F}},
+        {{"1.5", 1.5F},
+         {"+.5", 0.5F},
+         {"-2.", -2.0F},
+         {"-1e1", -10.0F},
+         {"1E+2", 100.0F},
+         {"-1e-999", 0.0F}},
         {"1x", "1.2.3", "1e", "-", "+", "-+1", ".", "1,5", "nan", "inf", "1e99", "0x1"});
 }
 
@@ -88,12 +103,28 @@ TEST_F(Words, HoldNoZeroBytesAndAreReadUpToTheGreatestSize) {
     EXPECT_TRUE(reader.cutOff && reader.why == "it has more than 4194304 bytes") << reader.why;
 }
 
+#ifndef _WIN32
+TEST_F(Words, HaveADecimalPointInEveryLanguage) {
+    setenv("LOCPATH", ".", 1);
+    if (std::system("localedef -i de_DE -f UTF-8 ./comma") != 0 ||
+        std::setlocale(LC_NUMERIC, "comma") == nullptr ||
+        *std::localeconv()->decimal_point != ',') {
+        GTEST_SKIP() << "there is no language with a decimal comma";
+    }
+    float number = 0;
+    EXPECT_TRUE(open("1.5") && reader.readFloat(number) && number == 1.5F);
+    bestTimes.slots[0].time = 97.5F;
+    EXPECT_TRUE(saveBestTimes() && readFile(bestTimesFile).starts_with("97.5 "));
+    std::setlocale(LC_NUMERIC, "C");
+}
+#endif
+
 TEST_F(LevelList, EndsDirectlyAfterItsLastName) {
     const std::string longest(255, 'n');
     const struct {
         std::string content;
         bool accepted;
-    } cases[] = {{"\t0x3\r\none two\n\n  three", true},
+    } cases[] = {{"\t0x3\r\none\vtwo\n\f  three", true},
                  {"3 one two three ", false},
                  {"3 one two", false},
                  {"3 one two three four", false},
@@ -150,6 +181,9 @@ TEST_F(Bitmap, OfAnotherShapeIsRefusedUnlessItFits) {
     writeBitmap("a.bmp", 4, 1, 0x010203);
     EXPECT_TRUE(readBitmap("a.bmp", pixels.data(), 12));
     EXPECT_TRUE(pixels[11] == 3 && pixels[12] == 9);
+    EXPECT_FALSE(read()); // as many pixels, but not of that shape
+    failNext("CloseHandle");
+    EXPECT_FALSE(readBitmap("a.bmp", pixels.data(), 12));
 }
 
 TEST_F(Bitmap, ThatEndsEarlyKeepsWhatTheBufferHeld) {

@@ -25,17 +25,17 @@ TEST_F(FontOnScreen, DrawsAGlyphAsOneQuad) {
     machine.drawn.clear();
     font.setScale(0.5F);
     font.setColour(0.1F, 0.2F, 0.3F, 0.4F);
-    font.drawGlyph('A', 320, 120); // columns 65 to 77, rows 0 to 33
-    const double left = 65 / 255.0, right = 77 / 255.0, bottom = 222 / 255.0;
+    font.drawGlyph('A', 320, 120); // columns 65 to 77, rows 3 to 23
+    const double left = 65 / 255.0, right = 77 / 255.0, top = 252 / 255.0, bottom = 232 / 255.0;
     const GlCalls expected = {{"glColor4f", 0.1, 0.2, 0.3, 0.4},
-                              {"glTexCoord2f", left, 1},
+                              {"glTexCoord2f", left, top},
                               {"glVertex2f", 0, 0.5},
-                              {"glTexCoord2f", right, 1},
+                              {"glTexCoord2f", right, top},
                               {"glVertex2f", 6 / 320.0, 0.5},
                               {"glTexCoord2f", right, bottom},
-                              {"glVertex2f", 6 / 320.0, 0.43125},
+                              {"glVertex2f", 6 / 320.0, 0.5 - 10 / 240.0},
                               {"glTexCoord2f", left, bottom},
-                              {"glVertex2f", 0, 0.43125}};
+                              {"glVertex2f", 0, 0.5 - 10 / 240.0}};
     EXPECT_EQ(only({"glColor4f", "glTexCoord2f", "glVertex2f"}), expected);
 }
 
@@ -43,15 +43,15 @@ TEST_F(FontOnScreen, BreaksLinesAndLeavesGaps) {
     machine.drawn.clear();
     font.setScale(13.0F / 33);
     font.setPosition(100, 50);
-    font.drawText("A B\nC\xE4\x7F"
+    font.drawText("! ~\nC\xE4\x7F" // with the first and the last that the font has
                   "D");
     const double small = 13.0 / 33;
-    const double c = testGlyphWidth('C');
-    EXPECT_EQ(textsDrawn(), (std::vector<Text>{{"A B", 100, 50, small, white},
+    const double c = testGlyph('C').width;
+    EXPECT_EQ(textsDrawn(), (std::vector<Text>{{"! ~", 100, 50, small, white},
                                                {"C", 100, 63, small, white},
                                                {"D", 100 + (c + 20) * small, 63, small, white}}));
-    EXPECT_NEAR(font.penX, 100 + (c + 20 + testGlyphWidth('D')) * small, 1e-3);
-    EXPECT_NEAR(font.textWidth("C\xE4 D"), (c + 20 + testGlyphWidth('D')) * small, 1e-3);
+    EXPECT_NEAR(font.penX, 100 + (c + 20 + testGlyph('D').width) * small, 1e-3);
+    EXPECT_NEAR(font.textWidth("C\xE4 D"), (c + 20 + testGlyph('D').width) * small, 1e-3);
     EXPECT_NEAR(font.textWidth("C\nCC\nC"), 2 * c * small, 1e-3); // the widest line
 }
 

@@ -44,6 +44,7 @@ TEST_F(Keyboard, MovesThroughTheMenu) {
 }
 
 TEST_F(Keyboard, EscapeOpensTheMenuAndGoesBackInIt) {
+    Game.menuItem = MenuItem::Quit;
     pressKey(VK_ESCAPE);
     EXPECT_TRUE(Game.menuOpen && Game.paused && Game.menuItem == 1);
     for (int item = 1; item <= 11; ++item) {
@@ -88,13 +89,14 @@ TEST_F(Keyboard, CameraLagWrapsAround) {
     const struct {
         int key;
         float from, to;
-    } cases[] = {{VK_RETURN, 6, 7}, {VK_RIGHT, 9, 0}, {VK_LEFT, 6, 5}, {VK_LEFT, 0, 9}};
+    } cases[] = {{VK_RETURN, 6, 7}, {VK_RIGHT, 8, 9}, {VK_RETURN, 9, 0},
+                 {VK_LEFT, 6, 5},   {VK_LEFT, 1, 0},  {VK_LEFT, 0, 9}};
     for (const auto& c : cases) {
         Game.cameraLag = c.from;
         pressKey(c.key);
         EXPECT_EQ(Game.cameraLag, c.to) << c.key;
     }
-    EXPECT_EQ(sounds(), Lines(4, menuSound));
+    EXPECT_EQ(sounds(), Lines(6, menuSound));
 }
 
 TEST_F(Keyboard, MostKeysDoNothingWithTheMenuClosed) {
@@ -108,12 +110,14 @@ TEST_F(Keyboard, MostKeysDoNothingWithTheMenuClosed) {
 }
 
 TEST_F(Keyboard, FarSightNeedsFogOff) {
+    machine.drawn.clear();
     pressKey(VK_F4);
     EXPECT_EQ(Game.farSight, 0); // not in fog
     pressKeys({VK_F5, VK_F4});
     EXPECT_TRUE(!Game.fogOn && Game.farSight);
     pressKey(VK_F5);
     EXPECT_TRUE(Game.fogOn && !Game.farSight);
+    EXPECT_EQ(drawn(), (GlCalls{{"glDisable", 0x0B60}, {"glEnable", 0x0B60}})); // GL_FOG, at once
 }
 
 TEST_F(Keyboard, PausesAndSkipsOnlyDuringALevel) {

@@ -30,6 +30,15 @@ TEST_F(LevelFile, FillsTheLevelAndColoursTheMarble) {
     EXPECT_TRUE(hole.x == 1.5F && hole.y == -20 && hole.width == 3 && hole.depth == 0.25F);
     EXPECT_EQ(level.holes[1].depth, -40);
 
+    machine.drawn.clear();
+    ASSERT_TRUE(load("texturefile= ground")); // the texture takes the place of the one before
+    GlCalls expected = {{"glDeleteTextures", 1, 1}, {"glBindTexture", 1}};
+    for (int k = 0; k < 8; ++k) {
+        const int size = 128 >> k;
+        expected.emplace_back("glTexImage2D", k, 3, size, size, 0, GL_RGB, GL_UNSIGNED_BYTE, k + 1);
+    }
+    EXPECT_EQ(only({"glDeleteTextures", "glBindTexture", "glTexImage2D"}), expected);
+
     ASSERT_TRUE(load("fogcolor= 010")); // octal; the marble keeps its colour, the holes are gone
     EXPECT_EQ(std::to_array(level.fogColour), (std::array{0.0F, 0.0F, 8 / 255.0F, 1.0F}));
     EXPECT_EQ(marble.colour[1], 255);

@@ -21,21 +21,16 @@ using Window = Story;
 
 } // namespace
 
-// The queue is empty three times: twice a tick is posted, then the end.
-TEST_F(Start, TakesEveryStepInOrder) {
+TEST_F(Start, ShowsTheWindowAndDrawsWhileNothingElseIsToDo) {
     EXPECT_EQ(runBriefly(), 5);
-    std::string steps;
-    for (const std::string& line : machine.lines) {
-        if (!line.starts_with("CreateFileA graphics/font/font_")) { steps += line + "; "; }
-    }
-    EXPECT_EQ(steps,
-              "ChangeDisplaySettingsA 16 640 480 7; RegisterClassA Glorbix; "
-              "CreateWindowExA 0 Glorbix Glorbix 2214592512 -2147483648 -2147483648 640 480; "
-              "GetDC; ChoosePixelFormat; SetPixelFormat 3; wglCreateContext; wglMakeCurrent; "
-              "SetTimer 1 1000; ShowWindow 5; UpdateWindow; BeginPaint; "
-              "CreateFileA graphics/title.bmp; EndPaint; ShowCursor 0; PostMessageA 1025 0; "
-              "PostMessageA 1025 0; PostQuitMessage 5; ChangeDisplaySettingsA restore; "
-              "ShowCursor 1; ");
+    EXPECT_EQ(linesOf("CreateWindowExA"),
+              Lines{"0 Glorbix Glorbix 2214592512 -2147483648 -2147483648 640 480"});
+    EXPECT_EQ(linesOf("SetTimer"), Lines{"1 1000"});
+    EXPECT_EQ(linesOf("ShowWindow"), Lines{"3"}); // as the entry was told
+    EXPECT_EQ(linesOf("ShowCursor"), (Lines{"0", "1"}));
+    EXPECT_EQ(linesOf("PostMessageA"), Lines(2, "1025 0"));
+    EXPECT_EQ(count("SwapBuffers"), 3); // one to paint the new window
+    EXPECT_EQ(count(GlCall("glClearDepth", 0)), 1);
 }
 
 TEST_F(Start, GoesOnWhateverTheDisplaySays) {
@@ -90,6 +85,11 @@ TEST_F(Start, WithoutAPixelFormatStartsAndEnds) {
         const char* message;
     } cases[] = {{[] { failNext("ChoosePixelFormat"); },
                   "in other words | ChoosePixelFormat failed GetLastError | nobody, info"},
+                 {[] {
+                      failNext("ChoosePixelFormat");
+                      failNext("FormatMessageA");
+                  },
+                  " | ChoosePixelFormat failed GetLastError | nobody, info"},
                  {[] { machine.formatNeedsPalette = true; }, "Needs palette | Error | nobody"},
                  {[] { failNext("SetPixelFormat"); },
                   "in other words | SetPixelFormat failed GetLastError | nobody, info"}};
@@ -123,6 +123,7 @@ TEST_F(Start, WithoutItsDataEnds) {
         messages.push_back("initialization failed | Error | window");
         EXPECT_EQ(boxes(), messages);
         EXPECT_EQ(static_cast<int>(bestTimes.slots[0].time), c.best);
+        EXPECT_EQ(linesOf("SetTimer").size(), 1U);
     }
 }
 

@@ -134,11 +134,21 @@ TEST_F(LevelRun, WaitsForTheMenuToClose) {
 }
 
 TEST_F(LevelRun, EndsTheProgramWhenALevelCannotBeLoaded) {
-    writeFile("maps/2.map", "oops");
+    writeFile("maps/2.map", "marblecolor= 0x00FF00 holecount= 1 .data 0 0 9 9 .end oops");
+    hold(VK_SHIFT);
+    ticks(8, 1); // the marble rolls
+    machine.lines.clear();
     pressKey(VK_F1);
     EXPECT_EQ(boxes(), (Lines{"maps/2.map contains a unknown tokenoops | error | nobody",
                               "Unable to initialize map | error | window"}));
     EXPECT_TRUE(machine.quitPosted && machine.quitCode == 0);
+    EXPECT_TRUE(Game.screen == Screen::Level && Game.levelNumber == 2 && Game.turbo == 5);
+    EXPECT_TRUE(Game.clock == 46.5F && marble.colour[1] == 255 && level.holeCount == 1);
+    expectVector(marble.getPosition(), 0, -5800, level.heightAt(0, -5800));
+    tick(0.25); // what is left to draw: everything but the ground
+    EXPECT_EQ(count(GlCall("glBegin", 4)), 2 * 16);
+    EXPECT_EQ(Game.clock, 46.25F);
+    EXPECT_EQ(sounds(), Lines{});
 }
 
 TEST_F(PenaltyLabel, GrowsFromTheMarbleToTheClockAndTakesFourSeconds) {

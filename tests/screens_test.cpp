@@ -34,6 +34,11 @@ struct Screens : Story {
     }
 };
 
+// The ground triangles of the last frame: all but those of the marble.
+std::ptrdiff_t groundTriangles() {
+    return count(GlCall("glBegin", GL_TRIANGLES)) - 2 * 16;
+}
+
 // Returns the first text of the frame that begins with this.
 Text textLike(const std::string& start) {
     for (const Text& text : textsDrawn()) {
@@ -115,19 +120,51 @@ TEST_F(Screens, ClockGoesFromGreenToRed) {
     EXPECT_EQ(textLike("9.00"), (Text{"9.00", 280, 0, 1, {0.8, 0.2, 0, 1}}));
 }
 
+TEST_F(Screens, GaugeShrinksToTheRightAndTurnsRed) {
+    playLevel();
+    const struct {
+        double turbo, green, left;
+    } cases[] = {{5, 1, 0.703125}, {2.5, 0.5, 0.845}, {1, 0.2, 0.930125}, {0, 0, 0}};
+    for (const auto& c : cases) {
+        Game.turbo = static_cast<float>(c.turbo);
+        tick(0.001);
+        GlCalls gauge = {{"glColor3f", 1, 1, 1},
+                         {"glVertex2f", 0.7, -0.9},
+                         {"glVertex2f", 0.99, -0.9},
+                         {"glVertex2f", 0.99, -0.99},
+                         {"glVertex2f", 0.7, -0.99}};
+        if (c.turbo > 0) {
+            gauge.insert(gauge.end(), {{"glColor3f", 1 - c.green, c.green, 0},
+                                       {"glVertex2f", c.left, -0.9},
+                                       {"glVertex2f", 0.986875, -0.9},
+                                       {"glVertex2f", 0.986875, -0.986875},
+                                       {"glVertex2f", c.left, -0.986875}});
+        }
+        const GlCalls calls = only({"glColor3f", "glVertex2f"});
+        const auto start = std::find(calls.begin(), calls.end(), gauge[0]);
+        EXPECT_EQ(GlCalls(start, start + std::ssize(gauge)), gauge);
+        EXPECT_EQ(count("glColor3f"), c.turbo > 0 ? 2 : 1);
+    }
+}
+
 TEST_F(Screens, StatisticsOfTheLastSecondAreAnOption) {
     playLevel();
     tick(0.1);
     EXPECT_EQ(textLike("FPS").text, "no FPS");
     pressKey(VK_F2);
-    ticks(3, 0.1);
-    const std::string triangles = std::to_string(Game.trianglesThisSecond);
+    std::ptrdiff_t triangles = groundTriangles();
+    for (int i = 0; i < 3; ++i) {
+        tick(0.1);
+        triangles += groundTriangles();
+    }
     send(WM_TIMER, 1);
     tick(0.1);
     EXPECT_EQ(textLike("FPS"), (Text{"FPS: 4", 0, 0, 13.0 / 33, white}));
-    EXPECT_EQ(textLike("PPS"), (Text{"PPS: " + triangles, 0, 13, 13.0 / 33, white}));
+    EXPECT_EQ(textLike("PPS"),
+              (Text{"PPS: " + std::to_string(triangles), 0, 13, 13.0 / 33, white}));
+    triangles = groundTriangles();
     send(WM_TIMER, 1);
-    EXPECT_TRUE(Game.fps == 1 && Game.pps > 100 && Game.pps < std::stoi(triangles));
+    EXPECT_TRUE(Game.fps == 1 && Game.pps == triangles && triangles > 100);
 }
 
 TEST_F(Screens, BannerOfALevelShrinksAway) {
@@ -148,29 +185,46 @@ TEST_F(Screens, BannerOfALevelShrinksAway) {
     EXPECT_EQ(textLike("Level").text, "no Level");
 }
 
-TEST_F(Screens, LevelIsDrawnFromTheGroundToTheMenu) {
+TEST_F(Screens, EverythingIsDrawnInOrderAndInItsState) {
+    const std::string alpha = ", blend alpha 1-alpha", tested = ", depth greater",
+                      arrow = "lines 1.5" + tested + alpha + ", smooth nicest",
+                      text = "quads, texture 10 modulate nearest nearest-nearest clamp clamp, "
+                             "blend 1 1-alpha";
     playLevel();
     level.fogColourCode = 0xFF8040;
+    level.fogColour[0] = 0.75F;
     Game.penaltyPending = 1;
-    pressKey(VK_ESCAPE);
-    tick(0.1);
+    pressKeys({VK_F3, VK_ESCAPE});
+    ticks(2, 0.1); // what the first frame leaves must not show in the second
     Lines texts;
-    for (const Text& text : textsDrawn()) {
-        texts.push_back(text.text);
+    for (const Text& line : textsDrawn()) {
+        texts.push_back(line.text);
     }
     EXPECT_EQ(texts, (Lines{"Turbo", "45.00", "Level 1", "-5", "NeW Game", "HIGHSCORE", "Options",
                             "Quit"}));
-    EXPECT_EQ(only({"glVertex3f", "glVertex2f"}).front().name, "glVertex3f");
-    EXPECT_EQ(Game.framesThisSecond, 1);
-    const GlCalls gauge = only({"glDisable", "glColor3f"}); // it is never culled
-    const auto frame = std::find(gauge.begin(), gauge.end(), GlCall("glColor3f", 1, 1, 1));
-    EXPECT_EQ(std::count(frame - 6, frame, GlCall("glDisable", GL_CULL_FACE)), 2); // text, gauge
-    for (const double sky : {1, 0}) { // the colour of the fog, or black
-        const GlCalls end(drawn().end() - 3, drawn().end());
-        EXPECT_EQ(end, (GlCalls{{"SwapBuffers"},
-                                {"glClearColor", sky, sky * 128 / 255, sky * 64 / 255, 0},
-                                {"glClear", 0x4100}}));
+    for (const bool fogOn : {true, false}) {
+        const std::string fog =
+            fogOn ? ", fog linear 0.0025 0.000555556 0.75 0 0 0 nicest" : std::string();
+        EXPECT_EQ(painted(),
+                  (Lines{"triangles" + tested +
+                             ", cull front, texture 1 decal linear "
+                             "linear-linear repeat repeat" +
+                             fog,
+                         "triangles" + tested + fog, "triangles" + fog + alpha, // the marble
+                         "lines 1" + fog + alpha + ", smooth nicest",           // its outline
+                         arrow, "triangles" + tested, arrow, "triangles" + tested, arrow, text,
+                         "loop 1.5, smooth nicest", "quads", text, // the gauge, the other texts
+                         "quads" + alpha, text}));                 // the shade, the menu
+        const double sky = fogOn ? 1 : 0; // the colour of the fog, or black
+        EXPECT_EQ(GlCalls(drawn().end() - 3, drawn().end()),
+                  (GlCalls{{"SwapBuffers"},
+                           {"glClearColor", sky, sky * 128 / 255, sky * 64 / 255, 0},
+                           {"glClear", 0x4100}}));
         pressKey(VK_F5);
         tick(0.1);
     }
+    Game.screen = Screen::BestTimes;
+    tick(0.1);
+    EXPECT_EQ(painted(), (Lines{"picture", "quads" + alpha, text, "quads" + alpha, text}));
+    EXPECT_EQ(drawn().back(), GlCall("SwapBuffers"));
 }

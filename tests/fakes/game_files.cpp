@@ -24,7 +24,9 @@ std::string testFontMetrics() {
     std::ostringstream text;
     text << "33 126";
     for (char c = '!'; c <= '~'; ++c) {
-        text << '\n' << c << ' ' << +c << " 0 " << c + testGlyphWidth(c) << ' ' << testGlyphHeight;
+        const auto [left, top, width, height] = testGlyph(c);
+        text << '\n'
+             << c << ' ' << left << ' ' << top << ' ' << left + width << ' ' << top + height;
     }
     return text.str();
 }

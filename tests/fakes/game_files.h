@@ -19,11 +19,13 @@ private:
     std::filesystem::path folder_;
 };
 
-inline constexpr double testGlyphHeight = 33; // pixels: of the test font, and its line spacing
-
-// The width of a character of the test font in pixels; those it does not have advance by 10.
-constexpr double testGlyphWidth(char c) {
-    return 10 + c % 7;
+// Where a character of the test font is in its picture: pixels, rows from the top. Those that it
+// does not have advance by 10. "!" gives the line spacing.
+struct TestGlyph {
+    double left, top, width, height;
+};
+constexpr TestGlyph testGlyph(char c) {
+    return {1.0 * c, 1.0 + c % 3, 10.0 + c % 7, c == '!' ? 33.0 : 20.0 + c % 5};
 }
 
 void writeFile(const std::string& name, const std::string& content);

@@ -60,7 +60,7 @@ int runProgram(const std::function<void()>& whenIdle) {
         ADD_FAILURE() << "the program does not end";
         PostQuitMessage(-1);
     };
-    return WinMain(nullptr, nullptr, nullptr, SW_SHOW);
+    return WinMain(nullptr, nullptr, nullptr, 3);
 }
 
 LRESULT send(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -68,6 +68,7 @@ LRESULT send(UINT message, WPARAM wParam, LPARAM lParam) {
     while (!machine.queue.empty()) {
         MSG posted;
         PeekMessageA(&posted, theWindow, 0, 0, PM_REMOVE);
+        TranslateMessage(&posted);
         DispatchMessageA(&posted);
     }
     return result;

@@ -54,6 +54,10 @@ bool operator==(const GlCall& a, const GlCall& b) {
            std::equal(a.numbers.begin(), a.numbers.end(), b.numbers.begin(), near);
 }
 
+void PrintTo(const GlCall& call, std::ostream* out) {
+    *out << call.name << ' ' << testing::PrintToString(call.numbers);
+}
+
 GlCalls only(std::initializer_list<std::string_view> names) {
     GlCalls found;
     std::copy_if(drawn().begin(), drawn().end(), std::back_inserter(found), [&](const GlCall& c) {
@@ -68,6 +72,15 @@ std::ptrdiff_t count(const GlCall& call) {
 
 std::ptrdiff_t count(std::string_view name) {
     return std::ssize(only({name}));
+}
+
+Lines painted() {
+    Lines found;
+    for (const GlCall& call : only({"glBegin", "glDrawPixels"})) {
+        const std::string& state = machine.glStates[call.state];
+        if (found.empty() || found.back() != state) { found.push_back(state); }
+    }
+    return found;
 }
 
 namespace {
@@ -97,14 +110,15 @@ void PrintTo(const Text& text, std::ostream* out) {
 // Each glyph is one quad; its character code is the left edge of its texture coordinates.
 std::vector<Text> textsDrawn() {
     const GlCalls calls = only({"glBindTexture", "glColor4f", "glTexCoord2f", "glVertex2f"});
-    const GlCall fontBound("glBindTexture", GL_TEXTURE_2D, 10);
+    const GlCall fontBound("glBindTexture", 10);
     std::vector<Text> texts;
     double pen = 0;
     for (auto c = calls.begin(); c != calls.end(); ++c) {
         if (!(*c == fontBound) || calls.end() - c < 10) { continue; }
         const auto &colour = c[1].numbers, &topLeft = c[3].numbers, &bottomRight = c[7].numbers;
-        const double scale = (topLeft[1] - bottomRight[1]) * 240 / testGlyphHeight;
-        const Text glyph{std::string(1, static_cast<char>(std::lround(c[2].numbers[0] * 255))),
+        const auto character = static_cast<char>(std::lround(c[2].numbers[0] * 255));
+        const double scale = (topLeft[1] - bottomRight[1]) * 240 / testGlyph(character).height;
+        const Text glyph{std::string(1, character),
                          (topLeft[0] + 1) * 320,
                          (1 - topLeft[1]) * 240,
                          scale,

@@ -25,6 +25,7 @@ using Lines = std::vector<std::string>;
 struct GlCall {
     std::string_view name;
     std::array<double, 9> numbers = {};
+    std::size_t state = 0; // of a drawing: its shape and state, in MachineRecord::glStates
 
     template <class... Numbers>
     GlCall(std::string_view function, Numbers... values)
@@ -34,6 +35,7 @@ using GlCalls = std::vector<GlCall>;
 
 // Same function, same numbers within the accuracy of a float.
 bool operator==(const GlCall& a, const GlCall& b);
+void PrintTo(const GlCall& call, std::ostream* out);
 
 // A display mode of that many bits a pixel, which sets some fields itself.
 DEVMODEA modeOf(DWORD bits, DWORD width, DWORD height);
@@ -52,7 +54,9 @@ struct MachineRecord {
     std::deque<MSG> queue;
     bool quitPosted = false;
     int quitCode = -1;
+    UINT translated = 0; // the message that TranslateMessage got last
     WNDCLASSA windowClass = {};
+    HGLRC context = nullptr; // of OpenGL
 
     int openFiles = 0;
     int systemTexts = 0;           // texts of FormatMessageA that LocalFree has not released yet
@@ -63,6 +67,10 @@ struct MachineRecord {
     std::map<std::string, std::deque<int>, std::less<>> failures; // see failNext
     Lines lines;   // the calls, a line each: the function, then the values that matter
     GlCalls drawn; // OpenGL and SwapBuffers, since the last tick began
+    std::map<std::string, std::string> glState; // what is set: see fakes/gl.cpp
+    Lines glStates;                             // that drawings had, in words
+    bool glStateChanged = true;                 // since the last drawing
+    std::string glShape;                        // of the last drawing
 };
 extern MachineRecord machine;
 
@@ -103,6 +111,10 @@ inline const GlCalls& drawn() {
 GlCalls only(std::initializer_list<std::string_view> names);
 std::ptrdiff_t count(const GlCall& call);
 std::ptrdiff_t count(std::string_view name);
+
+// The drawings of the last frame, each as its shape and the state that it was drawn in, such as
+// "triangles, depth greater, fog linear 0.0025 0.1 1 1 1 1 nicest". Those alike in a row count once.
+Lines painted();
 
 // A line of text on the screen, put together from glyphs of the test font (tests/fakes/play.h).
 struct Text {

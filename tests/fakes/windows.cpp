@@ -47,6 +47,10 @@ HCURSOR LoadCursorA(HINSTANCE, const char*) {
 }
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass) {
+    EXPECT_TRUE(windowClass->lpfnWndProc == GameWindowProc);
+    EXPECT_TRUE(windowClass->hCursor == handle<HCURSOR>(0x500));
+    EXPECT_TRUE(windowClass->hbrBackground == handle<HBRUSH>(6));
+    EXPECT_STREQ(windowClass->lpszMenuName, "Glorbix");
     machine.windowClass = *windowClass;
     return noted(!fails("RegisterClassA"), "RegisterClassA", windowClass->lpszClassName);
 }
@@ -88,10 +92,12 @@ BOOL PeekMessageA(MSG* message, HWND, UINT first, UINT last, UINT remove) {
     return TRUE;
 }
 
-BOOL TranslateMessage(const MSG*) {
+BOOL TranslateMessage(const MSG* message) {
+    machine.translated = message->message;
     return FALSE;
 }
 LRESULT DispatchMessageA(const MSG* message) {
+    EXPECT_EQ(machine.translated, message->message);
     if (message->hwnd == nullptr) { return 0; } // the quit message
     return GameWindowProc(message->hwnd, message->message, message->wParam, message->lParam);
 }
@@ -158,19 +164,24 @@ LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
 
 // Pixel format, buffers and the binding of OpenGL
 
-HDC GetDC(HWND) {
+HDC GetDC(HWND window) {
+    EXPECT_EQ(window, theWindow);
     return noted(fails("GetDC") ? nullptr : theSurface, "GetDC");
 }
-int ReleaseDC(HWND, HDC) {
+int ReleaseDC(HWND window, HDC deviceContext) {
+    EXPECT_TRUE(window == theWindow && deviceContext == theSurface);
     return noted(1, "ReleaseDC");
 }
 
 int ChoosePixelFormat(HDC, const PIXELFORMATDESCRIPTOR* wanted) {
-    EXPECT_TRUE(wanted->dwFlags == 0x21 && wanted->cColorBits == 16 && wanted->cDepthBits == 16);
+    EXPECT_TRUE(wanted->nSize == sizeof *wanted && wanted->nVersion == 1);
+    EXPECT_TRUE(wanted->dwFlags == 0x21 && wanted->iPixelType == PFD_TYPE_RGBA);
+    EXPECT_TRUE(wanted->cColorBits == 16 && wanted->cDepthBits == 16);
     return noted(!fails("ChoosePixelFormat") ? 3 : 0, "ChoosePixelFormat");
 }
 
-int DescribePixelFormat(HDC, int, UINT, PIXELFORMATDESCRIPTOR* description) {
+int DescribePixelFormat(HDC, int format, UINT size, PIXELFORMATDESCRIPTOR* description) {
+    EXPECT_TRUE(format == 3 && size == sizeof *description);
     *description = {};
     description->dwFlags = 0x21U | (machine.formatNeedsPalette ? PFD_NEED_PALETTE : 0U);
     return 3;
@@ -187,12 +198,16 @@ BOOL SwapBuffers(HDC deviceContext) {
 }
 
 HGLRC wglCreateContext(HDC) {
-    return noted(handle<HGLRC>(fails("wglCreateContext") ? 0 : 0x400), "wglCreateContext");
+    machine.context = handle<HGLRC>(fails("wglCreateContext") ? 0 : 0x400);
+    return noted(machine.context, "wglCreateContext");
 }
-BOOL wglMakeCurrent(HDC, HGLRC) {
+BOOL wglMakeCurrent(HDC, HGLRC context) {
+    EXPECT_EQ(context, machine.context);
     return noted(!fails("wglMakeCurrent"), "wglMakeCurrent");
 }
-BOOL wglDeleteContext(HGLRC) {
+BOOL wglDeleteContext(HGLRC context) {
+    EXPECT_EQ(context, machine.context);
+    machine.context = nullptr;
     return noted(TRUE, "wglDeleteContext");
 }
 
@@ -275,7 +290,7 @@ BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) 
 BOOL CloseHandle(HANDLE file) {
     std::fclose(static_cast<std::FILE*>(file));
     --machine.openFiles;
-    return TRUE;
+    return !fails("CloseHandle");
 }
 
 // Errors in the system's words
@@ -287,6 +302,7 @@ DWORD GetLastError() {
 DWORD FormatMessageA(DWORD flags, const void*, DWORD error, DWORD language, char* buffer, DWORD,
                      va_list*) {
     EXPECT_TRUE(flags == 0x1100 && error == 1234 && language == 0x400);
+    if (fails("FormatMessageA")) { return 0; }
     char* text = new char[16]{"in other words"};
     std::memcpy(buffer, static_cast<const void*>(&text), sizeof text);
     ++machine.systemTexts;

@@ -1,6 +1,4 @@
 // The table of best times: read, and if it is good, saved and read again.
-#include <cstddef>
-#include <cstdint>
 #include <cstdlib>
 
 #include "data/best_times.h"

@@ -1,7 +1,4 @@
 // Bitmap files, by the functions of the SDL provider.
-#include <cstddef>
-#include <cstdint>
-
 #include "app/bitmap_file.h"
 #include "fuzz/input_file.h"
 

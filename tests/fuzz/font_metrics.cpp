@@ -1,7 +1,4 @@
 // The metrics of the font.
-#include <cstddef>
-#include <cstdint>
-
 #include "data/font.h"
 #include "fuzz/input_file.h"
 

@@ -1,9 +1,6 @@
 // Files of drives.
-#include <cstddef>
-#include <cstdint>
-
-#include "fuzz/input_file.h"
 #include "tools/level/key_file.h"
+#include "fuzz/input_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     writeInput("drive.keys", data, size);

@@ -1,7 +1,4 @@
 // Level files. The pictures of the ground count as there.
-#include <cstddef>
-#include <cstdint>
-
 #include "data/level_file.h"
 #include "fuzz/input_file.h"
 #include "sim/marble.h"

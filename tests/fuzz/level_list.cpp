@@ -1,7 +1,4 @@
 // The list of levels.
-#include <cstddef>
-#include <cstdint>
-
 #include "data/level_list.h"
 #include "fuzz/input_file.h"
 

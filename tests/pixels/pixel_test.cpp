@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
 
 #include "app/window.h"
 #include "data/font.h"
@@ -28,10 +27,17 @@ unsigned titleAt(int x, int y) {
     return static_cast<unsigned>(x * 255 / 639) << 16 | static_cast<unsigned>(y * 255 / 479) << 8;
 }
 
-// The font's glyphs are solid blocks, and the ground has one colour in all mip levels.
+// The font's first picture has holes of 3 x 3 pixels.
+bool isSolid(int x, int y) {
+    return (x / 3 + y / 3) % 2 == 0;
+}
+
+// The smaller pictures of the font are solid, and the ground has one colour in all mip levels.
 void writePictures() {
     writeGameFiles();
     writeMipChain("graphics/font/font", 256, 9, 0xFFFFFF);
+    writeBitmap("graphics/font/font_0.bmp", 256, 256,
+                [](int x, int y) { return isSolid(x, y) ? 0xFFFFFFU : 0U; });
     writeMipChain("ground", 128, 8, 0x28C85A);
     writeBitmap("graphics/title.bmp", 640, 480, titleAt);
 }
@@ -76,17 +82,22 @@ Pixel pixelOf(unsigned colour) {
             static_cast<double>(colour & 255)};
 }
 
-// Puts the blocks of a text in the test font; x and y count from the top left.
+// Puts a text in the test font; x and y count from the top left. Holes leave what is there.
 void putText(Picture& picture, const char* text, double x, double y, double scale, Pixel colour) {
     for (; *text != '\0'; ++text) {
-        const double right = x + scale * (*text == ' ' ? 10 : testGlyphWidth(*text));
-        for (int py = 0; py < 480 && *text != ' '; ++py) {
-            if (479.5 - py < y || 479.5 - py >= y + 33 * scale) { continue; }
+        const TestGlyph glyph = *text == ' ' ? TestGlyph{0, 0, 10, 0} : testGlyph(*text);
+        for (int py = 0; py < 480; ++py) {
+            const double row = (479.5 - py - y) / scale;
+            if (row < 0 || row >= glyph.height) { continue; }
             for (int px = 0; px < 640; ++px) {
-                if (px + 0.5 >= x && px + 0.5 < right) { picture.put(px, py, colour); }
+                const double column = (px + 0.5 - x) / scale;
+                if (column < 0 || column >= glyph.width) { continue; }
+                const int texelX = static_cast<int>((glyph.left + column) * 256 / 255);
+                const int texelY = static_cast<int>(256 - (glyph.top + row) * 256 / 255);
+                if (scale < 1 || isSolid(texelX, texelY)) { picture.put(px, py, colour); }
             }
         }
-        x = right;
+        x += glyph.width * scale;
     }
 }
 
@@ -117,61 +128,7 @@ Pixel fogged(Pixel colour, double depth) {
     return colour * clear + fogColour * (1 - clear);
 }
 
-// Covers 64 x 64 pixels with the ground's texture, one texel of mip level k on each pixel. Returns
-// their mean colour.
-Pixel meanOfMipLevel(int k) {
-    const float repeats = 64 / static_cast<float>(groundTextureSize >> k);
-    for (const int state : {GL_FOG, GL_BLEND, GL_DEPTH_TEST, GL_CULL_FACE}) {
-        glDisable(static_cast<GLenum>(state));
-    }
-    glEnable(GL_TEXTURE_2D);
-    glColor3f(1, 1, 1);
-    glBegin(GL_QUADS);
-    for (const auto& [x, y] : {std::pair{0.0F, 0.0F}, {1.0F, 0.0F}, {1.0F, 1.0F}, {0.0F, 1.0F}}) {
-        glTexCoord2f(x * repeats, y * repeats);
-        glVertex2f(x * 64 / 320 - 1, y * 64 / 240 - 1);
-    }
-    glEnd();
-    const Picture picture = photograph();
-    Pixel mean = {};
-    for (int i = 0; i < 64 * 64; ++i) {
-        mean = mean + picture.at(i % 64, i / 64) * (1.0 / (64 * 64));
-    }
-    return mean;
-}
-
-// Returns how much the mean greys of 4 x 4 blocks of the ground's texture differ.
-double unevenness() {
-    double greys[16] = {};
-    for (int i = 0; i < 128 * 128; ++i) {
-        const std::uint8_t* p = &level.texturePixels[0][i * 3];
-        greys[i / 128 / 32 * 4 + i % 128 / 32] +=
-            (0.299 * p[0] + 0.587 * p[1] + 0.114 * p[2]) / (32 * 32);
-    }
-    const auto [least, most] = std::minmax_element(std::begin(greys), std::end(greys));
-    return *most - *least;
-}
-
 } // namespace
-
-TEST_F(OnScreen, GroundsOfTheGameShowNoBandsAndKeepTheirHueFarAway) {
-    int grounds = 0;
-    for (const auto& file : std::filesystem::directory_iterator(GLORBIX_GROUNDS)) {
-        const std::string name = file.path().string();
-        if (!name.ends_with("_0.bmp")) { continue; }
-        SCOPED_TRACE(name);
-        ++grounds;
-        writeFile("c.map", "texturefile= " + name.substr(0, name.size() - 6));
-        ASSERT_TRUE(level.load("c.map", marble));
-        EXPECT_LT(unevenness(), 15);
-        const Pixel far = meanOfMipLevel(5), farther = meanOfMipLevel(6);
-        const double share = farther.green / far.green;
-        EXPECT_NEAR(share, 0.94, 0.09);
-        EXPECT_NEAR(farther.red, far.red * share, 10);
-        EXPECT_NEAR(farther.blue, far.blue * share, 10);
-    }
-    EXPECT_EQ(grounds, 11);
-}
 
 TEST_F(OnScreen, FogGrowsToItsFullColourAtDepth1800) {
     load({});
@@ -285,4 +242,15 @@ TEST_F(OnScreen, GaugeAndClockStandOverTheWorld) {
     Game.turbo = 0;
     drawTurboGauge();
     EXPECT_EQ(photograph().at(600, 12).red, 0); // the frame alone
+}
+
+TEST_F(OnScreen, LargeTextKeepsTheEdgesOfItsPixels) {
+    clear(groundColour);
+    font.setScale(4);
+    font.setPosition(40, 60);
+    font.setColour(1, 0.5F, 0, 1);
+    font.drawText("Go !");
+    Picture expected = paint([](int, int) { return groundColour; });
+    putText(expected, "Go !", 40, 60, 4, {255, 128, 0});
+    expectLike(photograph(), expected, "large-text");
 }
