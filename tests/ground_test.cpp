@@ -20,20 +20,24 @@ struct View {
     bool farSight;
 };
 
-// The cells that a view shows, in the order of drawing. (Cells: see cellsDrawn.)
-std::vector<int> cellsInSight(const View& view) {
+// A point in NDC and inverse depth.
+Vector3 onScreen(const View& view, const Vector3& point) {
     ViewFrame frame;
     frame.set(view.eye, view.pitch, view.yaw, view.yaw);
-    const auto onScreen = [&](int row, int column) {
-        const Vector3 point = level.groundPoints[static_cast<std::size_t>(50 * row + column)];
-        const Vector3 q = frame.rotation * (point - view.eye);
-        return std::pair(q.x * 1.25 / q.z, q.y * 1.666667 / q.z);
+    const Vector3 q = frame.rotation * (point - view.eye);
+    return {float(q.x * 1.25 / q.z), float(q.y * 1.666667 / q.z), float(1.0 / q.z)};
+}
+
+// The cells that a view shows, in the order of drawing. (Cells: see cellsDrawn.)
+std::vector<int> cellsInSight(const View& view) {
+    const auto corner = [&](int row, int column) {
+        return onScreen(view, level.groundPoints[static_cast<std::size_t>(50 * row + column)]);
     };
     // Whether a side of a cell, and so what lies beyond it, is still on the screen.
-    const auto isLeft = [](auto a, auto b) { return a.first < 1 || b.first < 1; };
-    const auto isRight = [](auto a, auto b) { return a.first > -1 || b.first > -1; };
-    const auto isBelow = [](auto a, auto b) { return a.second < 1 || b.second < 1; };
-    const auto isAbove = [](auto a, auto b) { return a.second > -1 || b.second > -1; };
+    const auto isLeft = [](auto a, auto b) { return a.x < 1 || b.x < 1; };
+    const auto isRight = [](auto a, auto b) { return a.x > -1 || b.x > -1; };
+    const auto isBelow = [](auto a, auto b) { return a.y < 1 || b.y < 1; };
+    const auto isAbove = [](auto a, auto b) { return a.y > -1 || b.y > -1; };
     const int startColumn = std::clamp(static_cast<int>(view.eye.x / 30 + 25), 0, 49);
     const int startRow = std::clamp(static_cast<int>((view.eye.y + 400) / 30 + 200), 0, 398);
     const int lastRow = view.farSight ? 398 : std::min(startRow + 60, 398);
@@ -44,8 +48,8 @@ std::vector<int> cellsInSight(const View& view) {
             rowsGoOn = false;
             bool goesOn = true;
             for (int c = startColumn - left; goesOn && c >= 0 && c <= 48; c += left ? -1 : 1) {
-                const auto near = onScreen(r, c), far = onScreen(r + 1, c + 1);
-                const auto ahead = onScreen(r + 1, c), right = onScreen(r, c + 1);
+                const Vector3 near = corner(r, c), far = corner(r + 1, c + 1);
+                const Vector3 ahead = corner(r + 1, c), right = corner(r, c + 1);
                 goesOn = left ? isRight(near, ahead) : isLeft(right, far);
                 rowsGoOn = rowsGoOn || (back ? isAbove(near, right) : isBelow(ahead, far));
                 cells.push_back(50 * r + c);
@@ -131,6 +135,15 @@ TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
         const std::vector<int> cells = cellsDrawn();
         EXPECT_EQ(cells.size() * 2, count("glBegin"));
         ASSERT_EQ(cells.size(), expected.size());
+        const GlCalls corners = only({"glTexCoord2f", "glVertex3f"});
+        for (std::size_t i = 0; i < corners.size(); i += 2) { // the texture is fixed to the ground
+            const double column = corners[i].numbers[0] / 0.1875 + 25,
+                         row = corners[i].numbers[1] * 4 + 200;
+            const Vector3 point(float(column - 25) * 30, float(row - 200) * 30,
+                                level.heightAt(float(column - 25) * 30, float(row - 200) * 30));
+            const auto [x, y, inverseDepth] = onScreen(view, point);
+            ASSERT_EQ(corners[i + 1], GlCall("glVertex3f", x, y, inverseDepth));
+        }
         for (std::size_t i = 0; i < cells.size(); ++i) {
             ASSERT_EQ(std::pair(cells[i] / 50, cells[i] % 50),
                       std::pair(expected[i] / 50, expected[i] % 50))

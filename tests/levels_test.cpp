@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -77,34 +78,6 @@ TEST_P(Course, EndsARecordedDriveToTheLastBit) {
     EXPECT_EQ(drive.keys.time, keys.time) << "physics or course have changed: record it again";
     EXPECT_EQ(firstDifference(keys.checkpoints, drive.keys.checkpoints), 0)
         << "up to this tick the marble has rolled differently, if only in a last bit";
-}
-
-// The mean colour of some pixels of the ground.
-Vector3 meanColour(const std::uint8_t* pixels, int rows, int columns, int rowLength) {
-    Vector3 sum(0.0F, 0.0F, 0.0F);
-    for (int i = 0; i < rows * columns; ++i) {
-        const std::uint8_t* p = pixels + 3 * (i / columns * rowLength + i % columns);
-        sum += Vector3(p[0], p[1], p[2]);
-    }
-    return sum * (1.0F / static_cast<float>(rows * columns));
-}
-
-TEST_P(Course, ShowsNoBandsAndKeepsItsHueFarAway) {
-    const Vector3 grey(0.299F, 0.587F, 0.114F);
-    float least = 255.0F, most = 0.0F; // of 4 x 4 blocks
-    for (int block = 0; block < 16; ++block) {
-        const int first = block / 4 * 32 * 128 + block % 4 * 32;
-        const float mean = dot(grey, meanColour(&level.texturePixels[0][3 * first], 32, 32, 128));
-        least = std::min(least, mean);
-        most = std::max(most, mean);
-    }
-    EXPECT_LT(most - least, 15.0F);
-    const Vector3 far = meanColour(level.texturePixels[5], 4, 4, 4);
-    const Vector3 farther = meanColour(level.texturePixels[6], 2, 2, 2);
-    const float share = farther.y / far.y;
-    EXPECT_NEAR(share, 0.94F, 0.09F);
-    EXPECT_NEAR(farther.x, far.x * share, 10.0F);
-    EXPECT_NEAR(farther.z, far.z * share, 10.0F);
 }
 
 TEST_P(Course, IsGood) {
@@ -188,8 +161,7 @@ TEST(Rivals, AreATableThatTheGameItselfCouldHaveWritten) {
     ASSERT_TRUE(readBestTimes());
     for (int i = 0; i < bestTimesShown; ++i) {
         const std::string name = bestTimes.slots[i].name;
-        EXPECT_EQ(name.size(), 3U);
-        EXPECT_EQ(name.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), std::string::npos);
+        EXPECT_TRUE(name.size() == 3 && std::all_of(name.begin(), name.end(), isupper)) << name;
         if (i > 0) { EXPECT_GT(bestTimes.slots[i].time, bestTimes.slots[i - 1].time + 20.0F); }
     }
     EXPECT_LT(bestTimes.slots[9].time, levelTime * static_cast<float>(shippedLevels().size()));

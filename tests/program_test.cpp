@@ -34,7 +34,7 @@ TEST_F(Start, ShowsTheWindowAndDrawsWhileNothingElseIsToDo) {
 }
 
 TEST_F(Start, GoesOnWhateverTheDisplaySays) {
-    const std::string stop = " | focus, stop", caption = " | Initialization Error" + stop;
+    const std::string caption = " | Initialization Error | focus, stop";
     const Lines found = {"16 640 480 7", "restore"};
     const Lines bySize = {found[0], "16 640 480 1835008", "restore"};
     const DEVMODEA right = modeOf(16, 640, 480);
@@ -54,8 +54,7 @@ TEST_F(Start, GoesOnWhateverTheDisplaySays) {
          {-2, 1},
          bySize,
          "You must change your desktop to 16bit color (Hicolor) and then restart | Win95/non-16bit "
-         "color Init Error" +
-             stop},
+         "color Init Error | focus, stop"},
         {{right}, {1, -2}, bySize, "The video mode 640x480x65536 is not supported" + caption},
         {{right}, {-1, -1}, bySize, "Hardware failed to change to 640x480x65536" + caption}};
     for (const auto& c : cases) {

@@ -1,4 +1,4 @@
-// The functions of platform/windows_api.h for the tests, in its order. Arguments that are the same
+// The functions of platform/windows_api.h for the tests. Arguments that are the same
 // in every call are checked here, for all tests.
 #include <gtest/gtest.h>
 
@@ -37,14 +37,23 @@ const HWND theWindow = handle<HWND>(0x100);
 const HWND focusWindow = handle<HWND>(0x200);
 const HDC theSurface = handle<HDC>(0x300);
 
+// Defines a function that does nothing else.
+#define ANSWERS(type, function, parameters, answer)                                                \
+    type function parameters {                                                                     \
+        return answer;                                                                             \
+    }
+
 // Windows and messages
 
-HICON LoadIconA(HINSTANCE, const char*) {
-    return nullptr;
-}
-HCURSOR LoadCursorA(HINSTANCE, const char*) {
-    return handle<HCURSOR>(0x500);
-}
+ANSWERS(HICON, LoadIconA, (HINSTANCE, const char*), nullptr)
+ANSWERS(HCURSOR, LoadCursorA, (HINSTANCE, const char*), handle<HCURSOR>(0x500))
+ANSWERS(HWND, GetFocus, (), focusWindow)
+ANSWERS(DWORD, GetLastError, (), 1234)
+ANSWERS(BOOL, ShowWindow, (HWND, int mode), noted(FALSE, "ShowWindow", mode))
+ANSWERS(int, ShowCursor, (BOOL show), noted(show != FALSE ? 0 : -1, "ShowCursor", show))
+ANSWERS(HDC, BeginPaint, (HWND, PAINTSTRUCT*), noted(theSurface, "BeginPaint"))
+ANSWERS(BOOL, EndPaint, (HWND, const PAINTSTRUCT*), noted(TRUE, "EndPaint"))
+ANSWERS(BOOL, MessageBeep, (UINT type), noted(TRUE, "MessageBeep", type))
 
 ATOM RegisterClassA(const WNDCLASSA* windowClass) {
     EXPECT_TRUE(windowClass->lpfnWndProc == GameWindowProc);
@@ -65,16 +74,9 @@ HWND CreateWindowExA(DWORD extendedStyle, const char* className, const char* tit
     return theWindow;
 }
 
-BOOL ShowWindow(HWND, int mode) {
-    return noted(FALSE, "ShowWindow", mode);
-}
 BOOL UpdateWindow(HWND window) {
     noted(0, "UpdateWindow");
     return machine.windowClass.lpfnWndProc(window, WM_PAINT, 0, 0) == 0;
-}
-
-int ShowCursor(BOOL show) {
-    return noted(show != FALSE ? 0 : -1, "ShowCursor", show);
 }
 
 BOOL PeekMessageA(MSG* message, HWND, UINT first, UINT last, UINT remove) {
@@ -118,19 +120,8 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
     return noted(77, "DefWindowProcA", window == theWindow, message, wParam, lParam);
 }
 
-HDC BeginPaint(HWND, PAINTSTRUCT*) {
-    return noted(theSurface, "BeginPaint");
-}
-BOOL EndPaint(HWND, const PAINTSTRUCT*) {
-    return noted(TRUE, "EndPaint");
-}
-
 UINT_PTR SetTimer(HWND, UINT_PTR timer, UINT period, TIMERPROC) {
     return noted(fails("SetTimer") ? 0 : timer, "SetTimer", timer, period);
-}
-
-HWND GetFocus() {
-    return focusWindow;
 }
 
 SHORT GetAsyncKeyState(int key) {
@@ -218,10 +209,6 @@ BOOL PlaySoundA(const char* fileName, HMODULE module, DWORD flags) {
     return noted(!fails("PlaySoundA"), "PlaySoundA", fileName);
 }
 
-BOOL MessageBeep(UINT type) {
-    return noted(TRUE, "MessageBeep", type);
-}
-
 // As the system does when a piece is closed while it plays.
 void abortMusic() {
     const auto device = static_cast<LPARAM>(std::exchange(machine.playingDevice, 0U));
@@ -294,10 +281,6 @@ BOOL CloseHandle(HANDLE file) {
 }
 
 // Errors in the system's words
-
-DWORD GetLastError() {
-    return 1234;
-}
 
 DWORD FormatMessageA(DWORD flags, const void*, DWORD error, DWORD language, char* buffer, DWORD,
                      va_list*) {
