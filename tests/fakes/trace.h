@@ -113,7 +113,7 @@ std::ptrdiff_t count(const GlCall& call);
 std::ptrdiff_t count(std::string_view name);
 
 // The drawings of the last frame, each as its shape and the state that it was drawn in, such as
-// "triangles, depth greater, fog linear 0.0025 0.1 1 1 1 1 nicest". Those alike in a row count once.
+// "triangles, depth greater, fog linear 0.0025 0.1 1 1 1 1 nicest". Equal ones in a row count once.
 Lines painted();
 
 // A line of text on the screen, put together from glyphs of the test font (tests/fakes/play.h).
