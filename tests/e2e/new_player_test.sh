@@ -2,10 +2,8 @@
 # A new player of the unpacked package for Windows meets the rivals: the program writes them beside
 # itself as best times, and so shows no notice. A player's own best times stay.
 #   new_player_test.sh PROGRAM
-set -euo pipefail
-root=$(cd "$(dirname "$0")/../.." && pwd)
 # shellcheck source=scripts/virtual_game.sh
-. "$root/scripts/virtual_game.sh"
+. "$(dirname "$(realpath "$0")")/../../scripts/virtual_game.sh"
 trap stopGame EXIT
 
 withRivals=yes

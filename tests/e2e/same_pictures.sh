@@ -2,10 +2,8 @@
 # Plays two builds of the game, and compares what they show, on displays of the game's own mode.
 #   same_pictures.sh BINARY BINARY DATA_FOLDER
 # Pictures of both are left in the working folder.
-set -euo pipefail
-root=$(cd "$(dirname "$0")/../.." && pwd)
 # shellcheck source=scripts/virtual_game.sh
-. "$root/scripts/virtual_game.sh"
+. "$(dirname "$(realpath "$0")")/../../scripts/virtual_game.sh"
 trap stopGame EXIT
 displaySize=640x480
 displayDepth=16
@@ -20,15 +18,14 @@ visitScreens() { # BINARY DATA_FOLDER PREFIX
     press Down Down Return
     shoot "$3_options.png"
     press Escape Down Return
-    sleep 1
     shoot "$3_best_times.png"
-    # Paused in the count-down, when the camera is as good as at rest.
+    # The marble lies where it starts, and the camera has come to rest.
     press Escape Return
-    sleep 4
+    waitForClock 43
     press F12
     shoot "$3_level.png"
     press Escape Up Return
-    waitForEnd 10
+    waitForEnd 60
     stopGame
 }
 

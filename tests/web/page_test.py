@@ -10,7 +10,6 @@ import http.server
 import pathlib
 import sys
 import threading
-import time
 import unittest
 
 import pictures
@@ -208,7 +207,6 @@ class Visitor(PageStory):
         self.browser.press(key)
 
     def say_frame_rate(self):
-        time.sleep(3)
         rate = self.browser.run("""
             const {counts} = glorbix.screen;
             const before = counts.frames;
@@ -272,7 +270,10 @@ class Visitor(PageStory):
     def test_answers_a_message_box_before_the_game_goes_on(self):
         self.set_times("rubbish", waits=False)
         self.browser.wait("document.querySelector('dialog[open]')")
-        time.sleep(0.5)
+        self.browser.run("""
+            const pass = (frames) => new Promise(requestAnimationFrame).then(
+                () => frames > 1 ? pass(frames - 1) : 0);
+            return pass(20);""")
         self.assertEqual(self.browser.run("return glorbix.screen.counts.frames"), 0)
         self.assertFalse(self.browser.run("""
             return document.querySelector('dialog button').dispatchEvent(new KeyboardEvent(
