@@ -40,14 +40,6 @@ struct Gamepad : OnSdl {
         SDL_JoystickSetVirtualButton(stick, button, down ? 1 : 0);
         return pressedNow();
     }
-    static Codes held() {
-        Codes codes;
-        for (int code = 1; code < 256; ++code) {
-            if (GetAsyncKeyState(code) < 0) { codes.push_back(code); }
-        }
-        return codes;
-    }
-
     int device = -1;
     SDL_Joystick* stick = nullptr;
 };
@@ -63,32 +55,54 @@ TEST_F(Gamepad, SteersWithStickAndCrossAndSpeedsUpWithTriggers) {
         EXPECT_EQ(move(axis, side * 0.37), Codes{key});
         EXPECT_EQ(move(axis, side * 0.33), Codes{}) << "held, but not pressed again";
         EXPECT_EQ(move(axis, side), Codes{});
-        EXPECT_EQ(held(), Codes{key});
+        EXPECT_EQ(heldCodes(), Codes{key});
         move(axis, side * 0.2);
-        EXPECT_EQ(held(), Codes{});
+        EXPECT_EQ(heldCodes(), Codes{});
         EXPECT_EQ(press(cross), Codes{key});
-        EXPECT_EQ(held(), Codes{key});
+        EXPECT_EQ(heldCodes(), Codes{key});
         press(cross, false);
     }
     for (const auto trigger : {SDL_CONTROLLER_AXIS_TRIGGERLEFT, SDL_CONTROLLER_AXIS_TRIGGERRIGHT}) {
         move(trigger, 1.0);
-        EXPECT_EQ(held(), Codes{VK_SHIFT});
+        EXPECT_EQ(heldCodes(), Codes{VK_SHIFT});
         move(trigger, -1.0);
-        EXPECT_EQ(held(), Codes{});
+        EXPECT_EQ(heldCodes(), Codes{});
     }
 }
 
 TEST_F(Gamepad, AnswersMenusAndBoxesAndMayBePulledOut) {
     EXPECT_EQ(press(SDL_CONTROLLER_BUTTON_A), (Codes{VK_SHIFT, VK_RETURN}));
-    EXPECT_EQ(held(), (Codes{VK_RETURN, VK_SHIFT}));
+    EXPECT_EQ(heldCodes(), (Codes{VK_RETURN, VK_SHIFT}));
     press(SDL_CONTROLLER_BUTTON_A, false);
     EXPECT_EQ(press(SDL_CONTROLLER_BUTTON_START), Codes{VK_ESCAPE});
     EXPECT_EQ(press(SDL_CONTROLLER_BUTTON_B), Codes{VK_ESCAPE});
     move(SDL_CONTROLLER_AXIS_LEFTX, 1.0);
     pullOut();
-    EXPECT_EQ(held(), Codes{}) << "nothing is stuck";
+    EXPECT_EQ(heldCodes(), Codes{}) << "nothing is stuck";
     plugIn();
     EXPECT_EQ(press(SDL_CONTROLLER_BUTTON_DPAD_UP), Codes{VK_UP});
+}
+
+TEST_F(Gamepad, MayBeOneOfTwo) {
+    const auto first = std::pair(device, stick);
+    move(SDL_CONTROLLER_AXIS_LEFTX, 1.0);
+    plugIn();
+    move(SDL_CONTROLLER_AXIS_LEFTX, 1.0);
+    move(SDL_CONTROLLER_AXIS_LEFTX, 0.0);
+    EXPECT_EQ(heldCodes(), Codes{VK_RIGHT}) << "with the first";
+    press(SDL_CONTROLLER_BUTTON_DPAD_UP);
+    pullOut();
+    EXPECT_EQ(heldCodes(), Codes{VK_RIGHT});
+    std::tie(device, stick) = first;
+}
+
+TEST_F(Gamepad, IsLetGoWhileABoxIsOpen) {
+    move(SDL_CONTROLLER_AXIS_LEFTX, 1.0);
+    SDL_JoystickSetVirtualAxis(stick, SDL_CONTROLLER_AXIS_LEFTX, 0);
+    SDL_JoystickSetVirtualAxis(stick, SDL_CONTROLLER_AXIS_LEFTY, SDL_JOYSTICK_AXIS_MAX);
+    MessageBoxA(window, "", "Notice", MB_OK);
+    EXPECT_EQ(heldCodes(), Codes{VK_DOWN});
+    EXPECT_EQ(pressedNow(), Codes{}) << "the game was not played";
 }
 
 } // namespace

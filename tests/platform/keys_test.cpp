@@ -34,13 +34,9 @@ const Row everyKey[] = {
 
 // The codes that are held while a key is.
 Codes heldWith(SDL_Scancode place) {
-    Uint8& key = const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[place];
-    Codes held;
-    key = 1;
-    for (int code = 1; code < 256; ++code) {
-        if (GetAsyncKeyState(code) < 0) { held.push_back(code); }
-    }
-    key = 0;
+    keyState(place) = 1;
+    const Codes held = heldCodes();
+    keyState(place) = 0;
     return held;
 }
 

@@ -5,6 +5,9 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -12,6 +15,7 @@
 #include <vector>
 
 #include <SDL.h>
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include "platform/sdl/window_handle.h"
@@ -21,9 +25,20 @@ using Numbers = std::vector<UINT>; // of messages
 
 inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
 inline std::optional<SDL_Rect> roomOnDesktop; // without a value the display's own
+inline std::optional<std::string> driver;     // without a value the one that SDL uses
+inline std::string programFolder;             // empty: not known
 inline int refreshRate = 0;                   // of the display; 0: not known
+inline Uint32 moreFlags = 0;                  // that every window has
+inline bool hasWindowManager = true;          // which makes a window as large as the screen
 inline int framesShown = 0;
 inline double clockJump = 0.0; // seconds
+inline int contextsDeleted = 0;
+inline std::function<void()> whenBoxIsPainted;
+
+template <typename Function, typename... Arguments>
+auto callSdl(const char* name, Function*, Arguments... arguments) {
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name))(arguments...);
+}
 
 // The linker takes these instead of SDL's. Without a screen there is nothing to swap.
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetPerformanceCounter() {
@@ -51,6 +66,32 @@ inline double clockJump = 0.0; // seconds
 
 [[gnu::used]] inline void SDLCALL SDL_GL_SwapWindow(SDL_Window*) {
     ++framesShown;
+}
+
+[[gnu::used]] inline const char* SDLCALL SDL_GetCurrentVideoDriver() {
+    return driver ? driver->c_str() : callSdl(__func__, SDL_GetCurrentVideoDriver);
+}
+
+[[gnu::used]] inline char* SDLCALL SDL_GetBasePath() {
+    return programFolder.empty() ? nullptr : SDL_strdup(programFolder.c_str());
+}
+
+[[gnu::used]] inline Uint32 SDLCALL SDL_GetWindowFlags(SDL_Window* window) {
+    return callSdl(__func__, SDL_GetWindowFlags, window) | moreFlags;
+}
+
+[[gnu::used]] inline int SDLCALL SDL_SetWindowFullscreen(SDL_Window* window, Uint32 flags) {
+    return hasWindowManager ? callSdl(__func__, SDL_SetWindowFullscreen, window, flags) : 0;
+}
+
+[[gnu::used]] inline void SDLCALL SDL_GL_DeleteContext(SDL_GLContext context) {
+    ++contextsDeleted;
+    callSdl(__func__, SDL_GL_DeleteContext, context);
+}
+
+[[gnu::used]] inline int SDLCALL SDL_UpdateWindowSurface(SDL_Window*) {
+    if (whenBoxIsPainted) { std::exchange(whenBoxIsPainted, nullptr)(); }
+    return 0;
 }
 
 // The window procedure records what it receives. It returns what `answers` holds for a message; all
@@ -82,6 +123,20 @@ inline SDL_Window* sdlWindow() {
 
 inline bool hasFlag(SDL_WindowFlags flag) {
     return (SDL_GetWindowFlags(sdlWindow()) & flag) != 0;
+}
+
+// What SDL knows of a key: 1 while it is held.
+inline Uint8& keyState(SDL_Scancode place) {
+    return const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[place];
+}
+
+// The virtual-key codes that are held.
+inline std::vector<int> heldCodes() {
+    std::vector<int> held;
+    for (int code = 1; code < 256; ++code) {
+        if (GetAsyncKeyState(code) < 0) { held.push_back(code); }
+    }
+    return held;
 }
 
 // A key with the label of an English keyboard.
@@ -124,15 +179,20 @@ inline Numbers heardNow() {
     return std::exchange(heard, {});
 }
 
-// The system's text for its last error.
-inline std::string lastErrorWords() {
+// The system's text for an error.
+inline std::string lastErrorWords(DWORD error = GetLastError()) {
     constexpr DWORD flags = FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM;
     char* text = nullptr;
-    const DWORD length = FormatMessageA(flags, nullptr, GetLastError(), 0,
-                                        reinterpret_cast<char*>(&text), 0, nullptr);
+    const DWORD length =
+        FormatMessageA(flags, nullptr, error, 0, reinterpret_cast<char*>(&text), 0, nullptr);
     std::string words(text, length);
     LocalFree(text);
     return words;
+}
+
+// How many files, folders and pipes the process has open.
+inline auto openFiles() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
 
 // The window is shown and has no messages waiting; WM_CLOSE does not close it.
@@ -144,7 +204,10 @@ struct OnSdl : testing::Test {
     }
     ~OnSdl() override {
         stoppedClock.reset();
+        driver.reset();
+        roomOnDesktop.reset();
         refreshRate = 0;
+        moreFlags = 0;
         answers.clear();
         DefWindowProcA(currentWindow(), WM_CLOSE, 0, 0);
         heard.clear();

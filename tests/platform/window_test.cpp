@@ -23,13 +23,16 @@ Size sizeOfWindow() {
 struct TheWindow : OnSdl {};
 
 TEST_F(TheWindow, OpensHiddenAfterTheGameIsAsked) {
+    const Uint32 number = SDL_GetWindowID(sdlWindow());
     closeWindow();
+    EXPECT_EQ(SDL_GetWindowFromID(number), nullptr);
     answers[WM_CREATE] = -1;
     EXPECT_EQ(openTestWindow(), nullptr);
     answers.clear();
     openTestWindow();
     EXPECT_EQ(openTestWindow(), nullptr) << "there is one";
     EXPECT_TRUE(hasFlag(SDL_WINDOW_HIDDEN) && hasFlag(SDL_WINDOW_RESIZABLE));
+    EXPECT_TRUE(hasFlag(SDL_WINDOW_ALLOW_HIGHDPI)) << "every pixel of the display";
     EXPECT_STREQ(SDL_GetWindowTitle(sdlWindow()), "A title");
     EXPECT_EQ(GetFocus(), nullptr);
     EXPECT_FALSE(ShowWindow(window, SW_SHOW)) << "it was hidden";
@@ -64,7 +67,10 @@ TEST_F(TheWindow, HearsOfFocusAndRequestsToCloseOnce) {
     EXPECT_EQ(heardNow(), Numbers{WM_KILLFOCUS});
     EXPECT_EQ(GetFocus(), nullptr);
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
-    EXPECT_EQ(heardNow(), Numbers{WM_SETFOCUS});
+    pushKey(SDL_SCANCODE_J);
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST);
+    pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
+    EXPECT_EQ(heardNow(), (Numbers{WM_SETFOCUS, WM_KEYDOWN}));
     EXPECT_EQ(GetFocus(), window);
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_LOST);
     pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_FOCUS_GAINED);
@@ -92,7 +98,6 @@ TEST_F(TheWindow, IsTwiceTheDisplayWhereTheDesktopHasRoom) {
         openTestWindow();
         EXPECT_EQ(sizeOfWindow(), size) << room.w;
     }
-    roomOnDesktop.reset();
 }
 
 TEST_F(TheWindow, CoversTheScreenInTheOneDisplayMode) {
@@ -109,6 +114,14 @@ TEST_F(TheWindow, CoversTheScreenInTheOneDisplayMode) {
         other.*field *= 2;
         EXPECT_EQ(ChangeDisplaySettingsA(&other, 0), DISP_CHANGE_BADMODE);
     }
+    hasWindowManager = false;
+    EXPECT_EQ(ChangeDisplaySettingsA(&mode, 0), DISP_CHANGE_SUCCESSFUL);
+    SDL_Rect screen;
+    Size place;
+    SDL_GetDisplayBounds(0, &screen);
+    SDL_GetWindowPosition(sdlWindow(), &place.first, &place.second);
+    EXPECT_TRUE(place == Size(screen.x, screen.y) && sizeOfWindow() == Size(screen.w, screen.h));
+    hasWindowManager = true;
     EXPECT_EQ(ChangeDisplaySettingsA(&mode, 0), DISP_CHANGE_SUCCESSFUL);
     EXPECT_TRUE(hasFlag(SDL_WINDOW_FULLSCREEN) && sizeOfWindow() > ownSize);
     EXPECT_EQ(ChangeDisplaySettingsA(nullptr, 0), DISP_CHANGE_SUCCESSFUL);
@@ -141,7 +154,10 @@ void findNoOpenGl() {
 void startAndStop() {
     EXPECT_NE(openTestWindow(), nullptr);
     EXPECT_FALSE(SDL_IsTextInputActive()) << "an input method would take the letters";
-    EXPECT_FALSE(SDL_GetHintBoolean(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, SDL_TRUE));
+    for (const char* hint :
+         {SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE}) {
+        EXPECT_FALSE(SDL_GetHintBoolean(hint, SDL_TRUE)) << hint;
+    }
     shutDown();
     EXPECT_EQ(SDL_WasInit(0), 0U);
 }
