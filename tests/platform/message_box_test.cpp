@@ -2,6 +2,8 @@
 // receives.
 #include "platform/sdl/message_box.h"
 
+#include <ctime>
+
 #include "platform/sdl/box_text.h"
 #include "platform/sdl_machine.h"
 
@@ -27,37 +29,92 @@ struct Boxes : OnSdl {
     Boxes() { isClosedBy({}); }
     ~Boxes() override { box.close(); }
 
-    // A new box takes the events in turn; the last of them decides.
-    bool isClosedBy(const std::vector<SDL_Event>& events) {
+    SDL_Surface& open(const BoxContent& content) {
         box.close();
         box = {};
-        EXPECT_TRUE(box.open({"Notice", "\nRg", false}, nullptr));
+        keyState(SDL_SCANCODE_RETURN) = holdsReturn ? 1 : 0;
+        EXPECT_TRUE(box.open(content, nullptr));
+        return *SDL_GetWindowSurface(box.sdl);
+    }
+
+    bool handle(SDL_Event event) {
+        event.window.windowID = SDL_GetWindowID(box.sdl);
+        return box.handle(event);
+    }
+
+    // A new box takes the events in turn; the last of them decides.
+    bool isClosedBy(const std::vector<SDL_Event>& events) {
+        open({"Notice", "", false});
         bool closed = false;
-        for (SDL_Event event : events) {
+        for (const SDL_Event& event : events) {
             EXPECT_FALSE(closed);
-            event.window.windowID = SDL_GetWindowID(box.sdl);
-            closed = box.handle(event);
+            closed = handle(event);
         }
         return closed;
     }
 
     MessageBox box;
+    bool holdsReturn = false;
 };
 
-TEST_F(Boxes, ShowTheirText) {
-    EXPECT_NE(SDL_GetWindowFlags(box.sdl) & SDL_WINDOW_SHOWN, 0U);
-    const SDL_Surface& surface = *SDL_GetWindowSurface(box.sdl);
-    const int scale = surface.w / 130; // no text is as wide as the narrowest box
-    const auto* row = static_cast<const Uint32*>(surface.pixels) + 47 * scale * surface.w;
-    std::string dots; // of the middle of "Rg"
-    for (int x = 10; x < 21; ++x) {
-        dots += row[x * scale] == row[14 * scale] ? '.' : '#';
+SDL_Event up(SDL_Scancode key) {
+    return keyEvent(key, KMOD_NONE, false, SDL_KEYUP);
+}
+
+SDL_Event windowEvent(SDL_WindowEventID what) {
+    SDL_Event event = {};
+    event.type = SDL_WINDOWEVENT;
+    event.window.event = static_cast<Uint8>(what);
+    return event;
+}
+
+Uint32 pressReturn(Uint32 = 0, void* = nullptr) {
+    SDL_Event let = up(SDL_SCANCODE_RETURN);
+    pushKey(SDL_SCANCODE_RETURN);
+    SDL_PushEvent(&let);
+    return 0;
+}
+
+// Every glyph, both colours, and the places of all: a sum over the pixels. Look at the picture that
+// is named before you change a sum.
+TEST_F(Boxes, LookAsTheyDidBefore) {
+    std::string text = "Zo\xC3\xAB\n";
+    for (char character = '!'; character <= '~'; ++character) {
+        text += character;
     }
-    EXPECT_EQ(dots, "####..#...#");
+    roomOnDesktop = SDL_Rect{0, 0, 640, 480};
+    for (const Uint32 sum : {0x7A79EE60U, 0x3DF7C2E0U}) {
+        SDL_Surface& surface = open({"Gear", text, sum == 0x3DF7C2E0});
+        Uint32 seen = 0;
+        for (int i = 0; i < surface.w * surface.h; ++i) {
+            const Uint32 pixel = static_cast<const Uint32*>(surface.pixels)[i] & 0xFFFFFF;
+            seen = (seen ^ pixel) * 16777619;
+        }
+        const std::string picture = testing::TempDir() + "glorbix_box.bmp";
+        EXPECT_EQ(seen, sum) << (SDL_SaveBMP(&surface, picture.c_str()), picture);
+    }
+    EXPECT_NE(SDL_GetWindowFlags(box.sdl) & SDL_WINDOW_ALWAYS_ON_TOP, 0U);
+    bool painted = false;
+    whenBoxIsPainted = [&] { painted = true; };
+    EXPECT_TRUE(!handle(windowEvent(SDL_WINDOWEVENT_EXPOSED)) && painted);
+}
+
+TEST_F(Boxes, AreAsLargeAsTheDisplayAllows) {
+    const struct {
+        SDL_Rect room;
+        int scale, most; // the scale of short texts; the width of long ones
+    } cases[] = {
+        {{0, 0, 640, 480}, 2, 592}, {{0, 0, 1920, 1080}, 3, 1068}, {{0, 0, 3840, 2160}, 6, 2136}};
+    for (const auto& [room, scale, most] : cases) {
+        roomOnDesktop = room;
+        EXPECT_EQ(open({"", "short", false}).w, 130 * scale);
+        const SDL_Surface& surface = open({"", std::string(500, '/'), false});
+        EXPECT_EQ(surface.w, most);
+        EXPECT_LE(surface.h, room.h - 48) << "its title bar has room";
+    }
 }
 
 TEST_F(Boxes, CloseWhenAKeyOfTheirOwnIsLetGo) {
-    const auto up = [](SDL_Scancode key) { return keyEvent(key, KMOD_NONE, false, SDL_KEYUP); };
     for (const SDL_Scancode key :
          {SDL_SCANCODE_RETURN, SDL_SCANCODE_KP_ENTER, SDL_SCANCODE_SPACE, SDL_SCANCODE_ESCAPE}) {
         EXPECT_TRUE(isClosedBy({keyEvent(key), up(SDL_SCANCODE_UP), up(key)})) << key;
@@ -67,6 +124,14 @@ TEST_F(Boxes, CloseWhenAKeyOfTheirOwnIsLetGo) {
     EXPECT_FALSE(isClosedBy({keyEvent(SDL_SCANCODE_F4), up(SDL_SCANCODE_F4)}));
     EXPECT_FALSE(isClosedBy({up(SDL_SCANCODE_UNKNOWN)})) << "a key that SDL does not know";
     EXPECT_TRUE(isClosedBy({keyEvent(SDL_SCANCODE_F4, KMOD_LALT), up(SDL_SCANCODE_F4)}));
+
+    const SDL_Event pressed = keyEvent(SDL_SCANCODE_RETURN);
+    stoppedClock = 9000;
+    holdsReturn = true;
+    EXPECT_FALSE(isClosedBy({pressed, up(SDL_SCANCODE_RETURN)})) << "SDL may take it for a press";
+    stoppedClock = 9700;
+    EXPECT_FALSE(handle(pressed));
+    EXPECT_TRUE(handle(up(SDL_SCANCODE_RETURN))) << "let go and pressed again since";
 }
 
 TEST_F(Boxes, CloseByAClickOnTheirButtonAndByTheirCloseButton) {
@@ -79,16 +144,47 @@ TEST_F(Boxes, CloseByAClickOnTheirButtonAndByTheirCloseButton) {
         return event;
     };
     const int below = box.button.h;
-    const SDL_Event up = mouse(SDL_MOUSEBUTTONUP, below - 1);
-    EXPECT_TRUE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, 0), up}));
-    EXPECT_FALSE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, below), up}));
+    const SDL_Event let = mouse(SDL_MOUSEBUTTONUP, below - 1);
+    EXPECT_TRUE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, 0), let}));
+    EXPECT_FALSE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, below), let}));
     EXPECT_FALSE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, 0), mouse(SDL_MOUSEBUTTONUP, below)}));
-    EXPECT_FALSE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, 0, SDL_BUTTON_RIGHT), up}));
-    SDL_Event close = {};
-    close.type = SDL_WINDOWEVENT;
-    close.window.event = SDL_WINDOWEVENT_CLOSE;
-    EXPECT_TRUE(isClosedBy({close}));
+    EXPECT_FALSE(isClosedBy({mouse(SDL_MOUSEBUTTONDOWN, 0, SDL_BUTTON_RIGHT), let}));
+    EXPECT_TRUE(isClosedBy({windowEvent(SDL_WINDOWEVENT_CLOSE)}));
     EXPECT_FALSE(SDL_HasEvent(SDL_QUIT)) << "the game plays on";
+}
+
+TEST_F(Boxes, CloseByThreeButtonsOfAGamepad) {
+    for (const auto button : {SDL_CONTROLLER_BUTTON_A, SDL_CONTROLLER_BUTTON_B,
+                              SDL_CONTROLLER_BUTTON_START, SDL_CONTROLLER_BUTTON_X}) {
+        SDL_Event press = {}, let = {};
+        press.type = SDL_CONTROLLERBUTTONDOWN;
+        let.type = SDL_CONTROLLERBUTTONUP;
+        press.cbutton.button = let.cbutton.button = static_cast<Uint8>(button);
+        EXPECT_EQ(isClosedBy({press, let}), button != SDL_CONTROLLER_BUTTON_X) << button;
+        EXPECT_FALSE(isClosedBy({let})) << "held before";
+    }
+}
+
+TEST_F(OnSdl, MessageBoxesWaitForThePlayerAndLeaveTheGameAsItWas) {
+    testing::internal::CaptureStderr();
+    driver = "x11"; // where a player can answer
+    ShowCursor(FALSE);
+    keyState(SDL_SCANCODE_UP) = 1;
+    whenBoxIsPainted = [] {
+        EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_ENABLE);
+        pushEvent(SDL_POLLSENTINEL); // SDL's own
+        pushEvent(SDL_WINDOWEVENT, SDL_WINDOWEVENT_EXPOSED);
+        SDL_AddTimer(300, pressReturn, nullptr);
+    };
+    const std::clock_t before = std::clock();
+    EXPECT_EQ(MessageBoxA(window, "", "Notice", MB_OK), 1);
+    EXPECT_LT(std::clock() - before, CLOCKS_PER_SEC / 5) << "it takes no processor time";
+    testing::internal::GetCapturedStderr();
+    EXPECT_FALSE(whenBoxIsPainted);
+    EXPECT_EQ(SDL_ShowCursor(SDL_QUERY), SDL_DISABLE);
+    ShowCursor(TRUE);
+    EXPECT_EQ(heldCodes(), std::vector<int>{});
+    EXPECT_EQ(heardNow(), Numbers{WM_PAINT});
 }
 
 TEST_F(OnSdl, MessageBoxesLeaveTheGameNothingButTheRequestToEnd) {
@@ -104,10 +200,11 @@ TEST_F(OnSdl, MessageBoxesLeaveTheGameNothingButTheRequestToEnd) {
     pushKey(SDL_SCANCODE_J);
     MessageBoxA(window, "Creating a file", "Notice", MB_OK);
     EXPECT_EQ(heardNow(), Numbers{}) << "a key that waited for the box is the box's";
-    pushKey(SDL_SCANCODE_RETURN);
-    SDL_Event up = keyEvent(SDL_SCANCODE_RETURN, KMOD_NONE, false, SDL_KEYUP);
-    SDL_PushEvent(&up);
+    pressReturn();
     pushKey(SDL_SCANCODE_J);
+    SDL_Event pad = {};
+    pad.type = SDL_CONTROLLERBUTTONDOWN;
+    SDL_PushEvent(&pad);
     MessageBoxA(window, "Creating a file", "Notice", MB_OK);
     EXPECT_EQ(heardNow(), Numbers{}) << "pressed before the box was gone";
     const std::string lines = "glorbix: Notice: Creating a file\nglorbix: Error: no font\n";
