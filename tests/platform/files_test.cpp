@@ -31,13 +31,14 @@ TEST(Clock, GoesOnBetweenAnyTwoCallsAtItsFrequency) {
 // Installed data and a player's home in a new folder; the test may leave the current folder.
 struct Folders : testing::Test {
     const fs::path before = fs::current_path();
+    const std::ptrdiff_t openBefore = openFiles();
     fs::path root, data, own;
     std::string why;
 
     Folders() {
         std::string name = fs::temp_directory_path() / "glorbix_XXXXXX";
         root = fs::canonical(mkdtemp(name.data()));
-        data = root / "share/glorbix";
+        data = root / "shäre d/glorbix";
         own = root / "home/.local/share/glorbix";
         for (const char* folder : {"maps", "graphics", "sounds"}) {
             fs::create_directories(data / folder);
@@ -48,6 +49,7 @@ struct Folders : testing::Test {
     }
 
     ~Folders() override {
+        EXPECT_EQ(openFiles(), openBefore) << "none is left open";
         fs::current_path(before);
         fs::remove_all(root);
     }
@@ -86,6 +88,7 @@ TEST_F(Folders, HoldFilesThatAreReadToTheirEndOrNotAtAll) {
                           nullptr),
               INVALID_HANDLE_VALUE)
         << "to write";
+    EXPECT_EQ(lastErrorWords(9999), "Error 9999.");
     const HANDLE broken = openFile("/proc/self/mem"); // nothing can be read at address 0
     for (const HANDLE unread : {broken, HANDLE{nullptr}, INVALID_HANDLE_VALUE}) {
         got = 99;
@@ -133,6 +136,22 @@ TEST_F(Folders, OfThePlayerHaveLinksToTheData) {
     EXPECT_EQ(fs::current_path(), root / "data/glorbix");
 }
 
+TEST_F(Folders, OfTheDataAreFoundHereAndBesideTheProgram) {
+    fs::current_path(data);
+    EXPECT_TRUE(chooseWorkingDirectory(why)) << why;
+    EXPECT_EQ(fs::current_path(), data);
+    programFolder = root / "build/check/";
+    fs::create_directories(programFolder);
+    for (const char* place : {"game", "build/game", "build/check/game"}) {
+        fs::current_path(root);
+        fs::rename(std::exchange(data, root / place), root / place);
+        EXPECT_TRUE(chooseWorkingDirectory(why)) << why;
+        EXPECT_EQ(fs::current_path(), own);
+        EXPECT_EQ(seen("maps"), data / "maps");
+    }
+    programFolder.clear();
+}
+
 TEST_F(Folders, HaveRivalsForANewPlayerAndLeaveBestTimesAlone) {
     const auto timesAfterEntering = [&] {
         EXPECT_EQ(complaintOnEntering(), "");
@@ -144,8 +163,7 @@ TEST_F(Folders, HaveRivalsForANewPlayerAndLeaveBestTimesAlone) {
     std::ofstream(data / "rivals.dat") << "165 IDA ";
     fs::permissions(data / "rivals.dat", fs::perms(0444));
     EXPECT_EQ(timesAfterEntering(), "165 IDA ");
-    EXPECT_NE(fs::status(own / "highScore.dat").permissions() & fs::perms::owner_write,
-              fs::perms::none);
+    EXPECT_EQ(fs::status(own / "highScore.dat").permissions(), fs::perms(0644));
     std::ofstream(own / "highScore.dat") << "99 JOE ";
     EXPECT_EQ(timesAfterEntering(), "99 JOE ");
     fs::remove(own / "highScore.dat");
@@ -166,6 +184,7 @@ TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {
     fs::create_directory_symlink("./mine", own / "maps");
     fs::rename(data, root / "moved"); // installed a second time, elsewhere
     data = root / "moved";
+    fs::current_path(root);
     EXPECT_EQ(complaintOnEntering(), "");
     EXPECT_EQ(seen("maps"), own / "mine");
     EXPECT_EQ(seen("graphics"), root / "mine/graphics");
