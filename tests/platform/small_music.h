@@ -64,9 +64,13 @@ inline std::string midiFile(const std::string& events, char ticksPerBeat = 100) 
            static_cast<char>(track.size()) + track;
 }
 
-inline std::string pieceOf(double seconds) {
+// `before` is what happens at its start. Ticks of 1 a beat make it a hundred times longer. A note
+// whose end has another key sounds on.
+inline std::string pieceOf(double seconds, const std::string& before = "", char ticksPerBeat = 100,
+                           char keyOfEnd = '\x3C') {
     const int ticks = static_cast<int>(seconds * 200.0); // of 100 a beat, two beats a second
     const std::string wait = {static_cast<char>(0x80 | ticks >> 7),
                               static_cast<char>(ticks & 0x7F)};
-    return midiFile(std::string("\0\x90\x3C\x7F", 4) + wait + "\x80\x3C\x40");
+    return midiFile(before + std::string("\0\x90\x3C\x7F", 4) + wait + '\x80' + keyOfEnd + '\x40',
+                    ticksPerBeat);
 }
