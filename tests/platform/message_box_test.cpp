@@ -92,6 +92,8 @@ TEST_F(Boxes, LookAsTheyDidBefore) {
         }
         const std::string picture = testing::TempDir() + "glorbix_box.bmp";
         EXPECT_EQ(seen, sum) << (SDL_SaveBMP(&surface, picture.c_str()), picture);
+        constexpr SDL_Rect button = {252, 180, 88, 38}; // on that picture
+        EXPECT_TRUE(SDL_RectEquals(&box.button, &button));
     }
     EXPECT_NE(SDL_GetWindowFlags(box.sdl) & SDL_WINDOW_ALWAYS_ON_TOP, 0U);
     bool painted = false;
