@@ -74,6 +74,12 @@ std::ptrdiff_t count(std::string_view name) {
     return std::ssize(only({name}));
 }
 
+void enableEverything() {
+    for (const int what : {GL_DEPTH_TEST, GL_CULL_FACE, GL_TEXTURE_2D, GL_FOG, GL_BLEND}) {
+        glEnable(static_cast<GLenum>(what));
+    }
+}
+
 Lines painted() {
     Lines found;
     for (const GlCall& call : only({"glBegin", "glDrawPixels"})) {

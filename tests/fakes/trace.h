@@ -116,6 +116,9 @@ std::ptrdiff_t count(std::string_view name);
 // "triangles, depth greater, fog linear 0.0025 0.1 1 1 1 1 nicest". Equal ones in a row count once.
 Lines painted();
 
+// What a drawing must switch off itself is on afterwards.
+void enableEverything();
+
 // A line of text on the screen, put together from glyphs of the test font (tests/fakes/play.h).
 struct Text {
     std::string text;
