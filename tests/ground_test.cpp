@@ -1,4 +1,6 @@
 // The ground: its height, its catch radius, and the cells that are drawn.
+#include <algorithm>
+
 #include "fakes/play.h"
 #include "sim/view_frame.h"
 
