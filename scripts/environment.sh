@@ -25,6 +25,6 @@ root=$(cd -P "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 readonly root
 
 showUsage() {
-    sed -n '2,/^[^#]/s/^#\( \|$\)//p' "$0" >&2
+    sed -n '2,/^[^#]/{/^# shellcheck/d;s/^#\( \|$\)//p}' "$0" >&2
     exit 2
 }
