@@ -97,7 +97,10 @@ waitForClock() {
     }
 }
 
-hasNoClock() { [ -z "$(clock)" ]; }
+hasNoClock() {
+    local seconds
+    seconds=$(clock) && [ -z "$seconds" ]
+}
 
 waitForTable() {
     waitUntil 180 hasNoClock || {
