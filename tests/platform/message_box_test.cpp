@@ -14,6 +14,7 @@ using Lines = std::vector<std::string>;
 TEST(BoxText, BreaksBetweenWordsAndWithinPathsAndIsCutWhereTheDisplayEnds) {
     EXPECT_EQ(wrapText("could not load  the map", 10), (Lines{"could not", "load the", "map"}));
     EXPECT_EQ(wrapText("load a map it", 10), (Lines{"load a map", "it"}));
+    EXPECT_EQ(wrapText("load a mapp", 10), (Lines{"load a", "mapp"}));
     EXPECT_EQ(wrapText("in /usr/share/glorbix/maps it", 10),
               (Lines{"in", "/usr/share", "/glorbix/m", "aps it"}));
     EXPECT_EQ(wrapText("one\r\n\nZo\xC3\xAB\tt\n", 10), (Lines{"one", "", "Zo\x7F t"}));
@@ -191,6 +192,7 @@ TEST_F(OnSdl, MessageBoxesWaitForThePlayerAndLeaveTheGameAsItWas) {
 
 TEST_F(OnSdl, MessageBoxesLeaveTheGameNothingButTheRequestToEnd) {
     testing::internal::CaptureStderr();
+    driver = "x11"; // where the boxes wait for more
     for (const SDL_EventType type : {SDL_QUIT, SDL_WINDOWEVENT}) {
         pushKey(SDL_SCANCODE_J);
         pushEvent(type, SDL_WINDOWEVENT_CLOSE);
@@ -199,6 +201,7 @@ TEST_F(OnSdl, MessageBoxesLeaveTheGameNothingButTheRequestToEnd) {
         EXPECT_EQ(MessageBoxA(nullptr, "no font", nullptr, MB_ICONHAND), 1);
         EXPECT_EQ(heardNow(), Numbers{WM_CLOSE});
     }
+    driver.reset();
     pushKey(SDL_SCANCODE_J);
     MessageBoxA(window, "Creating a file", "Notice", MB_OK);
     EXPECT_EQ(heardNow(), Numbers{}) << "a key that waited for the box is the box's";
