@@ -124,7 +124,7 @@ TEST_F(LevelList, EndsDirectlyAfterItsLastName) {
     const struct {
         std::string content;
         bool accepted;
-    } cases[] = {{"\t0x3\r\none\vtwo\n\f  three", true},
+    } cases[] = {{"\t0x3\r\none\vtwo\n  \fthree", true},
                  {"3 one two three ", false},
                  {"3 one two", false},
                  {"3 one two three four", false},

@@ -141,7 +141,15 @@ TEST_F(MarbleOnScreen, IsADiscWithArrowsUpAndDownhill) {
     level.holeCount = 1;
     level.holes.reset(new Hole[1]{{40, 30, 50, 90}});
     put(0, 0);
+    marble.setColour(255, 100, 0);
+    enableEverything();
     marble.draw(viewFrame, level, true);
+    const std::string see = ", blend alpha 1-alpha", head = "triangles, depth",
+                      arrow = "lines 1.5, depth" + see + ", smooth nicest";
+    EXPECT_EQ(painted(),
+              (Lines{"triangles, depth, fog", "triangles, fog" + see,
+                     "lines 1, fog" + see + ", smooth nicest", arrow, head, arrow, head, arrow}));
+    EXPECT_EQ(count(GlCall("glColor4f", 0.1, 10 / 255.0, 0, 0.3)), 16 * (2 + 6)); // ghost, outline
     const GlCalls drawn = only({"glVertex3f"});
     ASSERT_EQ(drawn.size(), 16U * (3 + 3 + 6) + 2 * 9); // disc, ghost, outline, arrows
     const Vector3 centre = marble.position + level.normalAt(0, 0) * 20, from = spotOf(centre);

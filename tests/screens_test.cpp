@@ -30,6 +30,7 @@ struct Screens : Story {
                                     i == selected ? white : colour});
             }
             EXPECT_EQ(textsDrawn(), expected) << Game.menuItem;
+            EXPECT_EQ(drawn().back(), GlCall("SwapBuffers"));
         }
     }
 };
