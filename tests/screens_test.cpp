@@ -205,19 +205,27 @@ TEST_F(Screens, EverythingIsDrawnInOrderAndInItsState) {
     }
     EXPECT_EQ(texts, (Lines{"Turbo", "45.00", "Level 1", "-5", "NeW Game", "HIGHSCORE", "Options",
                             "Quit"}));
+    const auto levelIn = [&](const std::string& fog) {
+        return Lines{"triangles" + tested +
+                         ", cull front, texture 1 decal linear linear-linear repeat repeat" + fog,
+                     "triangles" + tested + fog,
+                     "triangles" + fog + alpha,                   // the marble
+                     "lines 1" + fog + alpha + ", smooth nicest", // its outline
+                     arrow,
+                     "triangles" + tested,
+                     arrow,
+                     "triangles" + tested,
+                     arrow,
+                     text,
+                     "loop 1.5, smooth nicest",
+                     "quads",
+                     text, // the gauge, the other texts
+                     "quads" + alpha,
+                     text}; // the shade, the menu
+    };
     for (const bool fogOn : {true, false}) {
-        const std::string fog =
-            fogOn ? ", fog linear 0.0025 0.000555556 0.75 0 0 0 nicest" : std::string();
         EXPECT_EQ(painted(),
-                  (Lines{"triangles" + tested +
-                             ", cull front, texture 1 decal linear "
-                             "linear-linear repeat repeat" +
-                             fog,
-                         "triangles" + tested + fog, "triangles" + fog + alpha, // the marble
-                         "lines 1" + fog + alpha + ", smooth nicest",           // its outline
-                         arrow, "triangles" + tested, arrow, "triangles" + tested, arrow, text,
-                         "loop 1.5, smooth nicest", "quads", text, // the gauge, the other texts
-                         "quads" + alpha, text}));                 // the shade, the menu
+                  levelIn(fogOn ? ", fog linear 0.0025 0.000555556 0.75 0 0 0 nicest" : ""));
         const double sky = fogOn ? 1 : 0; // the colour of the fog, or black
         EXPECT_EQ(GlCalls(drawn().end() - 3, drawn().end()),
                   (GlCalls{{"SwapBuffers"},
