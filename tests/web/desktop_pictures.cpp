@@ -1,12 +1,13 @@
 // Plays a scenario on the desktop's provider, without a display, and writes its pictures:
 //   desktop_pictures SCENARIO FOLDER
 // Each picture is 640 x 480 pixels of red, green and blue, from the lower left corner. The clock is
-// the count of frames, so the page at the same frame shows the same. Says the frames a second.
-#include <chrono>
-#include <cstdio>
+// the count of frames, so the page at the same frame shows the same.
 #include <cstdlib>
 #include <fstream>
+#include <map>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <GL/gl.h>
@@ -22,55 +23,34 @@ namespace {
 
 constexpr LONGLONG frameLength = 15'625'000; // nanoseconds, a 64th of a second
 
-struct KeyName {
-    const char* name;
-    SDL_Scancode scancode;
-    WPARAM key;
-};
-
-constexpr KeyName keyNames[] = {
-    {"ArrowUp", SDL_SCANCODE_UP, VK_UP},
-    {"ArrowLeft", SDL_SCANCODE_LEFT, VK_LEFT},
-    {"Shift", SDL_SCANCODE_LSHIFT, VK_SHIFT},
-    {"Enter", SDL_SCANCODE_RETURN, VK_RETURN},
-    {"Escape", SDL_SCANCODE_ESCAPE, VK_ESCAPE},
-    {"F1", SDL_SCANCODE_F1, VK_F1},
-    {"F3", SDL_SCANCODE_F3, VK_F3},
-    {"F4", SDL_SCANCODE_F4, VK_F4},
-    {"F5", SDL_SCANCODE_F5, VK_F5},
-};
+const std::map<std::string, std::pair<SDL_Scancode, WPARAM>> keys = {
+    {"ArrowUp", {SDL_SCANCODE_UP, VK_UP}},
+    {"ArrowLeft", {SDL_SCANCODE_LEFT, VK_LEFT}},
+    {"Shift", {SDL_SCANCODE_LSHIFT, VK_SHIFT}},
+    {"Enter", {SDL_SCANCODE_RETURN, VK_RETURN}},
+    {"Escape", {SDL_SCANCODE_ESCAPE, VK_ESCAPE}},
+    {"F1", {SDL_SCANCODE_F1, VK_F1}},
+    {"F3", {SDL_SCANCODE_F3, VK_F3}},
+    {"F4", {SDL_SCANCODE_F4, VK_F4}},
+    {"F5", {SDL_SCANCODE_F5, VK_F5}}};
 
 struct Playing {
     std::ifstream scenario;
     std::string folder;
     int framesLeft = 0; // of the present step
-    int frames = 0;
-    LONGLONG clock = 0;  // nanoseconds
-    std::string picture; // the name of the picture that this frame is; empty: none
+    LONGLONG clock = 0; // nanoseconds
 };
 
 Playing playing;
 
-[[noreturn]] void fail(const std::string& why) {
-    std::fprintf(stderr, "desktop_pictures: %s\n", why.c_str());
-    std::exit(1);
-}
-
-const KeyName& keyNamed(const std::string& name) {
-    for (const KeyName& key : keyNames) {
-        if (name == key.name) { return key; }
-    }
-    fail("there is no key " + name);
-}
-
-void press(const KeyName& key) {
-    PostMessageA(currentWindow(), WM_KEYDOWN, key.key, 0);
+void press(const std::string& key) {
+    PostMessageA(currentWindow(), WM_KEYDOWN, keys.at(key).second, 0);
 }
 
 // SDL's own table: GetAsyncKeyState reads it, and no event has changed it.
-void setHeld(const KeyName& key, bool held) {
-    const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[key.scancode] = held ? 1 : 0;
-    if (held) { press(key); }
+void setHeld(const std::string& key, Uint8 held) {
+    const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[keys.at(key).first] = held;
+    if (held != 0) { press(key); }
 }
 
 void writePicture(const std::string& name) {
@@ -82,21 +62,18 @@ void writePicture(const std::string& name) {
 
 // Does what the scenario says until it lets frames pass. Returns false at its end.
 bool doSteps() {
-    std::string line;
+    std::string line, word, value;
     while (playing.framesLeft == 0 && std::getline(playing.scenario, line)) {
-        const std::size_t blank = line.find(' ');
-        const std::string word = line.substr(0, blank);
-        const std::string value = blank < line.size() ? line.substr(blank + 1) : "";
-        if (word == "frames") { playing.framesLeft = std::atoi(value.c_str()); }
+        std::istringstream(line) >> word >> value;
+        if (word == "frames") { playing.framesLeft = std::stoi(value); }
         if (word == "picture") { writePicture(value); }
-        if (word == "press") { press(keyNamed(value)); }
-        if (word == "hold" || word == "release") { setHeld(keyNamed(value), word == "hold"); }
+        if (word == "press") { press(value); }
+        if (word == "hold" || word == "release") { setHeld(value, word == "hold" ? 1 : 0); }
     }
     return playing.framesLeft > 0;
 }
 
 void endFrame() {
-    ++playing.frames;
     playing.framesLeft -= playing.framesLeft > 0 ? 1 : 0;
     if (!doSteps()) { PostQuitMessage(0); }
     playing.clock += frameLength;
@@ -128,16 +105,13 @@ BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* counter) {
 }
 
 int main(int count, char* arguments[]) {
-    if (count != 3) { fail("expected a scenario and a folder"); }
+    if (count != 3) { return 2; }
     setenv("SDL_VIDEODRIVER", "offscreen", 1);
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     playing.scenario.open(arguments[1]);
     playing.folder = arguments[2];
     char noArguments[] = "";
-    const auto start = std::chrono::steady_clock::now();
     WinMain(nullptr, nullptr, noArguments, SW_SHOW);
-    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
-    std::printf("the desktop draws %.1f frames a second\n", playing.frames / passed.count());
     shutDown();
     return 0;
 }

@@ -1,5 +1,6 @@
 // OpenGL 1.1 as the page draws it: which triangles it is given, in which batches.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -12,41 +13,39 @@
 
 namespace {
 
+using Bytes = std::vector<std::uint8_t>;
+using Words = std::vector<std::string>;
+
 // What the page was asked for, in its order.
 struct Asked {
-    std::string what; // "draw", "clear", "upload", "parameter", "delete"
-    DrawState state;
+    DrawState state = {};
     std::vector<Vertex> vertices;
     std::uint32_t texture = 0;
-    std::vector<std::uint8_t> pixels;
+    Bytes pixels;
 };
 
+Words words; // "draw", "clear", "upload", "delete"
 std::vector<Asked> asked;
 
-std::vector<std::string> words() {
-    std::vector<std::string> told;
-    told.reserve(asked.size());
-    for (const Asked& one : asked) {
-        told.push_back(one.what);
-    }
-    return told;
+void record(const std::string& word, const Asked& one) {
+    words.push_back(word);
+    asked.push_back(one);
 }
-
-using Words = std::vector<std::string>;
 
 // Each test starts with the state of a new context.
 struct Gl : testing::Test {
     Gl() {
         flushBatch();
         glState = {};
+        words.clear();
         asked.clear();
     }
 
-    static void triangle(float z = 0.0F) {
+    static void triangle() {
         glBegin(GL_TRIANGLES);
-        glVertex3f(0, 0, z);
-        glVertex3f(1, 0, z);
-        glVertex3f(0, 1, z);
+        for (const auto& [x, y] : {std::pair(0.0F, 0.0F), {1, 0}, {0, 1}}) {
+            glVertex2f(x, y);
+        }
         glEnd();
     }
 
@@ -56,16 +55,14 @@ struct Gl : testing::Test {
     }
 };
 
-struct Extent {
-    float left, right, bottom, top; // pixels
-};
+using Extent = std::array<float, 4>; // left, right, bottom, top: pixels, to a half
 
 Extent extentOf(const std::vector<Vertex>& vertices) {
     Extent extent = {1000, -1000, 1000, -1000};
     for (const Vertex& v : vertices) {
-        const float x = (v.x + 1) * 320, y = (v.y + 1) * 240;
-        extent = {std::min(extent.left, x), std::max(extent.right, x), std::min(extent.bottom, y),
-                  std::max(extent.top, y)};
+        const float x = std::round((v.x + 1) * 640) / 2, y = std::round((v.y + 1) * 480) / 2;
+        extent = {std::min(extent[0], x), std::max(extent[1], x), std::min(extent[2], y),
+                  std::max(extent[3], y)};
     }
     return extent;
 }
@@ -81,21 +78,19 @@ void line(float x, float y, float toX, float toY) {
 
 extern "C" {
 void pageDraw(const DrawState* state, const Vertex* vertices, int count) {
-    asked.push_back({"draw", *state, {vertices, vertices + count}, 0, {}});
+    record("draw", {*state, {vertices, vertices + count}, 0, {}});
 }
 void pageClear(std::uint32_t, float, float, float, float, float) {
-    asked.push_back({"clear", {}, {}, 0, {}});
+    record("clear", {});
 }
 void pageUploadTexture(std::uint32_t texture, int, int width, int height, int components,
                        const std::uint8_t* pixels) {
     const int bytes = (width * components + 3) / 4 * 4 * height;
-    asked.push_back({"upload", {}, {}, texture, {pixels, pixels + bytes}});
+    record("upload", {{}, {}, texture, {pixels, pixels + bytes}});
 }
-void pageSetTextureParameter(std::uint32_t texture, std::uint32_t, int) {
-    asked.push_back({"parameter", {}, {}, texture, {}});
-}
-void pageDeleteTexture(std::uint32_t texture) {
-    asked.push_back({"delete", {}, {}, texture, {}});
+void pageSetTextureParameter(std::uint32_t, std::uint32_t, int) {}
+void pageDeleteTexture(std::uint32_t) {
+    record("delete", {});
 }
 }
 
@@ -107,16 +102,15 @@ TEST_F(Gl, CollectsTrianglesUntilTheyAreDrawnInAnotherWay) {
     glEnable(GL_BLEND);
     glDisable(GL_BLEND);
     triangle();
-    EXPECT_EQ(words(), Words{}) << "nothing is drawn yet";
+    EXPECT_EQ(words, Words{}) << "nothing is drawn yet";
     glEnable(GL_DEPTH_TEST);
     glDepthFunc(GL_GREATER);
     triangle();
     glClear(GL_COLOR_BUFFER_BIT);
-    ASSERT_EQ(words(), (Words{"draw", "draw", "clear"}));
+    ASSERT_EQ(words, (Words{"draw", "draw", "clear"}));
     ASSERT_EQ(asked[0].vertices.size(), 6U);
     EXPECT_EQ(asked[0].vertices[2].colour[1], 0.5F);
     EXPECT_EQ(asked[0].vertices[3].colour[3], 1.0F);
-    EXPECT_EQ(asked[0].state.depthFunction, 0);
     EXPECT_EQ(asked[1].state.depthFunction, GL_GREATER);
     flushBatch();
     EXPECT_EQ(asked.size(), 3U) << "nothing is left";
@@ -166,21 +160,14 @@ TEST_F(Gl, DrawsLinesAsThinRectangles) {
     glEnable(GL_CULL_FACE);
     glLineWidth(3);
     line(100.5F, 200.5F, 110.5F, 200.5F);
-    const Extent plain = extentOf(drawn().vertices);
-    EXPECT_NEAR(plain.left, 100.5, 0.01);
-    EXPECT_NEAR(plain.right, 110.5, 0.01);
-    EXPECT_NEAR(plain.top - plain.bottom, 3, 0.01);
+    EXPECT_EQ(extentOf(drawn().vertices), (Extent{100.5F, 110.5F, 199, 202}));
     EXPECT_EQ(asked.back().state.culledFace, 0) << "a line has no face";
 
     glEnable(GL_LINE_SMOOTH);
     glLineWidth(1);
     line(100, 10, 100, 20); // upwards
     const Asked& smooth = drawn();
-    const Extent wider = extentOf(smooth.vertices);
-    EXPECT_NEAR(wider.bottom, 9.5, 0.01);
-    EXPECT_NEAR(wider.top, 20.5, 0.01);
-    EXPECT_NEAR(wider.left, 99, 0.01);
-    EXPECT_NEAR(wider.right, 101, 0.01);
+    EXPECT_EQ(extentOf(smooth.vertices), (Extent{99, 101, 9.5F, 20.5F}));
     for (const Vertex& v : smooth.vertices) {
         EXPECT_NEAR(std::abs(v.across), v.halfWidth, 0.01) << "it fades out at its side";
         EXPECT_NEAR(std::abs(v.along), 5.5, 0.01);
@@ -205,33 +192,30 @@ TEST_F(Gl, UploadsTexturesInTheirOrderWithTheShapes) {
     EXPECT_EQ(glAreTexturesResident(1, &name, nullptr), GL_FALSE);
     triangle();
     glTexImage2D(GL_TEXTURE_2D, 0, GL_INTENSITY, 2, 2, 0, GL_RGB, GL_UNSIGNED_BYTE, rows);
-    ASSERT_EQ(words(), (Words{"draw", "upload"}));
-    EXPECT_EQ(asked[1].pixels,
-              (std::vector<std::uint8_t>{1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3, 3, 4, 4, 4, 4}));
+    ASSERT_EQ(words, (Words{"draw", "upload"}));
+    EXPECT_EQ(asked[1].pixels, (Bytes{1, 1, 1, 1, 2, 2, 2, 2, 3, 3, 3, 3, 4, 4, 4, 4}));
     glTexImage2D(GL_TEXTURE_2D, 1, 3, 2, 2, 0, GL_RGB, GL_UNSIGNED_BYTE, rows);
-    EXPECT_EQ(asked.back().pixels, (std::vector<std::uint8_t>(rows, rows + 16)));
+    EXPECT_EQ(asked.back().pixels, (Bytes(rows, rows + 16)));
     EXPECT_EQ(glAreTexturesResident(1, &name, nullptr), GL_TRUE);
     glEnable(GL_TEXTURE_2D);
     triangle();
     glDeleteTextures(1, &name);
-    EXPECT_EQ(words(), (Words{"draw", "upload", "upload", "draw", "delete"}));
+    EXPECT_EQ(words, (Words{"draw", "upload", "upload", "draw", "delete"}));
     EXPECT_EQ(glAreTexturesResident(1, &name, nullptr), GL_FALSE);
     triangle();
     EXPECT_EQ(drawn().state.texture, 0);
 }
 
 TEST_F(Gl, DrawsPicturesFromTheLowerLeftCorner) {
-    const std::vector<std::uint8_t> pixels(320 * 120 * 3);
+    const Bytes pixels(320 * 120 * 3);
     glColor3f(1, 0, 0); // a picture keeps its own colours
     glDrawPixels(320, 120, GL_RGB, GL_UNSIGNED_BYTE, pixels.data());
     glDrawPixels(320, 120, GL_RGB, GL_UNSIGNED_BYTE, pixels.data());
     const Asked& picture = drawn();
-    EXPECT_EQ(words(), (Words{"upload", "draw", "upload", "draw"})) << "each has its own pixels";
+    EXPECT_EQ(words, (Words{"upload", "draw", "upload", "draw"})) << "each has its own pixels";
     EXPECT_EQ(static_cast<std::uint32_t>(picture.state.texture), asked[0].texture);
     EXPECT_EQ(picture.state.textureMode, GL_MODULATE);
-    const Extent extent = extentOf(picture.vertices);
-    EXPECT_TRUE(extent.left == 0 && extent.bottom == 0);
-    EXPECT_TRUE(extent.right == 320 && extent.top == 120);
+    EXPECT_EQ(extentOf(picture.vertices), (Extent{0, 320, 0, 120}));
     for (const Vertex& v : picture.vertices) {
         EXPECT_TRUE(v.colour[1] == 1 && v.s == (v.x < -0.5F ? 0 : 1) &&
                     v.t == (v.y < -0.9F ? 0 : 1));

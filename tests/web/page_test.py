@@ -26,26 +26,15 @@ MOST_DRAW_CALLS = 20  # a frame
 MOST_MISSES = 0.0005  # of all pixels
 
 
-class Server:
-    """Shows the page below SUB_PATH of this machine's own address."""
+class Handler(http.server.SimpleHTTPRequestHandler):
+    """Shows the page below SUB_PATH."""
 
-    class Handler(http.server.SimpleHTTPRequestHandler):
-        def translate_path(self, path):
-            inside = path.startswith(SUB_PATH)
-            return super().translate_path(path[len(SUB_PATH) - 1:] if inside else "/none")
+    def translate_path(self, path):
+        inside = path.startswith(SUB_PATH)
+        return super().translate_path(path[len(SUB_PATH) - 1:] if inside else "/none")
 
-        def log_message(self, *_):
-            pass
-
-    def __init__(self):
-        handler = functools.partial(self.Handler, directory=str(PAGE))
-        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
-        threading.Thread(target=self.server.serve_forever, daemon=True).start()
-        self.address = f"http://127.0.0.1:{self.server.server_port}{SUB_PATH}"
-
-    def stop(self):
-        self.server.shutdown()
-        self.server.server_close()
+    def log_message(self, *_):
+        pass
 
 
 class PageStory(unittest.TestCase):
@@ -58,8 +47,13 @@ class PageStory(unittest.TestCase):
         self.addCleanup(self.browser.close)
         if self.before_page:
             self.browser.before_each_page(self.before_page)
-        self.server = Server()
-        self.browser.go(self.server.address)
+        handler = functools.partial(Handler, directory=str(PAGE))
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler)
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+        self.open_page()
+
+    def open_page(self):
+        self.browser.go(f"http://127.0.0.1:{self.server.server_port}{SUB_PATH}")
 
     def answer_box(self, text):
         shown = "document.querySelector('dialog[open]')?.textContent"
@@ -68,11 +62,13 @@ class PageStory(unittest.TestCase):
         self.browser.press("Enter")
         self.browser.wait(f"!{shown}?.includes('{text}')")
 
-    def notice(self):
-        """What the page says instead of a picture; nothing while it shows one."""
-        return self.browser.run("""
-            const notice = document.getElementById('notice');
-            return notice.hidden ? '' : notice.textContent.trim();""")
+    def wait_for_notice(self, text):
+        """Which the page shows instead of a picture."""
+        shown = "document.querySelector('#notice:not([hidden])')?.textContent"
+        self.browser.wait(f"{shown}?.includes('{text}')")
+
+    def wait_for_picture(self):
+        self.browser.wait("document.getElementById('notice').hidden")
 
 
 class Stepped(PageStory):
@@ -129,10 +125,8 @@ class Picture(Stepped):
         expected = (DESKTOP / f"{name}.rgb").read_bytes()
         actual = self.pixels()
         tolerance, allowed = (1, 0) if name == "title" else (16, MOST_MISSES)
-        missed = pictures.misses(actual, expected, tolerance)
-        share = missed / (pictures.WIDTH * pictures.HEIGHT)
-        print(f"{name}: {missed} pixels differ by more than {tolerance}, {100 * (1 - share):.3f} % "
-              f"are alike; the largest difference is {pictures.largest_difference(actual, expected)}")
+        share = pictures.misses(actual, expected, tolerance) / (pictures.WIDTH * pictures.HEIGHT)
+        print(f"{name}: {100 * share:.3f} % differ by more than {tolerance}")
         PICTURES.mkdir(parents=True, exist_ok=True)
         pictures.save(actual, PICTURES / f"{name}-page.png")
         pictures.save(expected, PICTURES / f"{name}-desktop.png")
@@ -153,24 +147,15 @@ class Picture(Stepped):
         self.browser.run("""
             losing = glorbix.screen.gl.getExtension('WEBGL_lose_context');
             losing.loseContext();""")
-        self.browser.wait("!document.getElementById('notice').hidden")
-        self.assertIn("graphics of this browser have stopped", self.notice())
+        self.wait_for_notice("graphics of this browser have stopped")
         self.pass_frames(3)
         self.browser.run("losing.restoreContext()")
-        self.browser.wait("document.getElementById('notice').hidden")
+        self.wait_for_picture()
         self.pass_frames(3)
         self.compare("menu")
 
 
 class Focus(Stepped):
-    def start_rolling(self):
-        for key in ("Escape", "Enter", "F1"):
-            self.press(key)
-            self.pass_frames(3)
-        self.pass_frames(110)
-        self.send("keydown", "ArrowUp")
-        self.pass_frames(5)
-
     def set_focus(self, here):
         self.browser.run("""
             document.hasFocus = () => arguments[0];
@@ -181,7 +166,12 @@ class Focus(Stepped):
         return self.pixels()
 
     def test_pauses_the_game_and_releases_its_keys(self):
-        self.start_rolling()
+        for key in ("Escape", "Enter", "F1"):
+            self.press(key)
+            self.pass_frames(3)
+        self.pass_frames(110)
+        self.send("keydown", "ArrowUp")
+        self.pass_frames(5)
         self.set_focus(False)
         stopped = self.picture_after(3)
         self.assertEqual(self.picture_after(20), stopped)
@@ -191,9 +181,6 @@ class Focus(Stepped):
 
 
 class Visitor(PageStory):
-    def start_game(self):
-        self.browser.press("Escape", "Enter")
-
     def wait_for_game(self):
         self.browser.wait("window.glorbix?.screen?.counts.frames > 2")
 
@@ -206,16 +193,6 @@ class Visitor(PageStory):
         self.browser.wait(f"played.includes('{name}')")
         self.browser.press(key)
 
-    def say_frame_rate(self):
-        rate = self.browser.run("""
-            const {counts} = glorbix.screen;
-            const before = counts.frames;
-            const seconds = 3;
-            return new Promise((resolve) => {
-                setTimeout(() => resolve((counts.frames - before) / seconds), 1000 * seconds);
-            });""")
-        print(f"the page shows {rate:.1f} frames a second of a level")
-
     def press_each_in_its_frame(self, *keys):
         for key in keys:
             frames = self.browser.run("return glorbix.screen.counts.frames")
@@ -225,50 +202,48 @@ class Visitor(PageStory):
     def kept_times(self):
         return self.browser.run("return localStorage.getItem('glorbix-best-times')")
 
-    def set_times(self, text, waits=True):
+    def open_page_with_times(self, text):
         self.browser.run("localStorage.setItem('glorbix-best-times', arguments[0])", text)
-        self.browser.go(self.server.address)
-        if waits:
-            self.wait_for_game()
+        self.open_page()
 
     def test_hears_music_that_goes_on_with_the_next_piece(self):
         self.wait_for_game()
         self.assertEqual(self.browser.run("return glorbix.music.time()"), 0)
-        self.start_game()
+        self.browser.press("Escape", "Enter")
         self.browser.wait("glorbix.music.time() > 1")
         self.expect_effect("sounds/menu.wav", "Escape")
-        self.say_frame_rate()
         first = self.browser.run("return glorbix.music.piece()")
         self.assertTrue(first)
         self.browser.run("glorbix.music.skipTo(-0.5)")
         self.browser.wait(f"glorbix.music.piece() !== '{first}' && glorbix.music.time() > 0.5")
-        self.assertEqual(self.notice(), "")
+        self.wait_for_picture()
 
     def test_finds_the_best_times_again(self):
         self.wait_for_game()
         rivals = self.browser.run("return glorbix.files.readFile('highScore.dat', {encoding: 'utf8'})")
         self.assertEqual(rivals, (ROOT / "game/rivals.dat").read_text())
-        self.set_times("500 zzz " * 10)
-        self.start_game()
+        self.open_page_with_times("500 zzz " * 10)
+        self.wait_for_game()
+        self.browser.press("Escape", "Enter")
         self.press_each_in_its_frame(*["F1"] * 10, "a", "b", "c")
         self.browser.press("Escape", "ArrowUp", "Enter")
-        self.browser.wait("!document.getElementById('notice').hidden")
-        self.assertIn("The game is over", self.notice())
+        self.wait_for_notice("The game is over")
         self.assertEqual(self.kept_times(), "450 ABC " + "500 zzz " * 9)
         self.browser.press("Enter")
-        self.browser.wait("document.getElementById('notice').hidden")
+        self.wait_for_picture()
         self.wait_for_game()
         self.assertFalse(self.browser.run("return glorbix.boxes.isOpen()"))
         self.assertTrue(self.kept_times().startswith("450 ABC "))
 
     def test_plays_without_a_network_later(self):
         self.browser.wait("navigator.serviceWorker.controller")
-        self.server.stop()
-        self.browser.go(self.server.address)
+        self.server.shutdown()
+        self.server.server_close()
+        self.open_page()
         self.wait_for_game()
 
     def test_answers_a_message_box_before_the_game_goes_on(self):
-        self.set_times("rubbish", waits=False)
+        self.open_page_with_times("rubbish")
         self.browser.wait("document.querySelector('dialog[open]')")
         self.browser.run("""
             const pass = (frames) => new Promise(requestAnimationFrame).then(
@@ -280,7 +255,7 @@ class Visitor(PageStory):
                 'keydown', {key: 'Enter', repeat: true, bubbles: true, cancelable: true}));"""))
         self.answer_box("Creating new highScores file")
         self.wait_for_game()
-        self.assertEqual(self.notice(), "")
+        self.wait_for_picture()
 
 
 class VisitorWithoutStorage(PageStory):
@@ -292,7 +267,7 @@ class VisitorWithoutStorage(PageStory):
     def test_is_told_so_once(self):
         self.answer_box("does not keep the best times: it is forbidden")
         self.browser.press("Escape", "ArrowUp", "Enter")
-        self.browser.wait("!document.getElementById('notice').hidden")
+        self.wait_for_notice("The game is over")
         self.assertFalse(self.browser.run("return glorbix.boxes.isOpen()"))
 
 
@@ -300,7 +275,7 @@ class VisitorWithoutWebGl(PageStory):
     before_page = "HTMLCanvasElement.prototype.getContext = () => null;"
 
     def test_is_told_so(self):
-        self.browser.wait("document.getElementById('notice').textContent.includes('WebGL 2')")
+        self.wait_for_notice("WebGL 2")
 
 
 if __name__ == "__main__":

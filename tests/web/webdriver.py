@@ -11,9 +11,9 @@ KEYS = {"Enter": "\ue007", "Escape": "\ue00c", "ArrowUp": "\ue013", "ArrowDown":
 
 
 class Browser:
-    """One session of Chromium. `size` is that of the window, in pixels."""
+    """One session of Chromium."""
 
-    def __init__(self, size=(1000, 900)):
+    def __init__(self):
         with socket.socket() as free:
             free.bind(("127.0.0.1", 0))
             port = free.getsockname()[1]
@@ -21,7 +21,7 @@ class Browser:
         self.driver = subprocess.Popen(["chromedriver", f"--port={port}"],
                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         arguments = ["--headless=new", "--no-sandbox", "--use-angle=swiftshader",
-                     "--enable-unsafe-swiftshader", f"--window-size={size[0]},{size[1]}"]
+                     "--enable-unsafe-swiftshader", "--window-size=1000,900"]
         wanted = {"goog:chromeOptions": {"args": arguments}, "goog:loggingPrefs": {"browser": "ALL"}}
         self._wait_for_driver()
         session = self._call("POST", "/session", {"capabilities": {"alwaysMatch": wanted}})
@@ -59,14 +59,12 @@ class Browser:
 
     def before_each_page(self, script):
         """Runs the script in every page before its own."""
-        self._devtools("Page.addScriptToEvaluateOnNewDocument", {"source": script})
+        self._ask("POST", "/goog/cdp/execute", {
+            "cmd": "Page.addScriptToEvaluateOnNewDocument", "params": {"source": script}})
 
     def messages(self):
         """The browser's console since the last call."""
         return [entry["message"] for entry in self._ask("POST", "/se/log", {"type": "browser"})]
-
-    def _devtools(self, command, parameters):
-        return self._ask("POST", "/goog/cdp/execute", {"cmd": command, "params": parameters})
 
     def _ask(self, method, path, body=None):
         return self._call(method, self.session + path, body)
@@ -80,9 +78,9 @@ class Browser:
         raise AssertionError("chromedriver does not start")
 
     def _call(self, method, path, body=None):
-        data = None if body is None else json.dumps(body).encode()
-        request = urllib.request.Request(self.address + path, data, method=method,
-                                         headers={"Content-Type": "application/json"})
+        data = json.dumps(body).encode() if body else None
+        headers = {"Content-Type": "application/json"}
+        request = urllib.request.Request(self.address + path, data, headers, method=method)
         try:
             with urllib.request.urlopen(request, timeout=120) as answer:
                 return json.load(answer)["value"]
