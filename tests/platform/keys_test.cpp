@@ -3,8 +3,6 @@
 
 namespace {
 
-using Codes = std::vector<int>;
-
 // The codes of keys that follow each other in SDL's numbers.
 struct Row {
     Codes codes;
@@ -40,14 +38,6 @@ Codes heldWith(SDL_Scancode place) {
     return held;
 }
 
-Codes codesNow() {
-    Codes codes;
-    for (const MSG& message : messagesNow()) {
-        codes.push_back(message.message == WM_KEYDOWN ? static_cast<int>(message.wParam) : -1);
-    }
-    return codes;
-}
-
 struct Keys : OnSdl {};
 
 TEST_F(Keys, HaveOneCodeInMessagesAndInTheirState) {
@@ -57,12 +47,12 @@ TEST_F(Keys, HaveOneCodeInMessagesAndInTheirState) {
         for (const int code : row.codes) {
             EXPECT_EQ(heldWith(place), Codes{code});
             pushKey(place, row.modifiers);
-            EXPECT_EQ(codesNow(), Codes{code});
+            EXPECT_EQ(pressedNow(), Codes{code});
             place = static_cast<SDL_Scancode>(place + 1);
         }
     }
     pushKey(SDL_SCANCODE_MUTE);
-    EXPECT_EQ(codesNow(), Codes{}) << "a key without a code";
+    EXPECT_EQ(pressedNow(), Codes{}) << "a key without a code";
 }
 
 TEST_F(Keys, GoByTheirLabelsForLettersAndByTheirPlacesForTheRest) {
@@ -82,8 +72,8 @@ TEST_F(Keys, GoByTheirLabelsForLettersAndByTheirPlacesForTheRest) {
     for (const auto& c : cases) {
         SDL_Event event = keyEvent(c.place);
         event.key.keysym.sym = c.label;
-        SDL_PushEvent(&event);
-        EXPECT_EQ(codesNow(), c.codes) << c.what;
+        push(event);
+        EXPECT_EQ(pressedNow(), c.codes) << c.what;
     }
 }
 
@@ -99,7 +89,7 @@ TEST_F(Keys, RepeatWithAMarkAndBelongToTheSystemWithAlt) {
                                    SDL_SCANCODE_SPACE, SDL_SCANCODE_A, SDL_SCANCODE_BACKSPACE}) {
         pushKey(key, KMOD_NONE, true);
         const std::size_t repeats = key == SDL_SCANCODE_BACKSPACE ? 1 : 0;
-        EXPECT_EQ(codesNow().size(), repeats) << key;
+        EXPECT_EQ(pressedNow().size(), repeats) << key;
     }
     heard.clear();
     for (const int alt : {KMOD_LALT, KMOD_RALT}) {

@@ -26,7 +26,6 @@ using Numbers = std::vector<UINT>; // of messages
 inline std::optional<Uint64> stoppedClock;    // milliseconds; without a value SDL's clock runs
 inline std::optional<SDL_Rect> roomOnDesktop; // without a value the display's own
 inline std::optional<std::string> driver;     // without a value the one that SDL uses
-inline std::string programFolder;             // empty: not known
 inline int refreshRate = 0;                   // of the display; 0: not known
 inline Uint32 moreFlags = 0;                  // that every window has
 inline bool hasWindowManager = true;          // which makes a window as large as the screen
@@ -70,10 +69,6 @@ auto callSdl(const char* name, Function*, Arguments... arguments) {
 
 [[gnu::used]] inline const char* SDLCALL SDL_GetCurrentVideoDriver() {
     return driver ? driver->c_str() : callSdl(__func__, SDL_GetCurrentVideoDriver);
-}
-
-[[gnu::used]] inline char* SDLCALL SDL_GetBasePath() {
-    return programFolder.empty() ? nullptr : SDL_strdup(programFolder.c_str());
 }
 
 [[gnu::used]] inline Uint32 SDLCALL SDL_GetWindowFlags(SDL_Window* window) {
@@ -130,9 +125,10 @@ inline Uint8& keyState(SDL_Scancode place) {
     return const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[place];
 }
 
-// The virtual-key codes that are held.
-inline std::vector<int> heldCodes() {
-    std::vector<int> held;
+using Codes = std::vector<int>; // virtual-key codes
+
+inline Codes heldCodes() {
+    Codes held;
     for (int code = 1; code < 256; ++code) {
         if (GetAsyncKeyState(code) < 0) { held.push_back(code); }
     }
@@ -149,17 +145,24 @@ inline SDL_Event keyEvent(SDL_Scancode place, int modifiers = KMOD_NONE, bool re
     return event;
 }
 
-inline void pushKey(SDL_Scancode place, int modifiers = KMOD_NONE, bool repeat = false) {
-    SDL_Event event = keyEvent(place, modifiers, repeat);
+inline void push(SDL_Event event) {
     SDL_PushEvent(&event);
 }
 
-inline void pushEvent(SDL_EventType type, SDL_WindowEventID what = SDL_WINDOWEVENT_NONE) {
+inline void pushKey(SDL_Scancode place, int modifiers = KMOD_NONE, bool repeat = false) {
+    push(keyEvent(place, modifiers, repeat));
+}
+
+inline SDL_Event plainEvent(SDL_EventType type, SDL_WindowEventID what = SDL_WINDOWEVENT_NONE) {
     SDL_Event event = {};
     event.type = type;
     event.window.windowID = SDL_GetWindowID(sdlWindow());
     event.window.event = static_cast<Uint8>(what);
-    SDL_PushEvent(&event);
+    return event;
+}
+
+inline void pushEvent(SDL_EventType type, SDL_WindowEventID what = SDL_WINDOWEVENT_NONE) {
+    push(plainEvent(type, what));
 }
 
 // Takes and dispatches every message that waits, at most as many as no test has.
@@ -171,6 +174,15 @@ inline std::vector<MSG> messagesNow() {
         DispatchMessageA(&message);
     }
     return messages;
+}
+
+// The keys of the messages that wait; -1 for a message of another kind.
+inline Codes pressedNow() {
+    Codes codes;
+    for (const MSG& message : messagesNow()) {
+        codes.push_back(message.message == WM_KEYDOWN ? static_cast<int>(message.wParam) : -1);
+    }
+    return codes;
 }
 
 // What the window procedure has received since the last call.
