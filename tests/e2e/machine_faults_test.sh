@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The real game on a machine that fails: odd things in place of the best times, kills while they are
-# saved, a full disk, a read-only folder, a process that was stopped, no driver for OpenGL, a display
-# server that dies. Best times must stay whole, and the game must neither crash nor hang.
+# saved, a full disk, a read-only folder, a process that was stopped, a display server that
+# dies. Best times must stay whole, and the game must neither crash nor hang.
 #   machine_faults_test.sh BINARY DATA_FOLDER
 # shellcheck source=scripts/virtual_game.sh
 . "$(dirname "$(realpath "$0")")/../../scripts/virtual_game.sh"
@@ -40,6 +40,12 @@ endStory() {
     startBy=()
 }
 
+story() { # WHAT COMMAND...
+    "${@:2}"
+    endStory
+    echo "$1"
+}
+
 says() { grep -qF "$1" "$gameFolder/log"; }
 
 hasRivals() { # FILE
@@ -53,12 +59,10 @@ makeLink() { echo -n "$rivals" > "${1:-.}/table" && ln -s "${1:-.}/table" highSc
 makeHuge() { truncate -s 2G highScore.dat; }
 makeLinkToDisk() { makeLink "$disk"; }
 
-odd() { # WHAT COMMAND
-    startWith "$2"
+odd() { # COMMAND
+    startWith "$1"
     answerBox Notice
     endByQuit
-    endStory
-    echo "best times that are $1: the game plays without them"
 }
 
 savedBehindLink() {
@@ -67,8 +71,6 @@ savedBehindLink() {
     endByQuit
     [ -L "$gameFolder/highScore.dat" ] || fail "the link to the best times is gone"
     hasRivals "$gameFolder/table" || fail "the best times behind the link have changed"
-    endStory
-    echo "best times behind a link: saved there"
 }
 
 killedWhileSaving() {
@@ -92,23 +94,18 @@ killedWhileSaving() {
 fillDisk() {
     if mount -t tmpfs -o size=8k tmpfs "$disk" 2> /dev/null; then
         head -c 4096 /dev/zero > "$disk/full"
-        how="a full file system"
     else
         startBy=(bash -c 'exec > >(cat > log) 2>&1; trap "" XFSZ; ulimit -f 0; exec "$@"' -)
-        how="a limit on files"
     fi
 }
 
 fullDisk() {
-    local how
     fillDisk
     startWith makeLinkToDisk
     waitForWindow Glorbix
     endByQuit
     waitUntil 60 says "highScore.dat: the best times are not saved" || fail "the game does not say so"
     hasRivals "$disk/table" || fail "the best times are lost"
-    endStory
-    echo "$how: the game says so, and the best times stay"
 }
 
 # Root may write everywhere unless it gives that up.
@@ -145,8 +142,6 @@ readOnlyFolder() {
     ! says "Creating new highScores file" || fail "the game promises a new file"
     endByQuit
     ! ls -d "$disk"/glorbix-* 2> /dev/null || fail "the temporary folder stays"
-    endStory
-    echo "a read-only folder: the player's own is used, or the game says that nothing is saved"
 }
 
 takeSound() {
@@ -175,20 +170,6 @@ stoppedProcess() {
     ! says go.wav || fail "the clock ran while the game was stopped"
     waitUntil 60 says go.wav || fail "the clock stands still after the game was stopped"
     endByTerm
-    endStory
-    echo "stopped for ten seconds: the game goes on where it was"
-}
-
-noDriver() {
-    local code=0
-    startBy=(env GALLIUM_DRIVER=none)
-    startWith makeTable
-    waitForWindow "ChoosePixelFormat failed GetLastError"
-    press Return
-    waitForEnd 10 || code=$?
-    [ "$code" -eq 1 ] || fail "without OpenGL the game ends with $code"
-    endStory
-    echo "no driver for OpenGL: the game says so and ends"
 }
 
 lostDisplay() {
@@ -201,17 +182,14 @@ lostDisplay() {
     hasEnded || fail "the game hangs without its display"
     [ "$code" -eq 1 ] || fail "without its display the game ends with $code"
     hasRivals "$gameFolder/highScore.dat" || fail "the best times are lost"
-    endStory
-    echo "the display server died: the game ends"
 }
 
-odd "a folder" makeFolder
-odd "a pipe" makePipe
-odd "2 GB of zeros" makeHuge
-savedBehindLink
-killedWhileSaving
-fullDisk
-readOnlyFolder
-stoppedProcess
-noDriver
-lostDisplay
+story "best times that are a folder: the game plays without them" odd makeFolder
+story "best times that are a pipe: the game plays without them" odd makePipe
+story "best times that are 2 GB of zeros: the game plays without them" odd makeHuge
+story "best times behind a link: saved there" savedBehindLink
+story "killed while it saves: the best times are whole" killedWhileSaving
+story "a full disk: the game says so, and the best times stay" fullDisk
+story "a read-only folder: the player's own is used, or nothing is saved" readOnlyFolder
+story "stopped for ten seconds: the game goes on where it was" stoppedProcess
+story "the display server died: the game ends" lostDisplay

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Plays the page in Chromium: page_test.py PAGE DESKTOP_PICTURES SCENARIO
 
 Compares its pictures with those that the desktop's program wrote into a folder, and leaves both in
@@ -13,7 +13,7 @@ import threading
 import unittest
 
 import pictures
-from webdriver import Browser
+from browser import Browser
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 STEPPER = pathlib.Path(__file__).with_name("stepper.js").read_text()
@@ -44,7 +44,7 @@ class PageStory(unittest.TestCase):
 
     def setUp(self):
         self.browser = Browser()
-        self.addCleanup(self.browser.close)
+        self.addCleanup(self.browser.quit)
         if self.before_page:
             self.browser.before_each_page(self.before_page)
         handler = functools.partial(Handler, directory=str(PAGE))
@@ -53,7 +53,7 @@ class PageStory(unittest.TestCase):
         self.open_page()
 
     def open_page(self):
-        self.browser.go(f"http://127.0.0.1:{self.server.server_port}{SUB_PATH}")
+        self.browser.get(f"http://127.0.0.1:{self.server.server_port}{SUB_PATH}")
 
     def answer_box(self, text):
         shown = "document.querySelector('dialog[open]')?.textContent"
