@@ -29,30 +29,23 @@ TEST(Clock, GoesOnBetweenAnyTwoCallsAtItsFrequency) {
 }
 
 // Installed data and a player's home in a new folder; the test may leave the current folder.
-struct Folders : testing::Test {
+struct Folders : InFolder {
     const fs::path before = fs::current_path();
-    const std::ptrdiff_t openBefore = openFiles();
-    fs::path root, data, own;
+    const fs::path root = fs::canonical(folder);
+    fs::path data = root / "shäre d/glorbix";
+    const fs::path own = root / "home/.local/share/glorbix";
     std::string why;
 
     Folders() {
-        std::string name = fs::temp_directory_path() / "glorbix_XXXXXX";
-        root = fs::canonical(mkdtemp(name.data()));
-        data = root / "shäre d/glorbix";
-        own = root / "home/.local/share/glorbix";
-        for (const char* folder : {"maps", "graphics", "sounds"}) {
-            fs::create_directories(data / folder);
+        for (const char* name : {"maps", "graphics", "sounds"}) {
+            fs::create_directories(data / name);
         }
         std::ofstream(data / "maps/maplist.dat") << "1 maps/1.lev";
         setenv("HOME", (root / "home").c_str(), 1);
         unsetenv("XDG_DATA_HOME");
     }
 
-    ~Folders() override {
-        EXPECT_EQ(openFiles(), openBefore) << "none is left open";
-        fs::current_path(before);
-        fs::remove_all(root);
-    }
+    ~Folders() override { fs::current_path(before); }
 
     // What the game says on standard error while it enters.
     std::string complaintOnEntering() {
@@ -61,7 +54,7 @@ struct Folders : testing::Test {
         return testing::internal::GetCapturedStderr();
     }
 
-    fs::path seen(const char* folder) const { return fs::canonical(own / folder); }
+    fs::path seen(const char* name) const { return fs::canonical(own / name); }
 };
 
 HANDLE openFile(const fs::path& name, DWORD creation = OPEN_EXISTING, DWORD access = GENERIC_READ) {
@@ -158,9 +151,9 @@ TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {
     complaintOnEntering();
     fs::create_directories(root / "mine/graphics");
     fs::create_directory(own / "mine");
-    fs::remove(own / "graphics");
-    fs::remove(own / "maps");
-    fs::remove(own / "sounds");
+    for (const char* link : {"graphics", "maps", "sounds"}) {
+        fs::remove(own / link);
+    }
     fs::create_directory_symlink(root / "mine/graphics", own / "graphics");
     fs::create_directory(own / "sounds");
     fs::create_directory_symlink("./mine", own / "maps");

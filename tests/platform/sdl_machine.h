@@ -207,6 +207,17 @@ inline auto openFiles() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
 
+// A folder of the test's own; all files must be closed at the end.
+struct InFolder : testing::Test {
+    InFolder() { mkdtemp(folder.data()); }
+    ~InFolder() override {
+        EXPECT_EQ(openFiles(), openBefore) << "none is left open";
+        std::filesystem::remove_all(folder);
+    }
+    std::string folder = std::filesystem::temp_directory_path() / "glorbix_XXXXXX";
+    const std::ptrdiff_t openBefore = openFiles();
+};
+
 // The window is shown and has no messages waiting; WM_CLOSE does not close it.
 struct OnSdl : testing::Test {
     OnSdl() {

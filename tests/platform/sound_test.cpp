@@ -18,24 +18,16 @@ using Ended = std::vector<int>; // pieces, by their device; negative: closed bef
 using Samples = std::vector<int>;
 
 // A machine whose audio device writes into a file, in a folder of its own.
-struct Sounds : testing::Test {
-    std::string folder = std::filesystem::temp_directory_path() / "glorbix_XXXXXX";
-    std::string device;
-    const std::ptrdiff_t openBefore = openFiles();
+struct Sounds : InFolder {
+    const std::string device = folder + "/device";
 
     Sounds() {
-        mkdtemp(folder.data());
-        device = folder + "/device";
         setenv("SDL_AUDIODRIVER", "disk", 1);
         setenv("SDL_DISKAUDIOFILE", device.c_str(), 1);
         setenv("SDL_SOUNDFONTS", write("tone.sf2", toneFont()).c_str(), 1);
     }
 
-    ~Sounds() override {
-        heard();
-        EXPECT_EQ(openFiles(), openBefore) << "none is left open";
-        std::filesystem::remove_all(folder);
-    }
+    ~Sounds() override { heard(); }
 
     std::string write(const std::string& name, const std::string& bytes) const {
         std::ofstream(folder + "/" + name, std::ios::binary) << bytes;
@@ -92,8 +84,8 @@ double secondsOfSound(const Samples& samples, double seconds = 60.0) {
 
 // On standard error, where libraries write too.
 auto linesOfTheGame() {
-    const std::string text = testing::internal::GetCapturedStderr();
-    const std::regex line("(^|\\n)glorbix: ");
+    const std::string text = '\n' + testing::internal::GetCapturedStderr();
+    const std::regex line("\nglorbix: ");
     return std::distance(std::sregex_iterator(text.begin(), text.end(), line), {});
 }
 

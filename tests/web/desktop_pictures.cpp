@@ -7,7 +7,6 @@
 #include <map>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <GL/gl.h>
@@ -23,16 +22,12 @@ namespace {
 
 constexpr LONGLONG frameLength = 15'625'000; // nanoseconds, a 64th of a second
 
-const std::map<std::string, std::pair<SDL_Scancode, WPARAM>> keys = {
-    {"ArrowUp", {SDL_SCANCODE_UP, VK_UP}},
-    {"ArrowLeft", {SDL_SCANCODE_LEFT, VK_LEFT}},
-    {"Shift", {SDL_SCANCODE_LSHIFT, VK_SHIFT}},
-    {"Enter", {SDL_SCANCODE_RETURN, VK_RETURN}},
-    {"Escape", {SDL_SCANCODE_ESCAPE, VK_ESCAPE}},
-    {"F1", {SDL_SCANCODE_F1, VK_F1}},
-    {"F3", {SDL_SCANCODE_F3, VK_F3}},
-    {"F4", {SDL_SCANCODE_F4, VK_F4}},
-    {"F5", {SDL_SCANCODE_F5, VK_F5}}};
+const std::map<std::string, SDL_Scancode> keys = {
+    {"ArrowUp", SDL_SCANCODE_UP},    {"ArrowLeft", SDL_SCANCODE_LEFT},
+    {"Shift", SDL_SCANCODE_LSHIFT},  {"Enter", SDL_SCANCODE_RETURN},
+    {"Escape", SDL_SCANCODE_ESCAPE}, {"F1", SDL_SCANCODE_F1},
+    {"F3", SDL_SCANCODE_F3},         {"F4", SDL_SCANCODE_F4},
+    {"F5", SDL_SCANCODE_F5}};
 
 struct Playing {
     std::ifstream scenario;
@@ -44,12 +39,15 @@ struct Playing {
 Playing playing;
 
 void press(const std::string& key) {
-    PostMessageA(currentWindow(), WM_KEYDOWN, keys.at(key).second, 0);
+    SDL_Event event = {};
+    event.type = SDL_KEYDOWN;
+    event.key.keysym = {keys.at(key), SDL_GetKeyFromScancode(keys.at(key)), KMOD_NONE, 0};
+    SDL_PushEvent(&event);
 }
 
 // SDL's own table: GetAsyncKeyState reads it, and no event has changed it.
 void setHeld(const std::string& key, Uint8 held) {
-    const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[keys.at(key).first] = held;
+    const_cast<Uint8*>(SDL_GetKeyboardState(nullptr))[keys.at(key)] = held;
     if (held != 0) { press(key); }
 }
 
