@@ -49,15 +49,6 @@ reach() { # FILE
     esac
 }
 
-# Seconds within which the game reads the file. A piece of music may come after another one; the
-# other files are read before the time of the first course is up.
-patience() { # FILE
-    case $1 in
-    *.mid) echo 600 ;;
-    *) echo 180 ;;
-    esac
-}
-
 # The game does without sounds, large pictures and the end of a picture.
 codeAfter() { # KIND FILE
     case $1:$2 in
@@ -93,7 +84,8 @@ play() { # KIND FILE
     prepareData "$1" "$2" && startGame "$binary" "$damaged" || return 1
     waitUntil 120 isReadyOrNamed "$2" || true
     isNamed "$2" || reach "$2" 2> /dev/null || true
-    waitUntil "$(patience "$2")" isNamedOrHasEnded "$2" || true
+    # A piece of music may come after another one.
+    waitUntil 600 isNamedOrHasEnded "$2" || true
     waitUntil 60 hasAnyWindow || true
     kill -TERM "$gameProcess" 2> /dev/null || true
     local code=0 what=silent

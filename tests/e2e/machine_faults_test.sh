@@ -86,7 +86,6 @@ killedWhileSaving() {
         hasRivals "$gameFolder/highScore.dat" || fail "a kill broke the best times"
         endStory
     done
-    echo "killed while it saves: the best times are whole"
 }
 
 # One of the disk's two pages holds the table, the other one is full. Who may not mount a disk limits

@@ -110,16 +110,6 @@ class Stepped(PageStory):
 
 
 class Picture(Stepped):
-    def do_step(self, word, value):
-        if word == "frames":
-            self.pass_frames(int(value))
-        elif word == "picture":
-            self.compare(value)
-        elif word == "press":
-            self.press(value)
-        else:
-            self.send("keydown" if word == "hold" else "keyup", value)
-
     def compare(self, name):
         """The picture of the last frame against that of the desktop."""
         expected = (DESKTOP / f"{name}.rgb").read_bytes()
@@ -133,10 +123,14 @@ class Picture(Stepped):
         self.assertLessEqual(share, allowed, f"{name}: see {PICTURES}")
 
     def test_is_that_of_the_desktop_all_through_a_game(self):
+        steps = {"frames": lambda count: self.pass_frames(int(count)), "picture": self.compare,
+                 "press": self.press, "hold": functools.partial(self.send, "keydown"),
+                 "release": functools.partial(self.send, "keyup")}
         for line in SCENARIO.read_text().splitlines():
             if line and not line.startswith("#"):
                 with self.subTest(line):
-                    self.do_step(*line.split())
+                    word, value = line.split()
+                    steps[word](value)
         most = self.browser.run("return glorbix.screen.counts.most")
         print(f"at most {most} draw calls a frame")
         self.assertLessEqual(most, MOST_DRAW_CALLS)
