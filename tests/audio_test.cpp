@@ -3,12 +3,7 @@
 
 namespace {
 
-struct Music : Story {
-    Music() {
-        writeGameFiles({levelText({}), levelText({})});
-        EXPECT_TRUE(startUp());
-    }
-};
+using Music = Started<2>;
 
 // Returns the calls that start a piece on the nth device.
 Lines started(const std::string& file, int device) {

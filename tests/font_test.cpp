@@ -19,30 +19,9 @@ constexpr std::array<double, 4> white = {1, 1, 1, 1};
 
 } // namespace
 
-TEST_F(FontOnScreen, DrawsAGlyphAsOneQuad) {
+TEST_F(FontOnScreen, BreaksLinesAndLeavesGaps) {
     // The last level of the texture.
     EXPECT_EQ(count({"glTexImage2D", 8, GL_INTENSITY, 1, 1, 0, GL_RGB, GL_UNSIGNED_BYTE, 9}), 1);
-    machine.drawn.clear();
-    font.setScale(0.5F);
-    font.setColour(0.1F, 0.2F, 0.3F, 0.4F);
-    enableEverything();
-    font.drawGlyph('A', 320, 120); // columns 65 to 77, rows 3 to 23
-    const double left = 65 / 255.0, right = 77 / 255.0, top = 252 / 255.0, bottom = 232 / 255.0;
-    const GlCalls expected = {{"glColor4f", 0.1, 0.2, 0.3, 0.4},
-                              {"glTexCoord2f", left, top},
-                              {"glVertex2f", 0, 0.5},
-                              {"glTexCoord2f", right, top},
-                              {"glVertex2f", 6 / 320.0, 0.5},
-                              {"glTexCoord2f", right, bottom},
-                              {"glVertex2f", 6 / 320.0, 0.5 - 10 / 240.0},
-                              {"glTexCoord2f", left, bottom},
-                              {"glVertex2f", 0, 0.5 - 10 / 240.0}};
-    EXPECT_EQ(only({"glColor4f", "glTexCoord2f", "glVertex2f"}), expected);
-    EXPECT_EQ(painted(), Lines{"quads, texture 10 modulate nearest nearest-nearest clamp clamp, "
-                               "blend 1 1-alpha"});
-}
-
-TEST_F(FontOnScreen, BreaksLinesAndLeavesGaps) {
     machine.drawn.clear();
     font.setScale(13.0F / 33);
     font.setPosition(100, 50);

@@ -7,13 +7,7 @@ namespace {
 
 const std::string menuSound = "sounds/menu.wav";
 
-struct Keyboard : Story {
-    Keyboard() {
-        writeGameFiles({levelText({}), levelText({})});
-        EXPECT_TRUE(startUp());
-        machine.lines.clear();
-    }
-
+struct Keyboard : Started<2> {
     static void openMenuAt(int item) {
         Game.menuOpen = 1;
         Game.menuItem = item;

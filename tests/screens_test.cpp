@@ -12,12 +12,7 @@ namespace {
 using Colour = std::array<double, 4>;
 constexpr Colour white = {1, 1, 1, 1}, blue = {0, 0, 1, 1}, grey = {0.5, 0.5, 0.5, 1};
 
-struct Screens : Story {
-    Screens() {
-        writeGameFiles();
-        EXPECT_TRUE(startUp());
-    }
-
+struct Screens : Started<1> {
     // A frame of the menu shows these lines, the selected one white.
     static void expectMenu(const Lines& lines, int first, double x, double y, Colour farSight) {
         for (int selected = 0; selected < static_cast<int>(lines.size()); ++selected) {
@@ -69,8 +64,7 @@ TEST_F(Screens, PicturesAreReadOnceAndShadedUnderTheMenu) {
             EXPECT_FALSE(Game.paused);
         }
     }
-    EXPECT_EQ(linesOf("CreateFileA").size(),
-              9U + 2U); // the font's pictures, the two of the screens
+    EXPECT_EQ(linesOf("CreateFileA").size(), 2U);
 }
 
 TEST_F(Screens, MissingPictureIsReportedOncePerVisit) {

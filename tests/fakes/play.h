@@ -19,6 +19,9 @@ inline constexpr LONGLONG counterFrequency = 10'000'000; // counts a second
 // Resets the machine and the game to their state at program start.
 void restartAll();
 
+// Creates the window, as at program start. Returns false when the game wants to end.
+bool startUp();
+
 // A test with machine and game as at program start, in an empty folder.
 class Story : public testing::Test {
 protected:
@@ -29,10 +32,18 @@ private:
     EmptyFolder folder_;
 };
 
-void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-4);
+// The same after the start, with some levels of flat ground, and no call recorded.
+template <int levels>
+class Started : public Story {
+protected:
+    Started() {
+        writeGameFiles(std::vector(levels, levelText({})));
+        EXPECT_TRUE(startUp());
+        machine.lines.clear();
+    }
+};
 
-// Creates the window, as at program start. Returns false when the game wants to end.
-bool startUp();
+void expectVector(const Vector3& v, double x, double y, double z, double tolerance = 1e-4);
 
 // Runs the whole program from its entry to its end. Calls `whenIdle` whenever the message queue is
 // empty, at most some thousand times. Returns the exit code.

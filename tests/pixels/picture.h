@@ -1,7 +1,7 @@
 // Pictures of the game's 640 x 480 surface, and what they should look like.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -20,12 +20,9 @@ constexpr Pixel operator+(Pixel a, Pixel b) {
 
 // Rows from the bottom up, as OpenGL counts.
 struct Picture {
-    int width = 640;
-    int height = 480;
-    std::vector<std::uint8_t> bytes = std::vector<std::uint8_t>(640 * 480 * 3);
+    std::vector<Pixel> pixels = std::vector<Pixel>(640 * 480);
 
-    Pixel at(int x, int y) const;
-    void put(int x, int y, Pixel pixel);
+    Pixel& at(int x, int y) { return pixels[static_cast<std::size_t>(y * 640 + x)]; }
 };
 
 // Returns what is on the surface now.
