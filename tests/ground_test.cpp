@@ -37,8 +37,8 @@ int draw(const View& view) {
     return level.drawGround(frame, view.farSight, true);
 }
 
-// Returns a number that depends on the cells drawn and on their order. The first corner of each pair
-// of triangles tells which cell it is; there are 50 to a row.
+// Returns a number that depends on the cells drawn and on their order. The first corner of each
+// pair of triangles tells which cell it is; there are 50 to a row.
 unsigned digestOfCells() {
     const GlCalls corners = only({"glTexCoord2f"});
     unsigned digest = 0;
