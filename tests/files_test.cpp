@@ -71,25 +71,16 @@ struct DamagedFile : Story {
 } // namespace
 
 TEST_F(Words, AreNumbersOnlyAsAWhole) {
-    expectNumbers<std::int32_t>(&TokenReader::readInteger,
-                                {{"+3", 3},
-                                 {"-3", -3},
-                                 {"0x1F", 31},
-                                 {"-0X10", -16},
-                                 {"+010", 8},
-                                 {"0", 0},
-                                 {"-2147483648", INT32_MIN}},
-                                {"3x", "3.5", "08", "0x", "-", "+", "--1", "2147483648"});
+    const std::vector<std::pair<std::string, std::int32_t>> integers = {
+        {"+3", 3},      {"-3", -3},  {"0x1F", 31},
+        {"-0X10", -16}, {"+010", 8}, {"-2147483648", INT32_MIN}};
+    const std::vector<std::pair<std::string, float>> fractions = {
+        {"1.5", 1.5F}, {"+.5", 0.5F}, {"-2.", -2}, {"-1e1", -10}, {"1E+2", 100}, {"-1e-999", 0}};
+    expectNumbers(&TokenReader::readInteger, integers,
+                  {"3x", "3.5", "08", "0x", "-", "+", "--1", "2147483648"});
     expectNumbers<std::uint32_t>(&TokenReader::readUnsigned, {{"-0", 0}}, {"-1", "4294967296"});
-    expectNumbers<float>(
-        &TokenReader::readFloat,
-        {{"1.5", 1.5F},
-         {"+.5", 0.5F},
-         {"-2.", -2.0F},
-         {"-1e1", -10.0F},
-         {"1E+2", 100.0F},
-         {"-1e-999", 0.0F}},
-        {"1x", "1.2.3", "1e", "-", "+", "-+1", ".", "1,5", "nan", "inf", "1e99", "0x1"});
+    expectNumbers(&TokenReader::readFloat, fractions,
+                  {"1x", "1.2.3", "1e", "-", "+", "-+1", ".", "1,5", "nan", "inf", "1e99", "0x1"});
 }
 
 TEST_F(Words, HoldNoZeroBytesAndAreReadUpToTheGreatestSize) {
@@ -120,25 +111,16 @@ TEST_F(Words, HaveADecimalPointInEveryLanguage) {
 #endif
 
 TEST_F(LevelList, EndsDirectlyAfterItsLastName) {
-    const std::string longest(255, 'n');
-    const struct {
-        std::string content;
-        bool accepted;
-    } cases[] = {{"\t0x3\r\none\vtwo\n  \fthree", true},
-                 {"3 one two three ", false},
-                 {"3 one two", false},
-                 {"3 one two three four", false},
-                 {"0", false},
-                 {"-2 one two", false},
-                 {"", false},
-                 {"2147483647 one", false},
-                 {"1 " + longest, true},
-                 {"1 " + longest + "n", false}};
-    for (const auto& c : cases) {
-        writeFile(levelListFile, c.content);
-        EXPECT_EQ(loadLevelList(), c.accepted) << c.content;
+    const std::string one = "1 " + std::string(255, 'n');
+    const Lines taken = {"\t0x3\r\none\vtwo\n  \fthree", one};
+    Lines lists = {"3 one two three ", "3 one two", "3 one two three four", "0",
+                   "-2 one two",       "",          "2147483647 one",       one + "n"};
+    lists.insert(lists.begin(), taken.begin(), taken.end());
+    for (std::size_t i = 0; i < lists.size(); ++i) {
+        writeFile(levelListFile, lists[i]);
+        EXPECT_EQ(loadLevelList(), i < taken.size()) << lists[i];
         Game.clearLevelTimes(); // of all levels, or of none
-        EXPECT_EQ(Game.levelCount > 0 && Game.levelTimes[0] == levelTime, c.accepted) << c.content;
+        EXPECT_EQ(Game.levelCount > 0 && Game.levelTimes[0] == levelTime, i < taken.size());
     }
     EXPECT_TRUE(boxes().empty());
 }

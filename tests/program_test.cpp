@@ -1,4 +1,6 @@
 // The start of the program, every way in which it can fail, the window's messages, the end.
+#include <algorithm>
+
 #include "data/best_times.h"
 #include "data/font.h"
 #include "fakes/play.h"
@@ -79,22 +81,18 @@ TEST_F(Start, WithoutAWindowRestoresTheDisplay) {
 }
 
 TEST_F(Start, WithoutAPixelFormatStartsAndEnds) {
+    const std::string failed = " failed GetLastError | nobody, info";
     const struct {
-        void (*spoil)();
-        const char* message;
-    } cases[] = {{[] { failNext("ChoosePixelFormat"); },
-                  "in other words | ChoosePixelFormat failed GetLastError | nobody, info"},
-                 {[] {
-                      failNext("ChoosePixelFormat");
-                      failNext("FormatMessageA");
-                  },
-                  " | ChoosePixelFormat failed GetLastError | nobody, info"},
-                 {[] { machine.formatNeedsPalette = true; }, "Needs palette | Error | nobody"},
-                 {[] { failNext("SetPixelFormat"); },
-                  "in other words | SetPixelFormat failed GetLastError | nobody, info"}};
+        Lines failing;
+        std::string message;
+    } cases[] = {{{"ChoosePixelFormat"}, "in other words | ChoosePixelFormat" + failed},
+                 {{"ChoosePixelFormat", "FormatMessageA"}, " | ChoosePixelFormat" + failed},
+                 {{"SetPixelFormat"}, "in other words | SetPixelFormat" + failed},
+                 {{}, "Needs palette | Error | nobody"}};
     for (const auto& c : cases) {
         restartAll();
-        c.spoil();
+        std::for_each(c.failing.begin(), c.failing.end(), [](auto& name) { failNext(name); });
+        machine.formatNeedsPalette = c.failing.empty();
         EXPECT_EQ(runProgram([] {}), 0);
         EXPECT_EQ(boxes(), Lines{c.message});
         EXPECT_TRUE(font.loaded);
