@@ -52,22 +52,6 @@ struct Bitmap : Story {
     }
 };
 
-struct DamagedFile : Story {
-    // Returns what the game writes on standard error when a run starts with the file cut in half.
-    static std::string saidAbout(const std::string& name) {
-        restartAll();
-        writeGameFiles(std::vector(2, levelText({{0, 0, 300, 200}})));
-        const std::string whole = readFile(name);
-        writeFile(name, whole.substr(0, whole.size() / 2));
-        testing::internal::CaptureStderr();
-        if (startUp()) {
-            tick(0.1);
-            startGame();
-        }
-        return testing::internal::GetCapturedStderr();
-    }
-};
-
 } // namespace
 
 TEST_F(Words, AreNumbersOnlyAsAWhole) {
@@ -173,12 +157,4 @@ TEST_F(Bitmap, ThatEndsEarlyKeepsWhatTheBufferHeld) {
     std::filesystem::resize_file("a.bmp", 54 + 3);
     ASSERT_TRUE(read());
     EXPECT_TRUE(pixels[0] == 3 && pixels[2] == 1 && pixels[3] == 9);
-}
-
-TEST_F(DamagedFile, IsNamedOnStandardError) {
-    for (const char* name : {"maps/maplist.dat", "maps/1.map", "graphics/font/font.dat",
-                             "graphics/font/font_0.bmp", "graphics/title.bmp", "ground_3.bmp"}) {
-        const std::string start = std::string("glorbix: ") + name + ':';
-        EXPECT_TRUE(saidAbout(name).starts_with(start)) << name;
-    }
 }
