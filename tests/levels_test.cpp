@@ -13,7 +13,6 @@
 #include "fakes/game_files.h"
 #include "sim/course.h"
 #include "state/game.h"
-#include "tools/level/colours.h"
 #include "tools/level/command_line.h"
 #include "tools/level/drive.h"
 #include "tools/level/driver.h"
@@ -193,13 +192,14 @@ TEST(LevelFaults, AreReportedWithLineAndColumn) {
 
 TEST(LevelAuthors, AreWarnedOfWhatAPlayerWouldSuffer) {
     const Fault faults[] = {
-        {"fogcolor= 0x1b2450", "fogcolor= 0x1b2450 is not exact in 16 bits"},
-        {"marblecolor= 0xffc832", "the marble is hard to see on its ground: 1.2"},
+        {"fogcolor= 0x3b75ce", "fogcolor= 0x3b75ce is not exact in 16 bits"},
+        {"fogcolor= 0xffae5a", "the clock is hard to read on the sky of fogcolor=: distance "},
+        {"marblecolor= 0xffc832", "the marble is hard to see on its ground: contrast 1."},
     };
     const EmptyFolder folder;
     for (const Fault& fault : faults) {
-        writeFile("a.lev", "texturefile= " GLORBIX_GAME_DIR "/graphics/ground/grid "
-                           "fogcolor= 0x192452 marblecolor= 0xff3018 " +
+        writeFile("a.lev", "texturefile= " GLORBIX_GAME_DIR "/graphics/ground/tiles "
+                           "fogcolor= 0x3a75ce marblecolor= 0x001080 " +
                                fault.text + " holecount= 1 .data 0 -6300 300 -90 .end");
         testing::internal::CaptureStdout();
         checkLevels({{"a.lev"}});

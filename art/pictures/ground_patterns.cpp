@@ -5,26 +5,62 @@
 #include "art/common/portable_math.h"
 #include "art/common/random.h"
 #include "art/pictures/noise.h"
-#include "art/pictures/typeface.h"
 
 namespace {
-
-constexpr double gridWidth = tileWidth / 4; // of the squares between lines
-constexpr double gridDepth = tileLength / 4;
 
 double fraction(double v) {
     return v - std::floor(v);
 }
 
-// Returns the distance from v to the nearest multiple of the period.
-double fromMultiple(double v, double period) {
-    return std::fabs(v - period * std::floor(v / period + 0.5));
+// A place in a wall of equal cells.
+struct Cell {
+    int column; // counted within the tile
+    int row;
+    double u; // from the cell's middle, world units
+    double v;
+    double toEdge; // distance to the rounded edge, below 0 in the joint
+};
+
+double toRoundedEdge(double u, double v, double width, double depth, double radius) {
+    const double du = std::fabs(u) - (0.5 * width - radius);
+    const double dv = std::fabs(v) - (0.5 * depth - radius);
+    const double out = std::sqrt(std::fmax(du, 0.0) * std::fmax(du, 0.0) +
+                                 std::fmax(dv, 0.0) * std::fmax(dv, 0.0));
+    return radius - out - std::fmin(std::fmax(du, dv), 0.0);
+}
+
+// Returns the cell at a point of a wall of columns x rows cells. Every other row is shifted by half
+// a cell if `bond` is set.
+Cell cellAt(double x, double y, int columns, int rows, double joint, double radius, bool bond) {
+    const double width = tileWidth / columns;
+    const double depth = tileLength / rows;
+    const int row = static_cast<int>(std::floor(y / depth));
+    const double shifted = x - (bond && (row & 1) != 0 ? 0.5 * width : 0.0);
+    const int column = static_cast<int>(std::floor(shifted / width));
+    const double u = shifted - (column + 0.5) * width;
+    const double v = y - (row + 0.5) * depth;
+    return {(column % columns + columns) % columns, (row % rows + rows) % rows, u, v,
+            toRoundedEdge(u, v, width - joint, depth - joint, radius)};
+}
+
+// Returns the height of a body whose edge is rounded over a width.
+double rounded(double toEdge, double width, double height) {
+    const double t = clamp01(toEdge / width);
+    return t * (2.0 - t) * height;
+}
+
+// Paints a body in its joint.
+Spot set(const Colour& body, const Colour& joint, double toEdge, double height) {
+    return {lerp(joint, body, smoothstep(-0.5, 0.7, toEdge)), height};
+}
+
+double grainAt(double x, double y, std::uint32_t seed) {
+    return fractalNoise({tileWidth, tileLength, 24, 18}, x, y, seed);
 }
 
 // A place in a honeycomb of 6 columns and 4 rows.
 struct HexagonSpot {
     double toEdge; // 0 in the joint, 1 in the middle
-    double rise;   // -1..1, from the lower left to the upper right edge
     double tone;
 };
 
@@ -38,7 +74,7 @@ double hexagonTone(int column, int row) {
 }
 
 HexagonSpot hexagonAt(double x, double y) {
-    HexagonSpot spot{-1.0, 0.0, 0.0};
+    HexagonSpot spot{-1.0, 0.0};
     const int nearest = static_cast<int>(std::floor(x / hexagonColumn + 0.5));
     for (int column = nearest - 1; column <= nearest + 1; ++column) {
         const double shift = (column & 1) != 0 ? 0.5 * hexagonWidth : 0.0;
@@ -48,70 +84,14 @@ HexagonSpot hexagonAt(double x, double y) {
         const double slant = flatSideTilt * std::fabs(dx) + 0.5 * std::fabs(dy);
         const double toEdge = 1.0 - std::fmax(std::fabs(dy), slant);
         if (toEdge > spot.toEdge) {
-            spot = {toEdge, 0.5 * dx + 0.5 * dy, hexagonTone((column + 6) % 6, (row + 4) % 4)};
+            spot = {toEdge, hexagonTone((column + 6) % 6, (row + 4) % 4)};
         }
     }
     return spot;
 }
 
-// The colours of glowing lines on a checker.
-struct GridColours {
-    Colour dark;
-    Colour light;
-    Colour glow;
-    Colour line;
-};
-
-Colour gridLight(double x, double y, const GridColours& colours) {
-    const int column = static_cast<int>(std::floor(x / gridWidth));
-    const int row = static_cast<int>(std::floor(y / gridDepth));
-    const Colour& floor = ((column + row) & 1) != 0 ? colours.dark : colours.light;
-    const double toLine = std::fmin(fromMultiple(x, gridWidth), fromMultiple(y, gridDepth));
-    const double glow = exponential(-toLine / 3.2);
-    const double line = 1.0 - smoothstep(1.6, 2.6, toLine);
-    return lerp(lerp(floor, colours.glow, 0.55 * glow), colours.line, line);
-}
-
-// The copper traces. They continue across the edges of the tile.
-const Skeleton& traces() {
-    static const Skeleton copper = readSkeleton(
-        "W 2.2 M 0 20 L 50 20 L 70 40 L 110 40 L 130 20 L 160 20 M 130 20 L 130 0 "
-        "M 30 10 L 30 50 L 60 80 L 60 100 L 40 120 M 40 0 L 30 10 M 0 80 L 20 80 L 40 100 L 40 120 "
-        "M 90 0 L 90 40 M 90 120 L 90 90 L 110 70 L 140 70 L 150 80 L 160 80 M 60 54 L 60 30 "
-        "M 130 120 L 130 100 L 160 100 M 0 100 L 8 108 L 18 108 M 130 20 L 130 40 L 142 52 L 156 "
-        "52 "
-        "M 60 8 L 75 8 L 90 23 M 110 0 L 110 40 M 110 120 L 110 108 M 75 108 L 75 95 L 60 80 "
-        "M 12 70 L 12 38 L 30 20");
-    return copper;
-}
-
-constexpr Point pads[] = {{30, 20},  {70, 40},   {110, 40}, {130, 20}, {60, 80},  {90, 90},
-                          {140, 70}, {130, 100}, {20, 80},  {90, 64},  {18, 108}, {142, 52},
-                          {60, 8},   {110, 12},  {75, 108}, {12, 50},  {110, 108}};
-
-double toPad(double x, double y) {
-    double nearest = 1e9;
-    for (const Point& pad : pads) {
-        nearest = std::fmin(nearest, (pad.x - x) * (pad.x - x) + (pad.y - y) * (pad.y - y));
-    }
-    return std::sqrt(nearest);
-}
-
-constexpr Lattice stoneLattice{tileWidth, tileLength, 5, 4};
-constexpr Lattice floeLattice{tileWidth, tileLength, 3, 2};
-constexpr Lattice plateLattice{tileWidth, tileLength, 4, 3};
-constexpr Lattice cloudLattice{tileWidth, tileLength, 8, 6};
-
-// Returns the cell of a Voronoi diagram whose borders are roughened by noise.
-VoronoiCell roughCell(const Lattice& lattice, double x, double y, double roughness,
-                      std::uint32_t seed) {
-    const double dx = (fractalNoise(cloudLattice, x, y, seed + 10) - 0.5) * roughness;
-    const double dy = (fractalNoise(cloudLattice, x, y, seed + 20) - 0.5) * roughness;
-    return voronoiCell(lattice, x + dx, y + dy, 0.75, seed);
-}
-
-// Returns the distance to the nearest stone; they are at the corners and the middle of the tile.
-double fromStone(double x, double y) {
+// Returns the distance to the nearest of the points at the corners and the middle of the tile.
+double fromCornerOrMiddle(double x, double y) {
     const double cx = x - tileWidth * std::floor(x / tileWidth + 0.5);
     const double cy = y - tileLength * std::floor(y / tileLength + 0.5);
     const double mx = x - tileWidth * (std::floor(x / tileWidth) + 0.5);
@@ -119,49 +99,70 @@ double fromStone(double x, double y) {
     return std::sqrt(std::fmin(cx * cx + cy * cy, mx * mx + my * my));
 }
 
+// Returns the cell of a Voronoi diagram whose borders are roughened by noise.
+VoronoiCell roughCell(const Lattice& lattice, double x, double y, double roughness,
+                      std::uint32_t seed) {
+    constexpr Lattice cloud{tileWidth, tileLength, 8, 6};
+    const double dx = (fractalNoise(cloud, x, y, seed + 10) - 0.5) * roughness;
+    const double dy = (fractalNoise(cloud, x, y, seed + 20) - 0.5) * roughness;
+    return voronoiCell(lattice, x + dx, y + dy, 0.75, seed);
+}
+
+// Patterns of light and dark cells are shifted by half a cell, so that all parts of a tile are
+// equally light.
+constexpr double halfColumn = 20.0;
+constexpr double halfRow = 15.0;
+
 } // namespace
 
-Colour gridPattern(double x, double y) {
-    static const GridColours colours{srgb(0x121d46), srgb(0x203a74), srgb(0x2f8ee0),
-                                     srgb(0x8ff2ff)};
-    return gridLight(x, y, colours);
+Spot tilePattern(double x, double y) {
+    constexpr std::uint32_t glazes[] = {0xfff8e4, 0xffa448, 0xfff4d8, 0x48b4e4};
+    const Cell cell = cellAt(x + halfColumn, y + halfRow, 4, 4, 1.8, 4.0, false);
+    const int other = (cell.column + cell.row) & 1;
+    const Colour glaze = srgb(glazes[other + 2 * (cell.row & 1)]);
+    return set(glaze, srgb(0x6a5048), cell.toEdge, rounded(cell.toEdge, 5.0, 2.8));
 }
 
-Colour emberPattern(double x, double y) {
-    static const GridColours colours{srgb(0x1c0a16), srgb(0x4a1a28), srgb(0xc8481c),
-                                     srgb(0xffb45a)};
-    return gridLight(x, y, colours);
+Spot snowPattern(double x, double y) {
+    const double a = x / 40.0 + y / 30.0;
+    const double b = x / 40.0 - y / 30.0;
+    const double pillow = std::fabs(sine(pi * a) * sine(pi * b));
+    const double height = 13.0 * std::sqrt(pillow) + 1.0 * grainAt(x, y, 300);
+    const Colour snow = lerp(srgb(0x4078d0), srgb(0xffffff), smoothstep(0.0, 0.35, pillow));
+    return {snow, height};
 }
 
-Colour hexagonPattern(double x, double y) {
+Spot terracottaPattern(double x, double y) {
+    constexpr std::uint32_t clays[] = {0xf8a474, 0xe0c08c, 0xd8acd8, 0xf4b490};
+    const Cell cell = cellAt(x, y, 3, 6, 2.2, 1.5, true);
+    const Colour clay = srgb(clays[(cell.column + cell.row + cell.row / 2) & 3]);
+    const double grit = grainAt(x, y, 440);
+    const double height = rounded(cell.toEdge, 3.0, 2.0) + 0.8 * grit;
+    return set(clay * (0.9 + 0.2 * grit), srgb(0xfff0dc), cell.toEdge, height);
+}
+
+Spot sandPattern(double x, double y) {
+    constexpr double furrow = 12.0;
+    const double grain = fractalNoise({tileWidth, tileLength, 32, 24}, x, y, 200);
+    const double from = fromCornerOrMiddle(x, y);
+    const double r = from + 3.0 * (fractalNoise({tileWidth, tileLength, 6, 5}, x, y, 220) - 0.5);
+    const double wave = 0.5 + 0.5 * cosine(2.0 * pi * r / furrow);
+    const Colour sand = lerp(srgb(0xd09448), srgb(0xffe4a0), wave) * (0.9 + 0.2 * grain);
+    const Colour shell = srgb(0xf08c78);
+    const double toEdge = 9.0 - r;
+    const double height = toEdge > 0.0 ? 2.0 + rounded(toEdge, 6.0, 4.0) : 3.4 * wave;
+    return {lerp(sand, shell, smoothstep(-0.5, 0.5, toEdge)), height + 0.6 * grain};
+}
+
+Spot hexagonPattern(double x, double y) {
     const HexagonSpot spot = hexagonAt(x, y);
-    const Colour enamel = lerp(srgb(0x229eb4), srgb(0x4d9a67), spot.tone);
-    const Colour shaded = enamel * (1.0 + 0.35 * spot.rise);
-    const double rim = 1.0 - smoothstep(0.18, 0.30, spot.toEdge);
-    const Colour tile = lerp(shaded, enamel * (1.5 + 0.9 * spot.rise), rim * 0.8);
-    return lerp(srgb(0x03201f), tile, smoothstep(0.06, 0.13, spot.toEdge));
-}
-
-Colour plankPattern(double x, double y) {
-    constexpr double boardDepth = 20.0;
-    constexpr double boardLength = 80.0;
-    const int row = static_cast<int>(std::floor(y / boardDepth));
-    const double shifted = x + 160.0 * hash01(row, 0, 5);
-    const int board = static_cast<int>(std::floor(shifted / boardLength)) & 1;
-    const double toJoint =
-        std::fmin(fromMultiple(y, boardDepth), 0.8 * fromMultiple(shifted, boardLength));
-    const double grain = fractalNoise({tileWidth, tileLength, 3, 24}, x, y, 90);
-    const double veins = 0.5 + 0.5 * sine(2.0 * pi * (y / 4.0 + 2.4 * grain));
-    const double tone = hash01(row, board, 21);
-    const Colour wood = lerp(srgb(0x8a4a1c), srgb(0xe0a050), 0.25 + 0.6 * tone);
-    const Colour grained = lerp(wood, wood * 0.62, 0.55 * veins * grain);
-    const double upperEdge = smoothstep(0.78, 0.92, fraction(y / boardDepth));
-    const Colour edged = lerp(grained, srgb(0xffd58c), 0.35 * upperEdge);
-    return lerp(srgb(0x1c0c08), edged, smoothstep(0.7, 1.7, toJoint));
+    const Colour enamel = lerp(srgb(0x18b4d8), srgb(0x54dcb4), spot.tone);
+    const double toEdge = (spot.toEdge - 0.09) * 0.5 * hexagonWidth;
+    return set(enamel, srgb(0xe4fbff), toEdge, rounded(toEdge, 6.5, 3.4));
 }
 
 // Each row of scales covers the upper part of the row before it.
-Colour scalePattern(double x, double y) {
+Spot scalePattern(double x, double y) {
     constexpr double scaleWidth = 40.0;
     constexpr double rowStep = 15.0;
     constexpr double radius = 22.0;
@@ -174,79 +175,88 @@ Colour scalePattern(double x, double y) {
         const double r = std::sqrt(dx * dx + dy * dy) / radius;
         if (r > 1.0 || dy > 0.0) { continue; }
         const double tone = hash01((column + 4) % 4, (row + 16) % 8, 33);
-        const Colour body = lerp(srgb(0x0c5a34), srgb(0x35b04e), 0.2 + 0.7 * tone);
-        const Colour ridge = lerp(body, body * 0.45, 1.0 - smoothstep(0.0, 0.7, r));
-        const Colour rimmed = lerp(ridge, srgb(0xd8f070), smoothstep(0.80, 0.88, r) * 0.85);
-        return lerp(rimmed, srgb(0x021208), smoothstep(0.94, 0.98, r));
+        const Colour body = lerp(srgb(0x58b828), srgb(0xc8e040), 0.2 + 0.7 * tone);
+        const Colour shaded = lerp(body * 0.55, body, smoothstep(0.2, 0.75, r));
+        const Colour rimmed = lerp(shaded, srgb(0xf4ff98), smoothstep(0.82, 0.88, r) * 0.8);
+        return {lerp(rimmed, srgb(0x2a6a18), smoothstep(0.95, 0.99, r)), 5.0 * r};
     }
-    return srgb(0x021208);
+    return {srgb(0x2a6a18), 0.0};
 }
 
-Colour circuitPattern(double x, double y) {
-    const double copper = signedDistance(traces(), {x, y});
-    const double pad = toPad(x, y);
-    const Colour traced = lerp(srgb(0x0a4028), srgb(0xd89a30), 1.0 - smoothstep(-0.4, 0.6, copper));
-    const Colour glowing = traced + srgb(0x30ff90) * (0.3 * exponential(-pad / 6.0));
-    const Colour ringed = lerp(glowing, srgb(0xffe090), 1.0 - smoothstep(5.5, 6.5, pad));
-    return lerp(ringed, srgb(0x0a3020), 1.0 - smoothstep(2.2, 3.0, pad));
+Spot moonPattern(double x, double y) {
+    constexpr std::uint32_t hues[] = {0xd8c8ff, 0xf0c0e8, 0xc0d0ff, 0xdcd0ec};
+    const Cell cell = cellAt(x, y, 2, 2, 3.0, 5.0, false);
+    const Colour stone = srgb(hues[cell.column + 2 * cell.row]);
+    const VoronoiCell pit = voronoiCell({tileWidth, tileLength, 4, 3}, x, y, 0.6, 518);
+    const double rim = 4.0 + 5.0 * pit.tone;
+    const double off = std::sqrt(pit.dx * pit.dx + pit.dy * pit.dy) / rim;
+    const double bowl = off < 1.0 ? off * off : exponential(-6.0 * (off - 1.0) * (off - 1.0));
+    const double dust = grainAt(x, y, 540);
+    const double height = rounded(cell.toEdge, 4.0, 2.2) + 0.35 * rim * bowl + 0.6 * dust;
+    return set(stone * (0.9 + 0.2 * dust), srgb(0x6854a0), cell.toEdge, height);
 }
 
-Colour ribbonPattern(double x, double y) {
-    const double sway = 0.06 * sine(2.0 * pi * y / tileLength) * sine(2.0 * pi * x / tileWidth);
-    const double across = fraction(2.0 * x / tileWidth + 2.0 * y / tileLength + sway) * 4.0;
-    constexpr std::uint32_t colours[] = {0xd0407c, 0xf6dcc0, 0x7a2a80, 0xf08c58};
-    const int band = static_cast<int>(across) & 3;
-    const double inBand = across - std::floor(across);
-    const double edge = std::fmin(inBand, 1.0 - inBand);
-    const Colour ribbon = srgb(colours[band]);
-    const Colour raised = ribbon * (0.72 + 0.5 * inBand);
-    return lerp(srgb(0x2a0a2c), raised, smoothstep(0.03, 0.08, edge));
+Spot circuitPattern(double x, double y) {
+    const Cell cell = cellAt(x + halfColumn, y + halfRow, 4, 4, 3.6, 0.0, false);
+    const double au = 20.0 - std::fabs(cell.u);
+    const double av = 15.0 - std::fabs(cell.v);
+    const int kind = (cell.column + 2 * cell.row + cell.row / 2) & 3;
+    const double diagonal = std::fabs(cell.u * 0.6 + cell.v * (kind == 0 ? 0.8 : -0.8));
+    const double toBranch = kind < 2 ? 1.5 - diagonal : -9.0;
+    const double centre = std::sqrt(cell.u * cell.u + cell.v * cell.v);
+    const double fromPad = kind == 3 ? centre : std::sqrt(au * au + av * av);
+    const double toPad = 6.0 - std::fmin(fromPad, std::sqrt(au * au + av * av));
+    const double toTrace = std::fmax(std::fmax(toPad, toBranch), -cell.toEdge);
+    const double toChip = kind == 2 ? toRoundedEdge(cell.u, cell.v, 22.0, 15.0, 2.0) : -9.0;
+    const Colour mint = lerp(srgb(0x98f0c4), srgb(0xc0fad8), hash01(cell.column, cell.row, 61));
+    const Colour board = lerp(mint, srgb(0x48b894), smoothstep(-0.4, 0.4, toChip));
+    const Colour metal = lerp(srgb(0xc87840), srgb(0xffd878), smoothstep(-0.4, 0.4, toPad));
+    const Colour drilled = lerp(metal, srgb(0x50301c), smoothstep(3.6, 4.2, toPad));
+    return {lerp(board, drilled, smoothstep(-0.4, 0.4, toTrace)),
+            rounded(toTrace, 1.8, 2.0) + rounded(toChip, 2.0, 2.5)};
 }
 
-Colour sandPattern(double x, double y) {
-    constexpr double furrow = 11.0;
-    const double grain = fractalNoise({tileWidth, tileLength, 32, 24}, x, y, 200);
-    const double r =
-        fromStone(x, y) + 2.0 * (fractalNoise({tileWidth, tileLength, 6, 5}, x, y, 220) - 0.5);
-    const double wave = 0.5 + 0.5 * cosine(2.0 * pi * r / furrow);
-    const Colour sand = lerp(srgb(0x9a5c2c), srgb(0xf4d090), smoothstep(0.1, 0.8, wave));
-    const Colour raked = sand * (0.8 + 0.4 * grain);
-    const Colour stone = lerp(srgb(0x4a3026), srgb(0xb89878), smoothstep(0.0, 8.0, 8.0 - r));
-    return lerp(stone, raked, smoothstep(7.0, 8.5, r));
+Spot lavaPattern(double x, double y) {
+    const VoronoiCell plate = roughCell({tileWidth, tileLength, 5, 4}, x, y, 8.0, 843);
+    const double crust = grainAt(x, y, 840);
+    const Colour amber = lerp(srgb(0xffe060), srgb(0xffdcb4), plate.tone) * (0.85 + 0.3 * crust);
+    const double toEdge = plate.toEdge - 1.1;
+    const double glow = exponential(-std::fmax(toEdge, 0.0) / 2.0);
+    return set(lerp(amber, srgb(0xff6820), glow), srgb(0xb02030), toEdge,
+               rounded(toEdge, 6.0, 3.0) + 0.8 * crust);
 }
 
-Colour pavingPattern(double x, double y) {
-    const VoronoiCell spot = roughCell(stoneLattice, x, y, 6.0, 436);
-    const double grit = fractalNoise({tileWidth, tileLength, 24, 18}, x, y, 440);
-    const Colour stone = lerp(srgb(0x858688), srgb(0xb5a898), spot.tone);
-    const double roundness = smoothstep(1.5, 8.0, spot.toEdge);
-    const double side = clamp01(0.5 + (spot.dy - spot.dx) * 0.028);
-    const Colour lit =
-        stone * ((0.65 + 0.35 * roundness) * (0.8 + 0.5 * side) * (0.8 + 0.4 * grit));
-    const Colour moss = lerp(srgb(0x20301a), srgb(0x4a662c), grit);
-    return lerp(moss, lit, smoothstep(1.3, 2.6, spot.toEdge));
+Spot discoPattern(double x, double y) {
+    constexpr std::uint32_t hues[] = {0xff70b0, 0x48d0f8, 0xecb830, 0xa894ff, 0x60e078, 0xff8c50};
+    const Cell cell = cellAt(x, y, 4, 4, 3.0, 5.0, false);
+    const Colour hue = srgb(hues[(cell.column * 4 + cell.row * 7 + cell.column / 2 + cell.row / 3) % 6]);
+    const double from = std::sqrt(cell.u * cell.u * 0.5625 + cell.v * cell.v);
+    const Colour lit = lerp(lerp(hue, srgb(0xffffff), 0.6), hue, smoothstep(0.0, 15.0, from));
+    return set(lit, srgb(0x281c58), cell.toEdge, rounded(cell.toEdge, 3.5, 2.0));
 }
 
-Colour icePattern(double x, double y) {
-    const VoronoiCell floe = roughCell(floeLattice, x, y, 14.0, 734);
-    const VoronoiCell split = roughCell({tileWidth, tileLength, 6, 5}, x, y, 10.0, 640);
-    const double cloud = fractalNoise(cloudLattice, x, y, 680);
-    const Colour deep = lerp(srgb(0x2888cc), srgb(0x48829c), floe.tone);
-    const Colour body = lerp(deep, srgb(0xa8dcf4), 0.3 + 0.2 * cloud);
-    const double hair = 1.0 - smoothstep(0.3, 1.2, split.toEdge);
-    const double frost = exponential(-floe.toEdge / 5.0);
-    const double crack = 1.0 - smoothstep(1.2, 2.4, floe.toEdge);
-    const Colour pale = lerp(lerp(body, srgb(0xd8f2ff), 0.3 * hair), srgb(0xd8f4ff), 0.2 * frost);
-    return lerp(pale, srgb(0xf4fbff), crack);
+Spot candyPattern(double x, double y) {
+    const Cell cell = cellAt(x + halfColumn, y + halfRow, 4, 4, 1.2, 8.0, false);
+    const bool sweet = ((cell.column + cell.row) & 1) != 0;
+    const double turn = angleOf(cell.u * 0.75, cell.v) / (2.0 * pi);
+    const double from = std::sqrt(cell.u * cell.u * 0.5625 + cell.v * cell.v);
+    const double swirl = fraction(turn * 5.0 + from / 26.0);
+    const Colour striped = swirl < 0.5 ? srgb(0xff6ca8) : srgb(0xffd4e6);
+    const Colour plain = srgb(0xfff0f4);
+    return set(sweet ? striped : plain, srgb(0x9038a0), cell.toEdge,
+               rounded(cell.toEdge, 11.0, 6.0));
 }
 
-Colour lavaPattern(double x, double y) {
-    const VoronoiCell plate = roughCell(plateLattice, x, y, 12.0, 823);
-    const double crust = fractalNoise({tileWidth, tileLength, 16, 12}, x, y, 840);
-    const Colour rock =
-        lerp(srgb(0x1a1214), srgb(0x584648), 0.25 + 0.5 * crust) * (0.8 + 0.4 * plate.tone);
-    const double glow = exponential(-plate.toEdge / 4.0);
-    const Colour heated = rock + srgb(0xc02a08) * (0.9 * glow);
-    const Colour core = lerp(srgb(0xff6a10), srgb(0xffd860), crust);
-    return lerp(heated, core, 1.0 - smoothstep(1.4, 3.0, plate.toEdge));
+Spot meadowPattern(double x, double y) {
+    const Cell cell = cellAt(x + halfColumn, y + halfRow, 4, 4, 0.0, 0.0, false);
+    const bool light = ((cell.column + cell.row) & 1) != 0;
+    const double blades = fractalNoise({tileWidth, tileLength, 32, 12}, x, y, 900);
+    const Colour grass = light ? srgb(0xb4e058) : srgb(0x68b840);
+    const VoronoiCell flower = voronoiCell({tileWidth, tileLength, 5, 4}, x, y, 0.9, 930);
+    const double from = std::sqrt(flower.dx * flower.dx + flower.dy * flower.dy);
+    const double petals = 4.4 + 1.1 * cosine(6.0 * angleOf(flower.dx, flower.dy)) - from;
+    const Colour bloom = lerp(srgb(0xffffff), srgb(0xffc820), smoothstep(2.6, 3.2, petals));
+    const double toEdge = flower.tone < 0.6 ? petals : -9.0;
+    return {lerp(grass * (0.75 + 0.5 * blades), bloom, smoothstep(-0.4, 0.4, toEdge)),
+            3.0 * blades + rounded(toEdge, 3.0, 2.5)};
 }

@@ -7,22 +7,57 @@
 
 namespace {
 
-Image drawTile(GroundPattern* pattern) {
-    constexpr int samples = 6; // of a texel, each way
-    Image tile(groundTextureSize, groundTextureSize);
-    const double step = 1.0 / (groundTextureSize * samples);
-    for (int row = 0; row < groundTextureSize; ++row) {
-        for (int column = 0; column < groundTextureSize; ++column) {
-            Colour sum;
-            for (int s = 0; s < samples * samples; ++s) {
-                const int i = column * samples + s % samples;
-                const int j = row * samples + s / samples;
-                sum = sum + pattern((i + 0.5) * step * tileWidth,
-                                    tileLength - (j + 0.5) * step * tileLength);
-            }
-            tile.at(column, row) = sum * (1.0 / (samples * samples));
+constexpr int samples = 6; // of a texel, each way
+constexpr int rasterSize = groundTextureSize * samples;
+
+Raster<Spot> drawSpots(GroundPattern* pattern) {
+    Raster<Spot> spots(rasterSize, rasterSize);
+    const double step = 1.0 / rasterSize;
+    for (int row = 0; row < rasterSize; ++row) {
+        for (int column = 0; column < rasterSize; ++column) {
+            spots.at(column, row) = pattern((column + 0.5) * step * tileWidth,
+                                            tileLength - (row + 0.5) * step * tileLength);
         }
     }
+    return spots;
+}
+
+// Returns the paint at a sample, lit from above and left.
+Colour litPaint(const Raster<Spot>& spots, int column, int row) {
+    constexpr double run = 400.0 / rasterSize; // world units between the samples compared
+    const auto heightAt = [&](int x, int y) {
+        return spots.at((x + rasterSize) % rasterSize, (y + rasterSize) % rasterSize).height;
+    };
+    const double rise = heightAt(column + 1, row + 1) - heightAt(column - 1, row - 1);
+    const double slope = rise / run;
+    const Colour& paint = spots.at(column, row).paint;
+    if (slope < 0.0) { return lerp(paint, paint * srgb(0x7884a4), clamp01(-slope)); }
+    return lerp(paint, srgb(0xffffff), 0.8 * clamp01(slope));
+}
+
+// Dims a tile so that the mean of no channel passes the most that the 2 x 2 level can show.
+void limitMean(Image& tile) {
+    Colour sum;
+    for (const Colour& light : tile.pixels) {
+        sum = sum + light;
+    }
+    const double limit = srgb(0xbebebe).red * static_cast<double>(tile.pixels.size());
+    const double share = limit / std::max({sum.red, sum.green, sum.blue});
+    for (Colour& light : tile.pixels) {
+        light = light * std::min(share, 1.0);
+    }
+}
+
+Image drawTile(GroundPattern* pattern) {
+    const Raster<Spot> spots = drawSpots(pattern);
+    Image tile(groundTextureSize, groundTextureSize);
+    for (int row = 0; row < rasterSize; ++row) {
+        for (int column = 0; column < rasterSize; ++column) {
+            Colour& texel = tile.at(column / samples, row / samples);
+            texel = texel + litPaint(spots, column, row) * (1.0 / (samples * samples));
+        }
+    }
+    limitMean(tile);
     return tile;
 }
 

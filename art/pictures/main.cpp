@@ -29,10 +29,10 @@ struct Ground {
 };
 
 constexpr Ground grounds[] = {
-    {"grid", gridPattern},        {"embers", emberPattern},   {"sand", sandPattern},
-    {"hexagons", hexagonPattern}, {"planks", plankPattern},   {"scales", scalePattern},
-    {"circuit", circuitPattern},  {"paving", pavingPattern},  {"ice", icePattern},
-    {"lava", lavaPattern},        {"ribbons", ribbonPattern},
+    {"tiles", tilePattern},       {"snow", snowPattern},   {"terracotta", terracottaPattern},
+    {"sand", sandPattern},        {"hexagons", hexagonPattern}, {"scales", scalePattern},
+    {"moon", moonPattern},        {"circuit", circuitPattern},  {"lava", lavaPattern},
+    {"disco", discoPattern},      {"candy", candyPattern},   {"meadow", meadowPattern},
 };
 
 bool writeFont(const path& game) {

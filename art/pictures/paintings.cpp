@@ -15,26 +15,17 @@ namespace {
 
 constexpr double gameFocalLength = focalLength / screenWidth; // of the game's own view
 
-Sky duskSky() {
-    return {.zenith = srgb(0x080a2c),
-            .middle = srgb(0x3c1a68),
-            .horizon = srgb(0xb0406c),
-            .haze = srgb(0x1a0a28),
-            .glow = srgb(0xffa040) * 0.8,
-            .sunlight = srgb(0xffd8b0) * 1.5,
-            .skylight = srgb(0x8f90ff) * 0.5,
-            .hazeLength = 1150.0};
-}
-
-Sky nightSky() {
-    return {.zenith = srgb(0x05071c),
-            .middle = srgb(0x141040),
-            .horizon = srgb(0x35205a),
-            .haze = srgb(0x1c1440),
-            .glow = srgb(0x604080) * 0.4,
-            .sunlight = srgb(0xb8c4ff) * 0.32,
-            .skylight = srgb(0x5060b0) * 0.5,
-            .hazeLength = 1700.0};
+Sky daySky() {
+    return {.zenith = srgb(0x1848b0),
+            .middle = srgb(0x3a75ce),
+            .horizon = srgb(0x78b4f0),
+            .haze = srgb(0x6ca4e4),
+            .glow = srgb(0xfffcb4),
+            .glowShare = 1.0,
+            .cloudCover = 0.9,
+            .sunlight = srgb(0xfff2d8) * 1.5,
+            .skylight = srgb(0xa8c8ff) * 0.75,
+            .hazeLength = 660.0};
 }
 
 Vector3 above(const Landscape& land, float x, float y, float height) {
@@ -48,78 +39,80 @@ GlassMarble marbleAt(const Landscape& land, float x, float y, double radius, Col
     return {centre, radius, Vector3(0.80F, -0.22F, 0.55F).unit(), ribbon};
 }
 
-// Wells and mounds in the foreground, hills at the horizon.
+// A valley between hills, with wells in the foreground.
 constexpr Hole titleLand[] = {
-    {-330, 330, 70, 190},     {420, 700, 90, 230},      {-60, 760, 80, 200},
-    {-620, 900, 120, 260},    {820, 1150, 130, 280},    {180, 1250, 100, 240},
-    {-380, 1450, 110, 260},   {520, 1750, 120, 300},    {-900, 1900, 200, 320},
-    {-80, 2000, 130, 300},    {1100, 2300, 220, 340},   {-480, 2500, 150, 320},
-    {340, 2700, 160, 320},    {-760, 420, 150, -110},   {640, 330, 140, -70},
-    {60, 1650, 160, -130},    {-1150, 3300, 130, -230}, {-420, 4100, 150, -250},
-    {420, 4500, 140, -210},   {1050, 3900, 170, -300},  {1900, 3700, 155, -275},
-    {-1900, 3950, 150, -260},
+    {-120, 330, 45, 110},   {60, 560, 60, 120},     {-420, 640, 110, -330}, {-700, 1000, 150, -480},
+    {470, 700, 120, -340},  {780, 1050, 160, -520}, {330, 250, 50, 90},     {-330, 260, 60, 90},
 };
 
-// Darkens the image for small text, from its left edge to `right` and from `top` to `bottom`.
-void darken(Image& image, int right, int top, int bottom) {
-    constexpr double share = 0.03; // of the light that stays
-    constexpr double edge = 20.0;  // pixels around the text over which it fades
-    for (int y = 0; y < image.height; ++y) {
-        for (int x = 0; x < image.width; ++x) {
-            const double dx = std::max(0, x - right);
-            const double dy = std::max({0, top - y, y - bottom});
-            const double outside = std::sqrt(dx * dx + dy * dy) / edge;
-            image.at(x, y) = image.at(x, y) * lerp(share, 1.0, smoothstep(0.0, 1.0, outside));
-        }
-    }
-}
+// Hills that rise out of mist.
+constexpr Hole backLand[] = {
+    {-590, 760, 90, -400}, {-850, 900, 140, -420}, {580, 780, 85, -400}, {850, 900, 140, -380},
+};
 
-// Writes a line of half the size that the typeface has, at a place in pixels from the top left.
-void writeLine(Image& image, std::string_view text, Point place) {
+// Returns the ink of a line of text; place in glyph pixels.
+Skeleton inkOf(std::string_view text) {
+    Skeleton line;
+    double left = 0.0;
     for (const char character : text) {
         const LetterShape& shape = letterShape(character == ' ' ? 'i' : character);
-        const Skeleton ink = character == ' ' ? Skeleton{} : readSkeleton(shape.path);
-        for (int i = 0; i < image.width * image.height; ++i) {
-            const int x = i % image.width;
-            const int y = i / image.width;
-            const Point point{2.0 * (x + 0.5 - place.x), 2.0 * (place.y - y - 0.5)};
-            const double share = clamp01(0.5 - 0.5 * signedDistance(ink, point));
-            image.at(x, y) = lerp(image.at(x, y), srgb(0xffe8c8), share);
+        for (Stroke stroke : character == ' ' ? Skeleton{} : readSkeleton(shape.path)) {
+            stroke.from.x += left;
+            stroke.to.x += left;
+            line.push_back(stroke);
         }
-        place.x += 0.5 * shape.width;
+        left += shape.width;
+    }
+    return line;
+}
+
+// Writes a line of half the size that the typeface has, dark with a light rim, at a place in pixels
+// from the top left.
+void writeLine(Image& image, std::string_view text, const Point& place) {
+    constexpr int above = 18; // pixels from the baseline that the line covers
+    constexpr int below = 10;
+    constexpr double rim = 9.0; // glyph pixels around the ink
+    const Skeleton ink = inkOf(text);
+    for (int y = static_cast<int>(place.y) - above; y < place.y + below; ++y) {
+        for (int x = 0; x < image.width; ++x) {
+            const double away =
+                signedDistance(ink, {2.0 * (x + 0.5 - place.x), 2.0 * (place.y - y - 0.5)});
+            Colour& pixel = image.at(x, y);
+            pixel = lerp(pixel, srgb(0xfffcf0), 0.85 * (1.0 - smoothstep(0.3 * rim, rim, away)));
+            pixel = lerp(pixel, srgb(0x081c60), clamp01(0.5 - 0.5 * away));
+        }
     }
 }
 
 } // namespace
 
 Image titlePainting() {
-    Scene scene{duskSky(), Landscape(titleLand), groundMipChain(emberPattern)};
-    const Camera camera{above(scene.land, 0.0F, -60.0F, 165.0F), 0.187, gameFocalLength};
-    scene.sign.emplace("GLORBIX", camera.eye + Vector3(0.0F, 800.0F, 74.0F));
-    const Colour blue = srgb(0x10b8f0);
+    Scene scene{daySky(), Landscape(titleLand), groundMipChain(tilePattern)};
+    const Camera camera{above(scene.land, 0.0F, -60.0F, 120.0F), -0.15, gameFocalLength};
+    scene.sign.emplace("GLORBIX", camera.eye + Vector3(0.0F, 800.0F, 405.0F));
+    const Colour blue = srgb(0x1060f0);
     const Vector3 insideTheO = scene.sign->middleOf(2);
     scene.marbles.push_back({insideTheO, 42.0, Vector3(0.3F, -0.5F, 0.8F).unit(), blue});
-    scene.marbles.push_back(marbleAt(scene.land, 120.0F, 225.0F, 50.0, blue));
+    scene.marbles.push_back(marbleAt(scene.land, 190.0F, 330.0F, 62.0, blue));
     Image image = render(scene, camera, screenWidth, screenHeight, 4);
-    darken(image, 268, 448, screenHeight);
     writeLine(image, "Esc menu   arrows roll   Shift turbo", {12.0, 468.0});
     return image;
 }
 
 Image backPainting() {
-    Scene scene{nightSky(), Landscape(titleLand), groundMipChain(emberPattern)};
-    scene.glow = 0.06;
-    const Camera camera{above(scene.land, 0.0F, -60.0F, 300.0F), 0.25, gameFocalLength};
-    Image image = render(scene, camera, screenWidth, screenHeight, 4);
-    darken(image, 130, 0, 170);                    // the times of a run
-    darken(image, screenWidth, 452, screenHeight); // the line at the foot
-    return image;
+    Scene scene{daySky(), Landscape(backLand), groundMipChain(tilePattern)};
+    scene.sky.haze = srgb(0xffffff);
+    scene.sky.glowShare = 0.0;
+    scene.sky.cloudCover = 0.2;
+    scene.marbles.push_back(marbleAt(scene.land, 578.0F, 765.0F, 50.0, srgb(0x1060f0)));
+    const Camera camera{above(scene.land, 0.0F, -60.0F, 110.0F), -0.47, gameFocalLength};
+    return render(scene, camera, screenWidth, screenHeight, 4);
 }
 
 Image iconPainting(int size) {
     constexpr Hole land[] = {{70, 420, 90, 260}, {-400, 700, 150, 240}, {420, 900, 160, 280}};
-    Scene scene{duskSky(), Landscape(land), groundMipChain(gridPattern)};
-    scene.marbles.push_back(marbleAt(scene.land, -14.0F, 225.0F, 92.0, srgb(0xff9010)));
+    Scene scene{daySky(), Landscape(land), groundMipChain(tilePattern)};
+    scene.marbles.push_back(marbleAt(scene.land, -14.0F, 225.0F, 92.0, srgb(0x1060f0)));
     const Camera camera{above(scene.land, 0.0F, -30.0F, 215.0F), 0.42, 0.95};
     return render(scene, camera, size, size, size < 100 ? 8 : 4);
 }

@@ -77,7 +77,8 @@ MarbleShadow shadowOfMarbles(const Scene& scene, const Vector3& point, const Vec
 Colour shadeGround(const Scene& scene, const Ray& ray, double distance) {
     const Sky& sky = scene.sky;
     const double transmittance = sky.transmittance(distance);
-    if (transmittance < 0.004) { return sky.haze; }
+    const Colour haze = sky.hazeFrom(ray.direction);
+    if (transmittance < 0.004) { return haze; }
     const Vector3 point = ray.at(distance);
     const Vector3 normal = scene.land.normalAt(point.x, point.y);
     const double grazing = std::max(0.12, -static_cast<double>(dot(normal, ray.direction)));
@@ -89,9 +90,7 @@ Colour shadeGround(const Scene& scene, const Ray& ray, double distance) {
     const double open = scene.land.ambientOcclusion(point.x, point.y) * shadow.sky;
     const Colour light = sky.sunlight * sun + sky.skylight * (open * (0.6 + 0.4 * normal.z)) +
                          shadow.caustic * facing;
-    const double unshaded = shadow.sky * lerp(0.15, 1.0, shadow.sun);
-    const Colour emitted = paint * paint * (3.0 * scene.glow * unshaded);
-    return lerp(sky.haze, paint * light + emitted, transmittance);
+    return lerp(haze, paint * light, transmittance);
 }
 
 // Returns the sun's reflection in a polished surface.
@@ -154,8 +153,7 @@ Colour trace(const Scene& scene, const Ray& ray) {
     }
     if (marbleSeen != nullptr) { return shadeMarble(scene, *marbleSeen, ray, nearest); }
     if (nearest < farAway) { return shadeGround(scene, ray, nearest); }
-    const Colour sky = scene.sky.lightFrom(ray.direction);
-    return ray.depth == 0 ? sky + starlight(ray.direction) : sky;
+    return scene.sky.lightFrom(ray.direction);
 }
 
 // Renders every n-th row of the image, beginning with the given one.

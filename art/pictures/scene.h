@@ -14,7 +14,6 @@ struct Scene {
     Sky sky;
     Landscape land;
     std::vector<Image> texture; // the mip chain of the ground (ground_textures.h)
-    double glow = 0.35;         // how much the bright parts of the texture glow, 0..1
     std::vector<GlassMarble> marbles = {};
     std::optional<Sign> sign = {};
 };

@@ -3,35 +3,45 @@
 #include <cmath>
 
 #include "art/common/portable_math.h"
-#include "art/common/random.h"
+#include "art/pictures/noise.h"
+
+namespace {
+
+// Returns how much of the light from a direction above the horizon is that of clouds: banks that
+// are flat below and heaped above.
+double cloudShare(const Vector3& direction, double cover) {
+    if (direction.y <= 0.0F) { return 0.0; }
+    constexpr Lattice puffs{4.0, 4.0, 8, 20};
+    const double across = direction.x / direction.y;
+    const double up = direction.z / direction.y;
+    const double heap = fractalNoise(puffs, across + 2.0, up + 1.0, 77);
+    return cover * smoothstep(0.46, 0.74, heap);
+}
+
+// Returns the share of the glow, whose middle is wide and even, in the light from a direction.
+double glowIn(const Vector3& direction) {
+    if (direction.y <= 0.0F) { return 0.0; }
+    const double across = direction.x / direction.y / 0.52;
+    const double up = (direction.z / direction.y - 0.13) / 0.38;
+    return 1.0 - smoothstep(0.85, 1.5, std::sqrt(across * across + up * up));
+}
+
+} // namespace
 
 Colour Sky::lightFrom(const Vector3& direction) const {
-    if (direction.z < 0.0F) { return haze; }
+    if (direction.z < 0.0F) { return hazeFrom(direction); }
     const double up = direction.z;
-    const Colour low = lerp(horizon, middle, smoothstep(-0.02, 0.16, up));
-    const Colour sky = lerp(low, zenith, smoothstep(0.10, 0.45, up));
-    const double aside = direction.x * direction.x;
-    const double ahead = direction.y > 0.0F ? 1.0 : 0.0;
-    return sky + glow * (ahead * exponential(-aside * 6.0) * exponential(-up * 16.0));
+    const Colour low = lerp(horizon, middle, smoothstep(0.0, 0.25, up));
+    const Colour clear = lerp(low, zenith, smoothstep(0.15, 0.7, up));
+    const Colour sky = lerp(clear, srgb(0xffffff), cloudShare(direction, cloudCover));
+    return lerp(sky, glow, glowShare * glowIn(direction));
+}
+
+Colour Sky::hazeFrom(const Vector3& direction) const {
+    return lerp(haze, glow, glowShare * glowIn(direction));
 }
 
 double Sky::transmittance(double distance) const {
     const double share = distance / hazeLength;
     return exponential(-share * share);
-}
-
-Colour starlight(const Vector3& direction) {
-    constexpr double cellsPerUnit = 150.0; // of direction, at a distance of 1
-    constexpr double starsPerCell = 0.06;
-    if (direction.y <= 0.0F) { return {}; }
-    const double u = direction.x / direction.y * cellsPerUnit;
-    const double v = direction.z / direction.y * cellsPerUnit;
-    const int i = static_cast<int>(std::floor(u));
-    const int j = static_cast<int>(std::floor(v));
-    if (hash01(i, j, 1) > starsPerCell) { return {}; }
-    const double dx = u - i - lerp(0.3, 0.7, hash01(i, j, 2));
-    const double dy = v - j - lerp(0.3, 0.7, hash01(i, j, 3));
-    const double size = lerp(0.07, 0.22, power(hash01(i, j, 4), 3.0));
-    const double shine = exponential(-(dx * dx + dy * dy) / (size * size));
-    return srgb(0xfff0e0) * (shine * smoothstep(0.08, 0.3, direction.z));
 }

@@ -9,7 +9,9 @@ struct Sky {
     Colour middle;
     Colour horizon;
     Colour haze;       // what distant land fades to
-    Colour glow;       // added near the horizon straight ahead
+    Colour glow;       // of the sun behind the haze, straight ahead
+    double glowShare;  // of that light where it is brightest, 0..1
+    double cloudCover; // 0..1
     Colour sunlight;   // on a surface that faces the sun
     Colour skylight;   // on a surface that faces the sky
     double hazeLength; // world units after which two thirds of the land are haze
@@ -17,12 +19,12 @@ struct Sky {
     // Returns the light of the sky from a unit direction; below the horizon, the haze.
     Colour lightFrom(const Vector3& direction) const;
 
+    // Returns the light of the haze that covers land in a unit direction.
+    Colour hazeFrom(const Vector3& direction) const;
+
     // Returns the share of light that the haze transmits over a distance.
     double transmittance(double distance) const;
 };
 
 // The unit direction towards the sun.
 inline const Vector3 sunDirection = Vector3(-0.55F, -0.22F, 0.62F).unit();
-
-// Returns the light of the stars from a unit direction.
-Colour starlight(const Vector3& direction);

@@ -124,7 +124,7 @@ else
     expectName missing graphics/back.bmp
     expectName empty graphics/font/font.dat
     expectName cut graphics/font/font_7.bmp
-    expectName missing graphics/ground/embers_6.bmp
+    expectName missing graphics/ground/tiles_6.bmp
     expectName cut sounds/midi1.mid
     expectName random sounds/menu.wav
     expectName cut sounds/go.wav

@@ -20,7 +20,8 @@
 namespace {
 
 constexpr double minColourDistance = 90.0; // closer colours are hard to tell apart
-constexpr double minContrast = 1.5;        // of the marble with its ground
+constexpr double minContrast = 2.0;        // of the marble with its ground
+constexpr double minClockDistance = 50.0;  // of the clock from the sky
 
 // The time at the start in which no key is held.
 constexpr float idleSeconds = 5.0F;
@@ -71,9 +72,18 @@ void checkMarble(Findings& findings) {
     if (contrast >= minContrast) { return; }
     char text[120];
     std::snprintf(text, sizeof text,
-                  "the marble is hard to see on its ground: %.2f times brighter or darker in fog, "
-                  "expected %.1f",
+                  "the marble is hard to see on its ground: contrast %.2f in fog, expected %.1f",
                   contrast, minContrast);
+    findings.add(text);
+}
+
+void checkSky(Findings& findings) {
+    const double apart = clockDistance(level.fogColourCode);
+    if (apart >= minClockDistance) { return; }
+    char text[120];
+    std::snprintf(text, sizeof text,
+                  "the clock is hard to read on the sky of fogcolor=: distance %.0f, expected %.0f",
+                  apart, minClockDistance);
     findings.add(text);
 }
 
@@ -127,6 +137,7 @@ void checkCourse(Findings& findings) {
     if (level.holeAt(0.0F, startLine) > 0.0F) { findings.add("the start is in a catch circle"); }
     checkFog(findings);
     checkMarble(findings);
+    checkSky(findings);
     checkIdleStart(findings);
     checkReturns(findings);
     if (!Guide(level).reachesGoal()) {

@@ -18,6 +18,8 @@ constexpr double clearPart = (fogEnd - 1.0 / rollingDepth) / (fogEnd - fogStart)
 constexpr double rimBrightness = 0.1; // of the disc's edge, its centre having 1
 constexpr int discRings = 40;         // that its mean is computed from
 
+constexpr double glare = 0.05; // luminance that a lit screen adds to every colour
+
 // Red, green and blue, each 0 to 255.
 struct Colour {
     double part[3];
@@ -36,15 +38,36 @@ Colour inFog(const Colour& colour, const Colour& fog) {
     return mixed;
 }
 
+double light(double part) {
+    const double c = part / 255.0;
+    return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+}
+
+// The weights of red, green and blue light in the CIE coordinates X, Y and Z, white having 1 each.
+constexpr double weights[3][3] = {
+    {0.4339, 0.3762, 0.1899}, {0.2126, 0.7152, 0.0722}, {0.0178, 0.1095, 0.8727}};
+
+double coordinate(const Colour& colour, const double (&weight)[3]) {
+    return weight[0] * light(colour.part[0]) + weight[1] * light(colour.part[1]) +
+           weight[2] * light(colour.part[2]);
+}
+
 // Returns the luminance of an sRGB colour, 0 to 1.
 double luminance(const Colour& colour) {
-    constexpr double weights[] = {0.2126, 0.7152, 0.0722};
-    double sum = 0.0;
+    return coordinate(colour, weights[1]);
+}
+
+// Returns the distance of two colours in CIE 1976 L*a*b*.
+double distance(const Colour& a, const Colour& b) {
+    const auto bent = [](double t) {
+        return t > 216.0 / 24389.0 ? std::cbrt(t) : (24389.0 / 27.0 * t + 16.0) / 116.0;
+    };
+    double difference[3];
     for (int i = 0; i < 3; ++i) {
-        const double c = colour.part[i] / 255.0;
-        sum += weights[i] * (c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4));
+        difference[i] = bent(coordinate(a, weights[i])) - bent(coordinate(b, weights[i]));
     }
-    return sum;
+    return std::hypot(116.0 * difference[1], 500.0 * (difference[0] - difference[1]),
+                      200.0 * (difference[1] - difference[2]));
 }
 
 double discLuminance(const Colour& marble, const Colour& fog) {
@@ -87,6 +110,14 @@ double marbleContrast(const Level& course) {
     const Colour fog = colourOf(course.fogColourCode);
     const double disc = discLuminance(colourOf(course.marbleColourCode), fog);
     const double ground = luminance(inFog(groundColour(course), fog));
-    const double darker = std::max(std::min(disc, ground), 1.0e-6);
-    return std::max(disc, ground) / darker;
+    return (std::max(disc, ground) + glare) / (std::min(disc, ground) + glare);
+}
+
+double clockDistance(std::uint32_t sky) {
+    double least = 1.0e9;
+    for (int green = 0; green <= 255; ++green) {
+        const Colour clock = {{255.0 - green, static_cast<double>(green), 0.0}};
+        least = std::min(least, distance(clock, colourOf(sky)));
+    }
+    return least;
 }

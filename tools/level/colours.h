@@ -10,7 +10,11 @@ struct Level;
 // to different values, and far hills show as silhouettes.
 std::uint32_t nearestInSixteenBits(std::uint32_t colour);
 
-// Returns how many times brighter the marble's disc is than the ground around it, or the ground
-// than the disc: the ratio of their mean luminances, at least 1. Both are as far from the eye as
-// when the marble rolls, and in fog.
+// Returns the contrast ratio of the marble's disc and the ground around it, at least 1: their mean
+// luminances plus 0.05 each, the larger divided by the smaller. Both are as far from the eye as when
+// the marble rolls, and in fog.
 double marbleContrast(const Level& course);
+
+// Returns the least distance of a sky, 0xRRGGBB, from the clock, which turns from green to red: in
+// CIE 1976 L*a*b*, where black and white are 100 apart.
+double clockDistance(std::uint32_t sky);

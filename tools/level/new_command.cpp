@@ -11,9 +11,9 @@ namespace {
 // Returns a level with a mound and two wells to steer around. It must not end with a line break.
 std::string smallLevel() {
     std::ostringstream text;
-    text << keyOf(Directive::TextureFile) << ' ' << groundFolder << "/grid\n"
-         << keyOf(Directive::FogColour) << " 0x192452\n"
-         << keyOf(Directive::MarbleColour) << " 0xff3018\n"
+    text << keyOf(Directive::TextureFile) << ' ' << groundFolder << "/tiles\n"
+         << keyOf(Directive::FogColour) << " 0x3a75ce\n"
+         << keyOf(Directive::MarbleColour) << " 0x001080\n"
          << keyOf(Directive::HoleCount) << " 3\n\n"
          << keyOf(Directive::Data) << "\n"
          << "     0  -4800   200   -80\n"
