@@ -83,9 +83,7 @@ HexagonSpot hexagonAt(double x, double y) {
         const double dy = (y - shift - row * hexagonWidth) / hexagonWidth * 2.0;
         const double slant = flatSideTilt * std::fabs(dx) + 0.5 * std::fabs(dy);
         const double toEdge = 1.0 - std::fmax(std::fabs(dy), slant);
-        if (toEdge > spot.toEdge) {
-            spot = {toEdge, hexagonTone((column + 6) % 6, (row + 4) % 4)};
-        }
+        if (toEdge > spot.toEdge) { spot = {toEdge, hexagonTone((column + 6) % 6, (row + 4) % 4)}; }
     }
     return spot;
 }
@@ -133,12 +131,12 @@ Spot snowPattern(double x, double y) {
 }
 
 Spot terracottaPattern(double x, double y) {
-    constexpr std::uint32_t clays[] = {0xf8a474, 0xe0c08c, 0xd8acd8, 0xf4b490};
-    const Cell cell = cellAt(x, y, 3, 6, 2.2, 1.5, true);
+    constexpr std::uint32_t clays[] = {0xf8b48c, 0xf0c8a4, 0xf4bab0, 0xf8c090};
+    const Cell cell = cellAt(x, y, 3, 6, 2.8, 1.5, true);
     const Colour clay = srgb(clays[(cell.column + cell.row + cell.row / 2) & 3]);
     const double grit = grainAt(x, y, 440);
     const double height = rounded(cell.toEdge, 3.0, 2.0) + 0.8 * grit;
-    return set(clay * (0.9 + 0.2 * grit), srgb(0xfff0dc), cell.toEdge, height);
+    return set(clay * (0.9 + 0.2 * grit), srgb(0xfffaf0), cell.toEdge, height);
 }
 
 Spot sandPattern(double x, double y) {
@@ -229,7 +227,8 @@ Spot lavaPattern(double x, double y) {
 Spot discoPattern(double x, double y) {
     constexpr std::uint32_t hues[] = {0xff70b0, 0x48d0f8, 0xecb830, 0xa894ff, 0x60e078, 0xff8c50};
     const Cell cell = cellAt(x, y, 4, 4, 3.0, 5.0, false);
-    const Colour hue = srgb(hues[(cell.column * 4 + cell.row * 7 + cell.column / 2 + cell.row / 3) % 6]);
+    const Colour hue =
+        srgb(hues[(cell.column * 4 + cell.row * 7 + cell.column / 2 + cell.row / 3) % 6]);
     const double from = std::sqrt(cell.u * cell.u * 0.5625 + cell.v * cell.v);
     const Colour lit = lerp(lerp(hue, srgb(0xffffff), 0.6), hue, smoothstep(0.0, 15.0, from));
     return set(lit, srgb(0x281c58), cell.toEdge, rounded(cell.toEdge, 3.5, 2.0));

@@ -29,10 +29,10 @@ struct Ground {
 };
 
 constexpr Ground grounds[] = {
-    {"tiles", tilePattern},       {"snow", snowPattern},   {"terracotta", terracottaPattern},
-    {"sand", sandPattern},        {"hexagons", hexagonPattern}, {"scales", scalePattern},
-    {"moon", moonPattern},        {"circuit", circuitPattern},  {"lava", lavaPattern},
-    {"disco", discoPattern},      {"candy", candyPattern},   {"meadow", meadowPattern},
+    {"tiles", tilePattern},  {"snow", snowPattern},        {"terracotta", terracottaPattern},
+    {"sand", sandPattern},   {"hexagons", hexagonPattern}, {"scales", scalePattern},
+    {"moon", moonPattern},   {"circuit", circuitPattern},  {"lava", lavaPattern},
+    {"disco", discoPattern}, {"candy", candyPattern},      {"meadow", meadowPattern},
 };
 
 bool writeFont(const path& game) {

@@ -20,7 +20,7 @@ Sky daySky() {
             .middle = srgb(0x3a75ce),
             .horizon = srgb(0x78b4f0),
             .haze = srgb(0x6ca4e4),
-            .glow = srgb(0xfffcb4),
+            .glow = srgb(0xfffc98),
             .glowShare = 1.0,
             .cloudCover = 0.9,
             .sunlight = srgb(0xfff2d8) * 1.5,
@@ -41,13 +41,16 @@ GlassMarble marbleAt(const Landscape& land, float x, float y, double radius, Col
 
 // A valley between hills, with wells in the foreground.
 constexpr Hole titleLand[] = {
-    {-120, 330, 45, 110},   {60, 560, 60, 120},     {-420, 640, 110, -330}, {-700, 1000, 150, -480},
-    {470, 700, 120, -340},  {780, 1050, 160, -520}, {330, 250, 50, 90},     {-330, 260, 60, 90},
+    {-120, 330, 45, 110},  {60, 560, 60, 120},     {-420, 640, 110, -330}, {-700, 1000, 150, -480},
+    {470, 700, 120, -340}, {780, 1050, 160, -520}, {330, 250, 50, 90},     {-330, 260, 60, 90},
 };
 
 // Hills that rise out of mist.
 constexpr Hole backLand[] = {
-    {-590, 760, 90, -400}, {-850, 900, 140, -420}, {580, 780, 85, -400}, {850, 900, 140, -380},
+    {-590, 760, 90, -400},
+    {-850, 900, 140, -420},
+    {580, 780, 85, -400},
+    {850, 900, 140, -380},
 };
 
 // Returns the ink of a line of text; place in glyph pixels.
@@ -103,7 +106,8 @@ Image backPainting() {
     Scene scene{daySky(), Landscape(backLand), groundMipChain(tilePattern)};
     scene.sky.haze = srgb(0xffffff);
     scene.sky.glowShare = 0.0;
-    scene.sky.cloudCover = 0.2;
+    scene.sky.cloudCover = 0.12;
+    scene.sky.hazeLength = 1400.0;
     scene.marbles.push_back(marbleAt(scene.land, 578.0F, 765.0F, 50.0, srgb(0x1060f0)));
     const Camera camera{above(scene.land, 0.0F, -60.0F, 110.0F), -0.47, gameFocalLength};
     return render(scene, camera, screenWidth, screenHeight, 4);
@@ -112,6 +116,8 @@ Image backPainting() {
 Image iconPainting(int size) {
     constexpr Hole land[] = {{70, 420, 90, 260}, {-400, 700, 150, 240}, {420, 900, 160, 280}};
     Scene scene{daySky(), Landscape(land), groundMipChain(tilePattern)};
+    scene.sky.glowShare = 0.0;
+    scene.sky.hazeLength = 1400.0;
     scene.marbles.push_back(marbleAt(scene.land, -14.0F, 225.0F, 92.0, srgb(0x1060f0)));
     const Camera camera{above(scene.land, 0.0F, -30.0F, 215.0F), 0.42, 0.95};
     return render(scene, camera, size, size, size < 100 ? 8 : 4);
