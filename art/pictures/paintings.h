@@ -3,11 +3,12 @@
 
 #include "art/pictures/image.h"
 
-// The title screen: the game's name over the ground at dusk, a marble in front. The middle has
-// little detail and is dark, for the menu.
+// The title screen: the game's name over a valley of the first course's ground, a marble in front.
+// The middle is bright, for the blue text of the menu, which the game darkens by half.
 Image titlePainting();
 
-// The background of the best times: the same ground at night, with little detail.
+// The background of the best times: the same ground, out of mist. The sky is deep where the table
+// stands, and the foot is bright for the blue line there.
 Image backPainting();
 
 // The game's icon: a marble at the rim of a well.

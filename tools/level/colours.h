@@ -11,8 +11,8 @@ struct Level;
 std::uint32_t nearestInSixteenBits(std::uint32_t colour);
 
 // Returns the contrast ratio of the marble's disc and the ground around it, at least 1: their mean
-// luminances plus 0.05 each, the larger divided by the smaller. Both are as far from the eye as when
-// the marble rolls, and in fog.
+// luminances plus 0.05 each, the larger divided by the smaller. Both are as far from the eye as
+// when the marble rolls, and in fog.
 double marbleContrast(const Level& course);
 
 // Returns the least distance of a sky, 0xRRGGBB, from the clock, which turns from green to red: in
