@@ -245,17 +245,3 @@ Spot candyPattern(double x, double y) {
     return set(sweet ? striped : plain, srgb(0x9038a0), cell.toEdge,
                rounded(cell.toEdge, 11.0, 6.0));
 }
-
-Spot meadowPattern(double x, double y) {
-    const Cell cell = cellAt(x + halfColumn, y + halfRow, 4, 4, 0.0, 0.0, false);
-    const bool light = ((cell.column + cell.row) & 1) != 0;
-    const double blades = fractalNoise({tileWidth, tileLength, 32, 12}, x, y, 900);
-    const Colour grass = light ? srgb(0xb4e058) : srgb(0x68b840);
-    const VoronoiCell flower = voronoiCell({tileWidth, tileLength, 5, 4}, x, y, 0.9, 930);
-    const double from = std::sqrt(flower.dx * flower.dx + flower.dy * flower.dy);
-    const double petals = 4.4 + 1.1 * cosine(6.0 * angleOf(flower.dx, flower.dy)) - from;
-    const Colour bloom = lerp(srgb(0xffffff), srgb(0xffc820), smoothstep(2.6, 3.2, petals));
-    const double toEdge = flower.tone < 0.6 ? petals : -9.0;
-    return {lerp(grass * (0.75 + 0.5 * blades), bloom, smoothstep(-0.4, 0.4, toEdge)),
-            3.0 * blades + rounded(toEdge, 3.0, 2.5)};
-}

@@ -28,12 +28,11 @@ GroundPattern terracottaPattern; // bricks from rose to ochre
 GroundPattern sandPattern;       // raked rings around shells
 GroundPattern hexagonPattern;    // turquoise tiles in white joints
 GroundPattern scalePattern;      // overlapping round scales, lime to yellow
-GroundPattern moonPattern;       // large lilac slabs with small craters
+GroundPattern moonPattern;       // large lilac slabs with small pits
 GroundPattern circuitPattern;    // copper traces on mint
 GroundPattern lavaPattern;       // amber plates over a glow
 GroundPattern discoPattern;      // lit panels in many hues
 GroundPattern candyPattern;      // pink and white sweets
-GroundPattern meadowPattern;     // mown grass with flowers
 
 // Returns all mip levels, filtered in linear light. The top row is the far end of the tile: y grows
 // upwards, as in the bitmap files and in OpenGL.

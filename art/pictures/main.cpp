@@ -32,7 +32,7 @@ constexpr Ground grounds[] = {
     {"tiles", tilePattern},  {"snow", snowPattern},        {"terracotta", terracottaPattern},
     {"sand", sandPattern},   {"hexagons", hexagonPattern}, {"scales", scalePattern},
     {"moon", moonPattern},   {"circuit", circuitPattern},  {"lava", lavaPattern},
-    {"disco", discoPattern}, {"candy", candyPattern},      {"meadow", meadowPattern},
+    {"disco", discoPattern}, {"candy", candyPattern},
 };
 
 bool writeFont(const path& game) {
