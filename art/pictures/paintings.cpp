@@ -25,7 +25,7 @@ Sky daySky() {
             .cloudCover = 0.9,
             .sunlight = srgb(0xfff2d8) * 1.5,
             .skylight = srgb(0xa8c8ff) * 0.75,
-            .hazeLength = 660.0};
+            .hazeLength = 500.0};
 }
 
 Vector3 above(const Landscape& land, float x, float y, float height) {

@@ -22,7 +22,8 @@ double cloudShare(const Vector3& direction, double cover) {
 double glowIn(const Vector3& direction) {
     if (direction.y <= 0.0F) { return 0.0; }
     const double across = direction.x / direction.y / 0.52;
-    const double up = (direction.z / direction.y - 0.13) / 0.38;
+    const double rise = direction.z / direction.y - 0.13;
+    const double up = rise / (rise > 0.0 ? 0.38 : 0.62);
     return 1.0 - smoothstep(0.85, 1.5, std::sqrt(across * across + up * up));
 }
 

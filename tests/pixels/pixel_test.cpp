@@ -182,7 +182,7 @@ TEST_F(OnScreen, GroundsOfTheGameShowNoBandsAndKeepTheirHueFarAway) {
         EXPECT_NEAR(farther.red, far.red * share, 10);
         EXPECT_NEAR(farther.blue, far.blue * share, 10);
     }
-    EXPECT_EQ(grounds, 12);
+    EXPECT_EQ(grounds, 11);
 }
 
 TEST_F(OnScreen, FogGrowsToItsFullColourAtDepth1800) {
