@@ -29,9 +29,9 @@ damage() { # KIND FILE
     esac
 }
 
-# Leaves one course: the file itself, or the first one on the ground that the file belongs to.
+# Leaves one course: the file itself, or one that Up alone finishes, on the file's ground.
 chooseCourse() { # FILE
-    local course=maps/first_roll.lev
+    local course=maps/spires.lev
     case $1 in
     graphics/ground/*) sed -i "s,graphics/ground/[a-z]*,${1%_*}," "$damaged/$course" ;;
     maps/*.lev) course=$1 ;;
