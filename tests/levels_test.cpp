@@ -90,7 +90,6 @@ TEST_P(Course, EndsARecordedDriveToTheLastBit) {
 }
 
 TEST_P(Course, IsGood) {
-    EXPECT_GE(marbleContrast(level), 1.8);
     EXPECT_EQ(checkLevels({{GetParam()}}), exitOk);
 }
 
