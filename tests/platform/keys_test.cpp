@@ -33,7 +33,7 @@ const Row everyKey[] = {
 // The codes that are held while a key is.
 Codes heldWith(SDL_Scancode place) {
     keyState(place) = 1;
-    const Codes held = heldCodes();
+    Codes held = heldCodes();
     keyState(place) = 0;
     return held;
 }
