@@ -29,6 +29,7 @@ visitScreens() { # BINARY DATA_FOLDER PREFIX
     shoot "$3_best_times.png"
     # In the count-down, when the camera is at rest: later the clock changes all the time.
     press Escape Return
+    waitForClock 45
     waitUntil 60 isAtRest
     shoot "$3_level.png"
     press Escape Up Return
