@@ -24,6 +24,7 @@ visitScreens() { # BINARY DATA_FOLDER PREFIX
     press Escape
     shoot "$3_menu.png"
     press Down Down Return
+    press Down Down Down Left Left Left Left Left Left # no camera lag: the camera comes to rest soon
     shoot "$3_options.png"
     press Escape Down Return
     shoot "$3_best_times.png"
