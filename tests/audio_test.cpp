@@ -74,10 +74,6 @@ TEST_F(Music, StopsWithTheLevel) {
     machine.lines.clear();
     endPiece();
     EXPECT_EQ(music(), Lines{"close 3"} + started("sounds/drwho2.mid", 4));
-    machine.lines.clear();
-    send(WM_CLOSE);
-    EXPECT_EQ(music(), closed(4));
-    EXPECT_TRUE(machine.devices.empty() && !Game.musicPlaying);
 }
 
 TEST_F(Music, EndsDuringTheNameEntry) {

@@ -5,6 +5,7 @@
 #include <cctype>
 #include <filesystem>
 #include <fstream>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -42,11 +43,12 @@ struct Course : testing::TestWithParam<std::string> {
     }
 };
 
-std::string nameOf(const testing::TestParamInfo<std::string>& info) {
-    return std::filesystem::path(info.param).stem().string();
+std::string nameOf(const std::string& levelFile) {
+    return std::filesystem::path(levelFile).stem().string();
 }
 
-INSTANTIATE_TEST_SUITE_P(Shipped, Course, testing::ValuesIn(shippedLevels()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Shipped, Course, testing::ValuesIn(shippedLevels()),
+                         [](const auto& course) { return nameOf(course.param); });
 
 TEST_P(Course, IsDrivenToItsGoalAtAnyFrameRate) {
     const RunState start = runState();
@@ -70,8 +72,7 @@ Keys keysInLane(float lane) {
 
 TEST_P(Course, EndsARecordedDriveToTheLastBit) {
     const RunState start = runState();
-    const std::string keyFile =
-        GLORBIX_DRIVES_DIR "/" + std::filesystem::path(GetParam()).stem().string() + ".keys";
+    const std::string keyFile = GLORBIX_DRIVES_DIR "/" + nameOf(GetParam()) + ".keys";
     KeyFile keys;
     std::string error;
     ASSERT_TRUE(readKeyFile(keyFile, keys, error)) << error;
@@ -106,21 +107,19 @@ TEST_P(Course, EndsInAGateThatLetsAMarbleThrough) {
     EXPECT_LT(std::abs(drive.end.rolling.position.x), 30.0F);
 }
 
-RunState endOf(const PlayerSkill& skill, const RunState& start, const Guide& guide, unsigned seed) {
-    setRunState(start);
-    Player player(skill, guide, seed);
-    return driveToEnd(60, [&](float dt) { return player.keysFor(dt); }).end;
-}
-
 int finishesOf(const PlayerSkill& skill, int runs) {
     const RunState start = runState();
     const Guide guide(level, safeClearance);
     int finishes = 0;
+    std::set<float> clocks;
     for (int run = 1; run <= runs; ++run) {
-        finishes += endOf(skill, start, guide, static_cast<unsigned>(run)).done ? 1 : 0;
+        setRunState(start);
+        Player player(skill, guide, static_cast<unsigned>(run));
+        const RunState end = driveToEnd(60, [&](float dt) { return player.keysFor(dt); }).end;
+        finishes += end.done ? 1 : 0;
+        clocks.insert(end.clock);
     }
-    EXPECT_EQ(endOf(skill, start, guide, 7).clock, endOf(skill, start, guide, 7).clock);
-    EXPECT_NE(endOf(skill, start, guide, 7).clock, endOf(skill, start, guide, 8).clock);
+    EXPECT_GT(clocks.size(), 1U) << "every seed plays alike";
     return finishes;
 }
 

@@ -16,25 +16,14 @@ struct LevelRun : Story {
     static void putAtGoal() { marble.setPosition({0, 5800.5F, 0}); }
 };
 
-// The "-5" that moves from the marble to the clock, on level ground, with the camera settled and
-// the game paused.
-struct PenaltyLabel : Story {
-    PenaltyLabel() {
-        playLevel();
-        Game.cameraLag = 0;
-        Game.holdTime = 10;
-        marble.setPosition({0, 0, 0});
-        ticks(3, 0.5);
-        pressKey(VK_F12);
-        Game.penaltyPending = 1;
-    }
+using PenaltyLabel = Story;
 
-    static std::vector<Text> labels() {
-        std::vector<Text> found = textsDrawn();
-        std::erase_if(found, [](const Text& text) { return text.text != "-5"; });
-        return found;
-    }
-};
+// The "-5" that moves from the marble to the clock.
+std::vector<Text> labels() {
+    std::vector<Text> found = textsDrawn();
+    std::erase_if(found, [](const Text& text) { return text.text != "-5"; });
+    return found;
+}
 
 } // namespace
 
@@ -153,6 +142,13 @@ TEST_F(LevelRun, EndsTheProgramWhenALevelCannotBeLoaded) {
 
 TEST_F(PenaltyLabel, GrowsFromTheMarbleToTheClockAndTakesFourSeconds) {
     constexpr std::array<double, 4> red = {1, 0, 0, 1};
+    playLevel();
+    Game.cameraLag = 0; // it settles
+    Game.holdTime = 10;
+    marble.setPosition({0, 0, 0});
+    ticks(3, 0.5);
+    pressKey(VK_F12);
+    Game.penaltyPending = 1;
     Game.clock = 3;
     const Text expected[] = {{"-5", 326.667, 293.551, 0.3, red}, {"-5", 320, 251.615, 0.4, red}};
     for (const Text& text : expected) {

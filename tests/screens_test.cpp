@@ -229,7 +229,9 @@ TEST_F(Screens, EverythingIsDrawnInOrderAndInItsState) {
         tick(0.1);
     }
     Game.screen = Screen::BestTimes;
-    enableEverything();
+    for (const int what : {GL_DEPTH_TEST, GL_CULL_FACE, GL_TEXTURE_2D, GL_FOG, GL_BLEND}) {
+        glEnable(static_cast<GLenum>(what)); // the drawing must switch it off itself
+    }
     tick(0.1);
     EXPECT_EQ(painted(), (Lines{"picture", "quads" + alpha, text, "quads" + alpha, text}));
     EXPECT_EQ(drawn().back(), GlCall("SwapBuffers"));

@@ -1,6 +1,5 @@
 #include "fakes/trace.h"
 
-#include <GL/gl.h>
 #include <algorithm>
 #include <cmath>
 #include <ostream>
@@ -23,18 +22,15 @@ void passTime(double seconds) {
     machine.counter += std::llround(seconds * static_cast<double>(counterFrequency));
 }
 
-void failNext(std::string_view function, int skip) {
-    auto& failures = machine.failures[std::string(function)];
-    failures.insert(failures.end(), static_cast<std::size_t>(skip), 0);
-    failures.push_back(1);
+void failNext(std::string_view function) {
+    machine.failures.emplace(function);
 }
 
 bool fails(std::string_view function) {
     const auto found = machine.failures.find(function);
-    if (found == machine.failures.end() || found->second.empty()) { return false; }
-    const int failing = found->second.front();
-    found->second.pop_front();
-    return failing != 0;
+    if (found == machine.failures.end()) { return false; }
+    machine.failures.erase(found);
+    return true;
 }
 
 Lines linesOf(std::string_view function) {
@@ -72,12 +68,6 @@ std::ptrdiff_t count(const GlCall& call) {
 
 std::ptrdiff_t count(std::string_view name) {
     return std::ssize(only({name}));
-}
-
-void enableEverything() {
-    for (const int what : {GL_DEPTH_TEST, GL_CULL_FACE, GL_TEXTURE_2D, GL_FOG, GL_BLEND}) {
-        glEnable(static_cast<GLenum>(what));
-    }
 }
 
 Lines painted() {

@@ -64,7 +64,7 @@ struct MachineRecord {
     MCIDEVICEID lastDevice = 0;
     MCIDEVICEID playingDevice = 0; // 0: none
 
-    std::map<std::string, std::deque<int>, std::less<>> failures; // see failNext
+    std::set<std::string, std::less<>> failures; // see failNext
     Lines lines;   // the calls, a line each: the function, then the values that matter
     GlCalls drawn; // OpenGL and SwapBuffers, since the last tick began
     std::map<std::string, std::string> glState; // what is set: see fakes/gl.cpp
@@ -84,9 +84,8 @@ inline void hold(int key) {
 }
 void passTime(double seconds);
 
-// The function's next call fails, or the one after `skip` more. MCI commands are named MCI_OPEN,
-// MCI_STATUS, MCI_PLAY.
-void failNext(std::string_view function, int skip = 0);
+// The function's next call fails. MCI commands are named MCI_OPEN, MCI_STATUS, MCI_PLAY.
+void failNext(std::string_view function);
 
 // For the fakes: returns whether this call fails.
 bool fails(std::string_view function);
@@ -115,9 +114,6 @@ std::ptrdiff_t count(std::string_view name);
 // The drawings of the last frame, each as its shape and the state that it was drawn in, such as
 // "triangles, depth greater, fog linear 0.0025 0.1 1 1 1 1 nicest". Equal ones in a row count once.
 Lines painted();
-
-// What a drawing must switch off itself is on afterwards.
-void enableEverything();
 
 // A line of text on the screen, put together from glyphs of the test font (tests/fakes/play.h).
 struct Text {
