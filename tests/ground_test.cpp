@@ -22,21 +22,6 @@ struct View {
     unsigned digest;      // of their places in the order of drawing
 };
 
-// A point in NDC and inverse depth.
-Vector3 onScreen(const View& view, const Vector3& point) {
-    ViewFrame frame;
-    frame.set(view.eye, view.pitch, view.yaw, view.yaw);
-    const Vector3 q = frame.rotation * (point - view.eye);
-    return {float(q.x * 1.25 / q.z), float(q.y * 1.666667 / q.z), float(1.0 / q.z)};
-}
-
-int draw(const View& view) {
-    ViewFrame frame;
-    frame.set(view.eye, view.pitch, view.yaw, view.yaw);
-    machine.drawn.clear();
-    return level.drawGround(frame, view.farSight, true);
-}
-
 // Returns a number that depends on the cells drawn and on their order. The first corner of each
 // pair of triangles tells which cell it is; there are 50 to a row.
 unsigned digestOfCells() {
@@ -70,11 +55,6 @@ TEST_F(Ground, CatchesInHolesButNotOnMounds) {
     }
 }
 
-TEST_F(Ground, KeepsASmallHoleBesideEnormousOnes) {
-    make({{0, 0, 64, 1e8F}, {0, 0, 64, 0.5F}, {0, 0, 64, -1e8F}});
-    EXPECT_EQ(level.heightAt(0, 0), 0.5F);
-}
-
 TEST_F(Ground, HasTheFieldsExactHeightAtEveryVertex) {
     std::vector<Hole> holes = {{0, 0, 64, 1e8F}, {3, -5, 0.1F, -1e8F}};
     for (int i = 0; i < 41; ++i) {
@@ -85,6 +65,8 @@ TEST_F(Ground, HasTheFieldsExactHeightAtEveryVertex) {
     for (const Vector3& point : std::span(level.groundPoints.get(), groundVertices)) {
         ASSERT_EQ(point.z, level.heightAt(point.x, point.y)) << point.x << ' ' << point.y;
     }
+    make({{0, 0, 64, 1e8F}, {0, 0, 64, 0.5F}, {0, 0, 64, -1e8F}});
+    EXPECT_EQ(level.heightAt(0, 0), 0.5F); // a small hole beside enormous ones
 }
 
 TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
@@ -92,10 +74,8 @@ TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
         {"settled", {0, -400, -350}, -0.8519663F, 0, false, 2637, 2099976495U},
         {"far sight", {0, -400, -350}, -1.2F, 0, true, 9721, 768954367U},
         {"to the horizon", {0, -400, -350}, -1.2F, 0, false, 2959, 1625546177U},
-        {"turned", {-300, -1000, -350}, -0.9F, 0.12F, false, 2865, 4253058177U},
         {"turned far", {-600, -1000, -350}, -0.9F, 0.6F, false, 2138, 2392473862U},
         {"gliding in", {0, -8800, -6000}, -0.4F, 0, false, 2989, 1992891916U},
-        {"before the start", {100, -6500, -350}, -0.85F, 0, false, 2235, 3250068838U},
         {"at the end", {0, 5900, -350}, -0.85F, 0, false, 30, 2532102151U},
         {"beyond the left edge", {-1000, 0, -350}, -0.85F, 0, false, 1140, 2681769415U},
         {"beyond the right edge", {900, 0, -350}, -0.85F, 0, false, 1282, 383063322U},
@@ -103,7 +83,9 @@ TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
     make({{100, 0, 60, 100}, {-200, 400, 90, -80}, {0, -5600, 40, 60}});
     for (const View& view : views) {
         SCOPED_TRACE(view.name);
-        EXPECT_EQ(draw(view), view.cells * 2);
+        viewFrame.set(view.eye, view.pitch, view.yaw, view.yaw);
+        machine.drawn.clear();
+        EXPECT_EQ(level.drawGround(viewFrame, view.farSight, true), view.cells * 2);
         EXPECT_EQ(digestOfCells(), view.digest);
         const GlCalls corners = only({"glTexCoord2f", "glVertex3f"});
         for (std::size_t i = 0; i < corners.size(); i += 2) { // the texture is fixed to the ground
@@ -111,8 +93,9 @@ TEST_F(Ground, IsDrawnCellByCellInFourQuadrants) {
                          row = corners[i].numbers[1] * 4 + 200;
             const Vector3 point(float(column - 25) * 30, float(row - 200) * 30,
                                 level.heightAt(float(column - 25) * 30, float(row - 200) * 30));
-            const auto [x, y, inverseDepth] = onScreen(view, point);
-            ASSERT_EQ(corners[i + 1], GlCall("glVertex3f", x, y, inverseDepth));
+            const Vector3 q = viewFrame.rotation * (point - view.eye);
+            ASSERT_EQ(corners[i + 1],
+                      GlCall("glVertex3f", q.x * 1.25 / q.z, q.y * 1.666667 / q.z, 1 / q.z));
         }
     }
 }

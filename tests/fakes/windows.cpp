@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <cstring>
 #include <sstream>
-#include <utility>
 
 #include "fakes/play.h"
 #include "fakes/trace.h"
@@ -25,10 +24,6 @@ Answer noted(Answer answer, const char* function, const Values&... values) {
     ((line << ' ' << values), ...);
     machine.lines.push_back(line.str());
     return answer;
-}
-
-const char* nameOf(HWND window) {
-    return window == theWindow ? "window" : window == focusWindow ? "focus" : "nobody";
 }
 
 } // namespace
@@ -106,7 +101,6 @@ LRESULT DispatchMessageA(const MSG* message) {
 
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     EXPECT_EQ(window, theWindow);
-    if (fails("PostMessageA")) { return FALSE; }
     machine.queue.push_back(MSG{window, message, wParam, lParam, 0, {0, 0}});
     return noted(TRUE, "PostMessageA", message, wParam);
 }
@@ -121,7 +115,7 @@ LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
 }
 
 UINT_PTR SetTimer(HWND, UINT_PTR timer, UINT period, TIMERPROC) {
-    return noted(fails("SetTimer") ? 0 : timer, "SetTimer", timer, period);
+    return noted(timer, "SetTimer", timer, period);
 }
 
 SHORT GetAsyncKeyState(int key) {
@@ -131,14 +125,17 @@ SHORT GetAsyncKeyState(int key) {
 int MessageBoxA(HWND owner, const char* text, const char* caption, UINT type) {
     const char* icon = type == MB_ICONHAND ? ", stop" : type == MB_ICONINFORMATION ? ", info" : "";
     EXPECT_TRUE(type == MB_OK || *icon != '\0') << type;
-    return noted(1, "MessageBoxA", text, "|", caption, "|", std::string(nameOf(owner)) + icon);
+    const std::string name = owner == theWindow     ? "window"
+                             : owner == focusWindow ? "focus"
+                                                    : "nobody";
+    return noted(1, "MessageBoxA", text, "|", caption, "|", name + icon);
 }
 
 // Display settings
 
 BOOL EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode) {
     EXPECT_TRUE(device == nullptr && mode->dmSize == sizeof(DEVMODEA));
-    if (fails("EnumDisplaySettingsA") || index >= machine.modes.size()) { return FALSE; }
+    if (index >= machine.modes.size()) { return FALSE; }
     *mode = machine.modes[index];
     return TRUE;
 }
@@ -146,7 +143,7 @@ BOOL EnumDisplaySettingsA(const char* device, DWORD index, DEVMODEA* mode) {
 LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
     EXPECT_EQ(flags, 0U);
     if (mode == nullptr) { return noted(DISP_CHANGE_SUCCESSFUL, "ChangeDisplaySettingsA restore"); }
-    machine.switchResults.push_back(fails("ChangeDisplaySettingsA") ? -1 : 0);
+    machine.switchResults.push_back(0);
     const LONG result = machine.switchResults.front();
     machine.switchResults.pop_front();
     return noted(result, "ChangeDisplaySettingsA", mode->dmBitsPerPel, mode->dmPelsWidth,
@@ -157,7 +154,7 @@ LONG ChangeDisplaySettingsA(DEVMODEA* mode, DWORD flags) {
 
 HDC GetDC(HWND window) {
     EXPECT_EQ(window, theWindow);
-    return noted(fails("GetDC") ? nullptr : theSurface, "GetDC");
+    return noted(theSurface, "GetDC");
 }
 int ReleaseDC(HWND window, HDC deviceContext) {
     EXPECT_TRUE(window == theWindow && deviceContext == theSurface);
@@ -183,18 +180,18 @@ BOOL SetPixelFormat(HDC, int format, const PIXELFORMATDESCRIPTOR*) {
 }
 
 BOOL SwapBuffers(HDC deviceContext) {
-    EXPECT_TRUE(deviceContext == theSurface || deviceContext == nullptr); // null: GetDC failed
+    EXPECT_EQ(deviceContext, theSurface);
     machine.drawn.emplace_back("SwapBuffers");
     return TRUE;
 }
 
 HGLRC wglCreateContext(HDC) {
-    machine.context = handle<HGLRC>(fails("wglCreateContext") ? 0 : 0x400);
+    machine.context = handle<HGLRC>(0x400);
     return noted(machine.context, "wglCreateContext");
 }
 BOOL wglMakeCurrent(HDC, HGLRC context) {
     EXPECT_EQ(context, machine.context);
-    return noted(!fails("wglMakeCurrent"), "wglMakeCurrent");
+    return noted(TRUE, "wglMakeCurrent");
 }
 BOOL wglDeleteContext(HGLRC context) {
     EXPECT_EQ(context, machine.context);
@@ -206,13 +203,7 @@ BOOL wglDeleteContext(HGLRC context) {
 
 BOOL PlaySoundA(const char* fileName, HMODULE module, DWORD flags) {
     EXPECT_TRUE(module == nullptr && flags == 0x20001);
-    return noted(!fails("PlaySoundA"), "PlaySoundA", fileName);
-}
-
-// As the system does when a piece is closed while it plays.
-void abortMusic() {
-    const auto device = static_cast<LPARAM>(std::exchange(machine.playingDevice, 0U));
-    machine.queue.push_back(MSG{theWindow, MM_MCINOTIFY, MCI_NOTIFY_ABORTED, device, 0, {0, 0}});
+    return noted(TRUE, "PlaySoundA", fileName);
 }
 
 MCIERROR mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWORD_PTR parameters) {
@@ -220,7 +211,15 @@ MCIERROR mciSendCommandA(MCIDEVICEID device, UINT command, DWORD_PTR flags, DWOR
     EXPECT_TRUE(isOpen || command == MCI_OPEN || command == MCI_CLOSE) << device;
     if (command == MCI_CLOSE) {
         machine.devices.erase(device);
-        if (isOpen && device == machine.playingDevice) { abortMusic(); }
+        if (isOpen && device == machine.playingDevice) { // the system says so
+            machine.playingDevice = 0;
+            machine.queue.push_back(MSG{theWindow,
+                                        MM_MCINOTIFY,
+                                        MCI_NOTIFY_ABORTED,
+                                        static_cast<LPARAM>(device),
+                                        0,
+                                        {0, 0}});
+        }
         return noted(isOpen ? 0U : 257U, isOpen ? "MCI close" : "MCI close stale", device);
     }
     if (command == MCI_OPEN) {
@@ -262,16 +261,14 @@ HANDLE CreateFileA(const char* fileName, DWORD access, DWORD share, SECURITY_ATT
     EXPECT_TRUE(access == GENERIC_READ && share == 0 && creation == OPEN_EXISTING &&
                 attributes == FILE_ATTRIBUTE_NORMAL);
     noted(0, "CreateFileA", fileName);
-    std::FILE* file = fails("CreateFileA") ? nullptr : std::fopen(fileName, "rb");
+    std::FILE* file = std::fopen(fileName, "rb");
     machine.openFiles += file != nullptr ? 1 : 0;
     return file != nullptr ? file : INVALID_HANDLE_VALUE;
 }
 
 BOOL ReadFile(HANDLE file, void* buffer, DWORD wanted, DWORD* got, OVERLAPPED*) {
-    const bool failing = fails("ReadFile");
-    *got =
-        failing ? 0 : static_cast<DWORD>(std::fread(buffer, 1, wanted, static_cast<FILE*>(file)));
-    return !failing;
+    *got = static_cast<DWORD>(std::fread(buffer, 1, wanted, static_cast<std::FILE*>(file)));
+    return TRUE;
 }
 
 BOOL CloseHandle(HANDLE file) {
