@@ -70,7 +70,7 @@ TEST_F(MarbleRolls, BackToAClearSpotWhenAHoleCatchesIt) {
     EXPECT_EQ(marble.velocity.length(), 0);
     EXPECT_TRUE(Game.holdTime == 1 && Game.penaltyPending && Game.clock == 0);
 
-    hold(VK_UP);
+    machine.keysHeld = {VK_UP};
     Game.clock = 30;
     ticks(9, 0.1); // still held
     EXPECT_EQ(marble.getPosition().y, -240);

@@ -32,7 +32,7 @@ TEST_F(LevelRun, BeginsWithALongCountDown) {
     EXPECT_EQ(Game.clock, 52);
     expectVector(marble.getPosition(), 0, -5800, -30);
     expectVector(cameraPosition, 0, -8800, -6030);
-    hold(VK_UP);
+    machine.keysHeld = {VK_UP};
     ticks(55, 0.125);
     EXPECT_EQ(Game.clock, 45.125F);
     EXPECT_EQ(sounds(), Lines{});
@@ -51,7 +51,7 @@ TEST_F(LevelRun, LeadsToTheNextLevelASecondAfterTheGoal) {
     putAtGoal();
     tick(0.25);
     EXPECT_EQ(Game.levelTimes[0], 44.75F);
-    hold(VK_UP);
+    machine.keysHeld = {VK_UP};
     ticks(4, 0.25);
     EXPECT_EQ(Game.levelNumber, 1);
     EXPECT_TRUE(Game.levelTimes[0] == 44.75F && marble.getPosition().y == 5800.5F);
@@ -124,7 +124,7 @@ TEST_F(LevelRun, WaitsForTheMenuToClose) {
 
 TEST_F(LevelRun, EndsTheProgramWhenALevelCannotBeLoaded) {
     writeFile("maps/2.map", "marblecolor= 0x00FF00 holecount= 1 .data 0 0 9 9 .end oops");
-    hold(VK_SHIFT);
+    machine.keysHeld = {VK_SHIFT};
     ticks(8, 1); // the marble rolls
     machine.lines.clear();
     pressKey(VK_F1);

@@ -64,7 +64,7 @@ struct MachineRecord {
     MCIDEVICEID lastDevice = 0;
     MCIDEVICEID playingDevice = 0; // 0: none
 
-    std::set<std::string, std::less<>> failures; // see failNext
+    std::set<std::string> failures; // see failNext
     Lines lines;   // the calls, a line each: the function, then the values that matter
     GlCalls drawn; // OpenGL and SwapBuffers, since the last tick began
     std::map<std::string, std::string> glState; // what is set: see fakes/gl.cpp
@@ -79,9 +79,6 @@ extern const HWND theWindow;
 extern const HWND focusWindow; // has the focus before the game has a window
 extern const HDC theSurface;
 
-inline void hold(int key) {
-    machine.keysHeld.insert(key);
-}
 void passTime(double seconds);
 
 // The function's next call fails. MCI commands are named MCI_OPEN, MCI_STATUS, MCI_PLAY.

@@ -32,16 +32,6 @@ bool isSolid(int x, int y) {
     return (x / 3 + y / 3) % 2 == 0;
 }
 
-// The smaller pictures of the font are solid, and the ground has one colour in all mip levels.
-void writePictures() {
-    writeGameFiles();
-    writeMipChain("graphics/font/font", 256, 9, 0xFFFFFF);
-    writeBitmap("graphics/font/font_0.bmp", 256, 256,
-                [](int x, int y) { return isSolid(x, y) ? 0xFFFFFFU : 0U; });
-    writeMipChain("ground", 128, 8, 0x28C85A);
-    writeBitmap("graphics/title.bmp", 640, 480, titleAt);
-}
-
 // One window on the real machine for all tests.
 class OnScreen : public testing::Test {
 protected:
@@ -50,7 +40,12 @@ protected:
         setenv("SDL_VIDEODRIVER", "offscreen", 1);
         setenv("SDL_AUDIODRIVER", "dummy", 1);
         static const EmptyFolder folder;
-        writePictures();
+        writeGameFiles();
+        writeMipChain("graphics/font/font", 256, 9, 0xFFFFFF); // the smaller pictures are solid
+        writeBitmap("graphics/font/font_0.bmp", 256, 256,
+                    [](int x, int y) { return isSolid(x, y) ? 0xFFFFFFU : 0U; });
+        writeMipChain("ground", 128, 8, 0x28C85A); // one colour in all mip levels
+        writeBitmap("graphics/title.bmp", 640, 480, titleAt);
         WNDCLASSA windowClass = {};
         windowClass.lpfnWndProc = GameWindowProc;
         windowClass.lpszClassName = "Glorbix";
