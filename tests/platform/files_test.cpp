@@ -1,6 +1,7 @@
 // The clock, the files, and the folder that the game runs in.
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 #include <sys/stat.h>
 
@@ -22,10 +23,6 @@ TEST(Clock, GoesOnBetweenAnyTwoCallsAtItsFrequency) {
     EXPECT_LT(last.QuadPart - first.QuadPart, frequency.QuadPart * 10);
     QueryPerformanceCounter(&first);
     EXPECT_GT(first.QuadPart, last.QuadPart);
-    SDL_Delay(1100); // the program is stopped
-    QueryPerformanceCounter(&last);
-    EXPECT_LT(last.QuadPart - first.QuadPart, frequency.QuadPart / 100);
-    EXPECT_GT(last.QuadPart, first.QuadPart);
 }
 
 // Installed data and a player's home in a new folder; the test may leave the current folder.
@@ -91,23 +88,21 @@ TEST_F(Folders, HoldFilesThatAreReadToTheirEndOrNotAtAll) {
 TEST_F(Folders, HoldFilesThatAreReadAsAWholeOrRefusedWithTheReason) {
     std::ofstream(root / "file") << std::string(70000, 'a'); // more than one block
     mkfifo((root / "pipe").c_str(), 0600);
-    const struct {
-        std::string name;
-        std::size_t limit, size;
-        const char* why;
-    } cases[] = {{root / "file", 70000, 70000, ""},
-                 {root / "file", 69999, 69999, "it has more than 69999 bytes"},
-                 {root, 9, 0, "it is a folder"},
-                 {root / "pipe", 9, 0, "it is not a regular file"},
-                 {"/dev/zero", 9, 0, "it is not a regular file"},
-                 {"/proc/self/mem", 9, 0, "Input/output error"},
-                 {"/proc/self/stat", 5, 5, "it has more than 5 bytes"}}; // its size is said to be 0
-    for (const auto& c : cases) {
+    // the limit, the bytes that are read, and why not all
+    const std::tuple<std::string, std::size_t, std::size_t, std::string> cases[] = {
+        {root / "file", 70000, 70000, ""},
+        {root / "file", 69999, 69999, "it has more than 69999 bytes"},
+        {root, 9, 0, "it is a folder"},
+        {root / "pipe", 9, 0, "it is not a regular file"},
+        {"/dev/zero", 9, 0, "it is not a regular file"},
+        {"/proc/self/mem", 9, 0, "Input/output error"},
+        {"/proc/self/stat", 5, 5, "it has more than 5 bytes"}}; // its size is said to be 0
+    for (const auto& [name, limit, size, reason] : cases) {
         std::vector<std::uint8_t> bytes(3);
         why.clear();
-        EXPECT_EQ(readRegularFile(c.name, c.limit, bytes, why), *c.why == '\0') << c.name;
-        EXPECT_EQ(why, c.why) << c.name;
-        EXPECT_EQ(bytes.size(), c.size) << c.name;
+        EXPECT_EQ(readRegularFile(name, limit, bytes, why), reason.empty()) << name;
+        EXPECT_EQ(why, reason) << name;
+        EXPECT_EQ(bytes.size(), size) << name;
     }
 }
 
@@ -118,13 +113,12 @@ TEST_F(Folders, OfThePlayerHaveLinksToTheData) {
     EXPECT_EQ(fs::current_path(), own);
     EXPECT_EQ(seen("maps"), data / "maps");
     EXPECT_EQ(seen("sounds"), data / "sounds");
-    fs::current_path(root);
-    setenv("XDG_DATA_HOME", "data", 1); // not valid: it must be absolute
-    complaintOnEntering();
-    EXPECT_EQ(fs::current_path(), own);
-    setenv("XDG_DATA_HOME", (root / "data").c_str(), 1);
-    complaintOnEntering();
-    EXPECT_EQ(fs::current_path(), root / "data/glorbix");
+    for (const auto& [home, entered] : // a relative one is not valid
+         {std::pair(fs::path("data"), own), {root / "data", root / "data/glorbix"}}) {
+        setenv("XDG_DATA_HOME", home.c_str(), 1);
+        complaintOnEntering();
+        EXPECT_EQ(fs::current_path(), entered);
+    }
 }
 
 TEST_F(Folders, HaveRivalsForANewPlayerAndLeaveBestTimesAlone) {
@@ -148,23 +142,18 @@ TEST_F(Folders, HaveRivalsForANewPlayerAndLeaveBestTimesAlone) {
 }
 
 TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {
+    fs::create_directories(own / "mine");
+    fs::create_directory_symlink("./mine", own / "graphics");
+    fs::create_directory(own / "maps");
     complaintOnEntering();
-    fs::create_directories(root / "mine/graphics");
-    fs::create_directory(own / "mine");
-    for (const char* link : {"graphics", "maps", "sounds"}) {
-        fs::remove(own / link);
-    }
-    fs::create_directory_symlink(root / "mine/graphics", own / "graphics");
-    fs::create_directory(own / "sounds");
-    fs::create_directory_symlink("./mine", own / "maps");
     fs::rename(data, root / "moved"); // installed a second time, elsewhere
     data = root / "moved";
     fs::current_path(root);
     EXPECT_EQ(complaintOnEntering(), "");
-    EXPECT_EQ(seen("maps"), own / "mine");
-    EXPECT_EQ(seen("graphics"), root / "mine/graphics");
-    EXPECT_EQ(seen("sounds"), own / "sounds");
-    fs::remove_all(root / "mine");
+    EXPECT_EQ(seen("maps"), own / "maps");
+    EXPECT_EQ(seen("graphics"), own / "mine");
+    EXPECT_EQ(seen("sounds"), data / "sounds");
+    fs::remove(own / "mine");
     EXPECT_NE(complaintOnEntering().find("graphics led nowhere"), std::string::npos);
     EXPECT_EQ(seen("graphics"), data / "graphics");
 }
@@ -172,15 +161,11 @@ TEST_F(Folders, FollowAnotherInstallationButLeaveThePlayersOwnAlone) {
 TEST_F(Folders, ServeForAWhileWherePlayersCannotHaveTheirOwn) {
     setenv("XDG_DATA_HOME", "/proc/self/mem", 1); // no folder
     std::ofstream(data / "rivals.dat") << "165 IDA ";
-    for (const fs::path& place : {root, fs::path("/dev/shm")}) {
-        setenv("TMPDIR", place == root ? place.c_str() : "/proc/self/mem", 1);
-        why.clear();
-        complaintOnEntering();
-        EXPECT_NE(why.find("Best times will not be saved: "), std::string::npos) << why;
-        EXPECT_EQ(fs::current_path().parent_path(), place);
-        EXPECT_TRUE(fs::exists("maps/maplist.dat") && fs::file_size("highScore.dat") == 8);
-    }
-    EXPECT_EQ(std::distance(fs::directory_iterator(root), {}), 1) << "the first one is removed";
+    setenv("TMPDIR", "/proc", 1); // where nothing can be made
+    complaintOnEntering();
+    EXPECT_NE(why.find("Best times will not be saved: "), std::string::npos) << why;
+    EXPECT_EQ(fs::current_path().parent_path(), "/dev/shm");
+    EXPECT_TRUE(fs::exists("maps/maplist.dat") && fs::file_size("highScore.dat") == 8);
     unsetenv("TMPDIR");
     fs::rename(data / "rivals.dat", data / "highScore.dat");
     complaintOnEntering();

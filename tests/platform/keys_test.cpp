@@ -1,4 +1,6 @@
 // Every key: the message that it sends, and the state that the game asks for.
+#include <tuple>
+
 #include "platform/sdl_machine.h"
 
 namespace {
@@ -30,14 +32,6 @@ const Row everyKey[] = {
     // left Control, Shift, Alt and logo; the same on the right
     {{17, 16, 18, 91, 17, 16, 18, 92}, SDL_SCANCODE_LCTRL}};
 
-// The codes that are held while a key is.
-Codes heldWith(SDL_Scancode place) {
-    keyState(place) = 1;
-    Codes held = heldCodes();
-    keyState(place) = 0;
-    return held;
-}
-
 struct Keys : OnSdl {};
 
 TEST_F(Keys, HaveOneCodeInMessagesAndInTheirState) {
@@ -45,7 +39,9 @@ TEST_F(Keys, HaveOneCodeInMessagesAndInTheirState) {
         SDL_SetModState(static_cast<SDL_Keymod>(row.modifiers));
         auto place = row.first;
         for (const int code : row.codes) {
-            EXPECT_EQ(heldWith(place), Codes{code});
+            keyState(place) = 1;
+            EXPECT_EQ(heldCodes(), Codes{code});
+            keyState(place) = 0;
             pushKey(place, row.modifiers);
             EXPECT_EQ(pressedNow(), Codes{code});
             place = static_cast<SDL_Scancode>(place + 1);
@@ -56,24 +52,20 @@ TEST_F(Keys, HaveOneCodeInMessagesAndInTheirState) {
 }
 
 TEST_F(Keys, GoByTheirLabelsForLettersAndByTheirPlacesForTheRest) {
-    const struct {
-        const char* what;
-        SDL_Scancode place;
-        SDL_Keycode label;
-        Codes codes;
-    } cases[] = {{"A on a French keyboard", SDL_SCANCODE_Q, SDLK_a, {'A'}},
-                 {"Z on a German keyboard", SDL_SCANCODE_Y, SDLK_z, {'Z'}},
-                 {"comma on a French keyboard", SDL_SCANCODE_M, SDLK_COMMA, {188}},
-                 {"its 1, labelled &", SDL_SCANCODE_1, SDLK_AMPERSAND, {'1'}},
-                 {"period on a Dvorak keyboard", SDL_SCANCODE_E, SDLK_PERIOD, {190}},
-                 {"Cyrillic, in the place of A", SDL_SCANCODE_A, 0x444, {'A'}},
-                 {"an accented letter beside L", SDL_SCANCODE_SEMICOLON, 0xE9, {186}},
-                 {"no letter in the place of one", SDL_SCANCODE_B, SDLK_MUTE, {}}};
-    for (const auto& c : cases) {
-        SDL_Event event = keyEvent(c.place);
-        event.key.keysym.sym = c.label;
+    const std::tuple<const char*, SDL_Scancode, SDL_Keycode, Codes> cases[] = {
+        {"A on a French keyboard", SDL_SCANCODE_Q, SDLK_a, {'A'}},
+        {"Z on a German keyboard", SDL_SCANCODE_Y, SDLK_z, {'Z'}},
+        {"comma on a French keyboard", SDL_SCANCODE_M, SDLK_COMMA, {188}},
+        {"its 1, labelled &", SDL_SCANCODE_1, SDLK_AMPERSAND, {'1'}},
+        {"period on a Dvorak keyboard", SDL_SCANCODE_E, SDLK_PERIOD, {190}},
+        {"Cyrillic, in the place of A", SDL_SCANCODE_A, 0x444, {'A'}},
+        {"an accented letter beside L", SDL_SCANCODE_SEMICOLON, 0xE9, {186}},
+        {"no letter in the place of one", SDL_SCANCODE_B, SDLK_MUTE, {}}};
+    for (const auto& [what, place, label, codes] : cases) {
+        SDL_Event event = keyEvent(place);
+        event.key.keysym.sym = label;
         push(event);
-        EXPECT_EQ(pressedNow(), c.codes) << c.what;
+        EXPECT_EQ(pressedNow(), codes) << what;
     }
 }
 

@@ -3,6 +3,7 @@
 #include "platform/sdl/message_box.h"
 
 #include <ctime>
+#include <tuple>
 
 #include "platform/sdl/box_text.h"
 #include "platform/sdl_machine.h"
@@ -95,10 +96,8 @@ TEST_F(Boxes, LookAsTheyDidBefore) {
 }
 
 TEST_F(Boxes, AreAsLargeAsTheDisplayAllows) {
-    const struct {
-        SDL_Rect room;
-        int scale, most; // the scale of short texts; the width of long ones
-    } cases[] = {
+    // the scale of short texts; the width of long ones
+    const std::tuple<SDL_Rect, int, int> cases[] = {
         {{0, 0, 640, 480}, 2, 592}, {{0, 0, 1920, 1080}, 3, 1068}, {{0, 0, 3840, 2160}, 6, 2136}};
     for (const auto& [room, scale, most] : cases) {
         roomOnDesktop = room;

@@ -19,14 +19,16 @@ struct Messages : OnSdl {
         return static_cast<DWORD>(stoppedClock.emplace(stoppedClock.value_or(0) + milliseconds));
     }
 
-    static Numbers timersAfter(Uint64 milliseconds) {
-        passTime(milliseconds);
-        Numbers timers;
-        for (const MSG& message : messagesNow()) {
-            EXPECT_EQ(message.message, WM_TIMER);
-            timers.push_back(static_cast<UINT>(message.wParam));
+    // The timers whose messages come after each of these times.
+    static void expectTimers(const std::vector<std::pair<Uint64, Numbers>>& expected) {
+        for (const auto& [milliseconds, numbers] : expected) {
+            passTime(milliseconds);
+            Numbers timers;
+            for (const MSG& message : messagesNow()) {
+                timers.push_back(static_cast<UINT>(message.wParam));
+            }
+            EXPECT_EQ(timers, numbers);
         }
-        return timers;
     }
 };
 
@@ -55,21 +57,14 @@ TEST_F(Messages, ComeOutPostedFirstThenQuitInputPaintAndTimers) {
 TEST_F(Messages, OfTimersComeAtTheirPeriodInTheOrderOfTheirDueTimes) {
     SetTimer(window, 2, 30, nullptr);
     SetTimer(window, 1, 20, nullptr);
-    const std::pair<Uint64, Numbers> both[] = {{19, {}}, {1, {1}}, {0, {}}, {45, {2, 1}},
-                                               {14, {}}, {1, {1}}, {9, {}}, {1, {2}}};
-    for (const auto& [time, timers] : both) {
-        EXPECT_EQ(timersAfter(time), timers);
-    }
+    expectTimers(
+        {{19, {}}, {1, {1}}, {0, {}}, {45, {2, 1}}, {14, {}}, {1, {1}}, {9, {}}, {1, {2}}});
     SetTimer(window, 2, 0, nullptr); // no timer is faster than every 10 milliseconds
     SetTimer(window, 1, 95, nullptr);
-    const std::pair<Uint64, Numbers> replaced[] = {
-        {9, {}}, {1, {2}}, {10, {2}}, {74, {2}}, {1, {1}}};
-    for (const auto& [time, timers] : replaced) {
-        EXPECT_EQ(timersAfter(time), timers);
-    }
+    expectTimers({{9, {}}, {1, {2}}, {10, {2}}, {74, {2}}, {1, {1}}});
     static UINT_PTR calledFor = 0;
     SetTimer(window, 1, 10, [](HWND, UINT, UINT_PTR timer, DWORD) { calledFor = timer; });
-    timersAfter(10);
+    expectTimers({{10, {2, 1}}});
     EXPECT_EQ(calledFor, 1U) << "with a procedure of its own";
     EXPECT_EQ(SetTimer(window, 900, never, nullptr), 900U);
     EXPECT_GT(SetTimer(nullptr, 2, never, nullptr), 900U) << "without a window: a new number";

@@ -2,8 +2,6 @@
 // events, and a clock that can be stopped.
 #pragma once
 
-#include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -30,8 +28,7 @@ inline int refreshRate = 0;                   // of the display; 0: not known
 inline Uint32 moreFlags = 0;                  // that every window has
 inline bool hasWindowManager = true;          // which makes a window as large as the screen
 inline int framesShown = 0;
-inline double clockJump = 0.0; // seconds
-inline int contextsDeleted = 0;
+inline Uint64 clockJump = 0; // backwards, in counts
 inline std::function<void()> whenBoxIsPainted;
 
 template <typename Function, typename... Arguments>
@@ -41,10 +38,7 @@ auto callSdl(const char* name, Function*, Arguments... arguments) {
 
 // The linker takes these instead of SDL's. Without a screen there is nothing to swap.
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetPerformanceCounter() {
-    const std::chrono::duration<double> now = std::chrono::steady_clock::now().time_since_epoch();
-    const double count =
-        (now.count() + clockJump) * static_cast<double>(SDL_GetPerformanceFrequency());
-    return static_cast<Uint64>(static_cast<Sint64>(count));
+    return callSdl(__func__, SDL_GetPerformanceCounter) - clockJump;
 }
 
 [[gnu::used]] inline Uint64 SDLCALL SDL_GetTicks64() {
@@ -79,11 +73,6 @@ auto callSdl(const char* name, Function*, Arguments... arguments) {
     return hasWindowManager ? callSdl(__func__, SDL_SetWindowFullscreen, window, flags) : 0;
 }
 
-[[gnu::used]] inline void SDLCALL SDL_GL_DeleteContext(SDL_GLContext context) {
-    ++contextsDeleted;
-    callSdl(__func__, SDL_GL_DeleteContext, context);
-}
-
 [[gnu::used]] inline int SDLCALL SDL_UpdateWindowSurface(SDL_Window*) {
     if (whenBoxIsPainted) { std::exchange(whenBoxIsPainted, nullptr)(); }
     return 0;
@@ -103,8 +92,6 @@ inline LRESULT CALLBACK testProcedure(HWND window, UINT message, WPARAM wParam, 
 // Opens the window, hidden, of the class "Test".
 inline HWND openTestWindow() {
     setenv("SDL_VIDEODRIVER", "offscreen", 0);
-    // A shell ignores this signal for programs in the background; SDL would leave that so.
-    [[maybe_unused]] static const auto inheritedAnswer = std::signal(SIGINT, SIG_DFL);
     WNDCLASSA windowClass = {};
     windowClass.lpszClassName = "Test";
     windowClass.lpfnWndProc = testProcedure;

@@ -8,7 +8,6 @@
 
 #include "platform/sdl/sequencer.h"
 #include "platform/sdl/sound.h"
-#include "platform/sdl/sound_font.h"
 #include "platform/sdl_machine.h"
 #include "platform/small_music.h"
 
@@ -210,8 +209,10 @@ TEST_F(Sounds, OfAPieceGoOnUnderEffectsUntilAnotherIsOpened) {
 TEST_F(Sounds, OfFilesThatAreNoMusicAreRefused) {
     const std::string good = pieceOf(0.5);
     const std::string slow("\0\xFF\x51\3\xFF\xFF\xFF\xFF\xFF\xFF\x7F\x90\x3C\x40", 14);
-    std::vector<std::string> names = {
+    const std::vector<std::string> names = {
         folder + "/none.mid",
+        write("empty.mid", ""),
+        write("half.mid", good.substr(0, good.size() / 2)),
         write("header_and_junk.mid", good.substr(0, 14) + std::string(300, 'j')),
         write("running.mid", midiFile(std::string("\0\x3C\x40\x60\x3C\0", 6))),
         write("no_division.mid", midiFile(good.substr(22, 7), 0)),
@@ -220,9 +221,6 @@ TEST_F(Sounds, OfFilesThatAreNoMusicAreRefused) {
         write("over_an_hour.mid", pieceOf(37.0, "", 1)),
         write("too_large.mid", good + zeros(128 << 10)),
     };
-    for (std::size_t size = 0; size < good.size(); ++size) {
-        names.push_back(write(std::to_string(size) + ".mid", good.substr(0, size)));
-    }
     testing::internal::CaptureStderr();
     for (const std::string& name : names) {
         EXPECT_TRUE(playPiece(name) == 0 && playPiece(name) == 0) << name;
@@ -249,10 +247,6 @@ TEST_F(Sounds, OfPiecesUseTheFirstSoundFontThatIsNotBroken) {
     EXPECT_NEAR(secondsOfSound(samples), 0.3, 0.05);
     EXPECT_GT(secondsOfSound(samples, 0.45), 0.0) << "the game heard of its end at once";
     EXPECT_EQ(linesOfTheGame(), 3);
-    std::string why;
-    setenv("SDL_SOUNDFONTS", "", 1);
-    findSoundFonts(why);
-    EXPECT_EQ(why, "no General MIDI sound font is installed") << "of the usual places";
 }
 
 } // namespace

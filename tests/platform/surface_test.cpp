@@ -104,9 +104,8 @@ TEST_F(Surface, Is640By480In16BitsWith16BitsOfDepth) {
     EXPECT_FALSE(wglMakeCurrent(dc, reinterpret_cast<HGLRC>(&part)));
     EXPECT_TRUE(wglMakeCurrent(dc, nullptr));
     EXPECT_FALSE(SwapBuffers(dc)) << "nothing is bound";
-    const int before = contextsDeleted;
-    EXPECT_TRUE(wglDeleteContext(context));
-    EXPECT_EQ(contextsDeleted, before + 1);
+    EXPECT_TRUE(wglMakeCurrent(dc, context) && wglDeleteContext(context));
+    EXPECT_EQ(SDL_GL_GetCurrentContext(), nullptr);
     EXPECT_FALSE(wglMakeCurrent(dc, context) || wglDeleteContext(context)) << "it is gone";
 }
 
@@ -142,7 +141,6 @@ TEST_F(Surface, StaysSharpAtAnySize) {
         }
         EXPECT_LE(blurred, most) << width;
         EXPECT_EQ(blurred > 0, most > 0) << "all columns are equally wide";
-        EXPECT_EQ(shownAt(width / 2, 50)[2], 0);
     }
     int buffers = 0;
     for (GLuint name = 1; name < 100; ++name) {
@@ -181,7 +179,7 @@ TEST_F(Surface, IsShownAsOftenAsTheDisplayCanAndNoOftener) {
         EXPECT_TRUE(hasFramesWithin(rate == 50 ? 0.02 : 0.006)) << rate;
     }
     refreshRate = 1; // as some drivers report
-    clockJump -= 20.0;
+    clockJump += 20 * SDL_GetPerformanceFrequency();
     EXPECT_LT(secondsFor(2), 1.0);
 }
 
