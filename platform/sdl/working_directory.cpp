@@ -121,8 +121,10 @@ bool enterOwnFolder(const fs::path& data, std::string& why) {
 struct TemporaryFolder {
     fs::path path; // empty: there is none
 
+    // `parent` is empty where TMPDIR names no folder.
     bool make(const fs::path& parent) {
         remove();
+        if (parent.empty()) { return false; }
         std::string name = parent / "glorbix-XXXXXX";
         if (mkdtemp(name.data()) != nullptr) { path = name; }
         return !path.empty();
